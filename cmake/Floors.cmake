@@ -1,0 +1,14 @@
+# coinlet_floor(NAME USES floor... [LIBRARIES target...])
+#
+# One floor of the house: the folder src/NAME as a static library that sees the floors it USES and nothing
+# else. Floors without Qt among their LIBRARIES can't include a Qt header: it isn't on their path.
+# A new unit is a new file in the folder; no list names it.
+function(coinlet_floor name)
+    cmake_parse_arguments(FLOOR "" "" "USES;LIBRARIES" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp
+                                        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+    add_library(${name} STATIC ${sources})
+    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE coinlet_flags ${FLOOR_LIBRARIES})
+endfunction()

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace coinlet {
+
+namespace fs = std::filesystem;
+
+using Bytes = std::vector<std::uint8_t>;
+
+inline std::span<const std::uint8_t> AsBytes(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+/// The calls to the operating system that replacing a file is made of. The program uses SystemFileCalls();
+/// a test hands in its own to make each step fail in turn. Every call returns what the system call of its name
+/// does: -1 (or a short count) is a failure, with errno set.
+class FileCalls {
+public:
+    virtual ~FileCalls() = default;
+    virtual int Open(const char* path, int flags, unsigned mode) = 0;
+    virtual long Write(int file, const void* data, std::size_t size) = 0;
+    virtual int Flush(int file) = 0;
+    virtual int Close(int file) = 0;
+    virtual int Rename(const char* from, const char* to) = 0;
+    virtual int Unlink(const char* path) = 0;
+};
+FileCalls& SystemFileCalls();
+
+/// Replaces the file at `path` by `content` whole or not at all: the bytes are written beside it under a short
+/// temporary name, flushed to the disk, and renamed over it. After any failure the old file stands byte for byte
+/// and no temporary file is left. The mode of an existing file stays, a symbolic link is written through, and
+/// anything that is neither missing nor a regular file (a folder, a pipe) is refused.
+[[nodiscard]] std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content,
+                                          FileCalls& calls = SystemFileCalls());
+
+/// The bytes of a regular file (links are followed), or nothing if it is missing, unreadable, larger than
+/// `limit` bytes, or no regular file: a pipe is never opened, so nothing waits for its other end.
+std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit = std::size_t{1} << 30);
+
+/// True if a regular file stands there (links are followed).
+bool FileExists(const fs::path& path);
+
+/// Deletes a regular file, or a symbolic link alone; anything else is refused.
+[[nodiscard]] std::error_code DeleteFile(const fs::path& path);
+
+/// A name that the user typed or a file told may hold anything; only a plain name leads to a file. False for
+/// names with "/" or a zero byte, for the empty name and for "." and "..".
+bool IsFileName(std::string_view name);
+
+/// The path of a literal such as "\\Data\\English.txt" beneath `folder`; backslashes stand for the separator.
+/// Doubled separators count as one.
+fs::path Beneath(const fs::path& folder, std::string_view literal);
+
+/// The names of the regular files of `folder` that match one of the patterns of `patterns` ("*.bmp;*.jpg"),
+/// without regard to case, sorted by name without regard to case. A folder that can't be read gives no names.
+std::vector<std::string> ListFiles(const fs::path& folder, std::string_view patterns);
+
+/// The names of the folders in `folder`, sorted likewise, without "." and "..", hidden ones (".name") left out.
+std::vector<std::string> ListFolders(const fs::path& folder);
+
+/// True if `name` matches `pattern`, without regard to case: "*" is any run of characters, "?" any one.
+bool MatchesPattern(std::string_view name, std::string_view pattern);
+
+}  // namespace coinlet

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coinlet {
+
+/// Texts are UTF-8 inside the program and Windows-1252, one byte a character, in its files.
+/// The five bytes that Windows-1252 leaves unassigned stand for the control characters of the same number, so
+/// that all 256 bytes survive reading and writing. A character outside the page is written as "?"; a malformed
+/// UTF-8 byte counts as such a character.
+std::string FromCodePage(std::string_view bytes);
+std::string ToCodePage(std::string_view utf8);
+
+/// The characters of a UTF-8 text, each as a text of its own; malformed bytes stand alone.
+std::vector<std::string> Characters(std::string_view utf8);
+
+/// The UTF-8 form of one code point; one outside Unicode gives U+FFFD.
+std::string Utf8(char32_t codePoint);
+
+/// `text` without blanks (spaces) at both ends; tabs and line ends are no blanks here.
+std::string_view TrimBlanks(std::string_view text);
+
+/// `text` with its ASCII letters in lower case, and those of Latin-1 and Latin Extended-A too (É -> é).
+std::string LowerCase(std::string_view utf8);
+
+/// Orders texts without regard to case; texts that differ in case alone are ordered by their bytes, so that a
+/// sorted list is always the same list.
+bool LessIgnoringCase(std::string_view a, std::string_view b);
+
+/// The lines of a text; CR LF, LF and CR end a line. An end after the last line starts no further one.
+std::vector<std::string> Lines(std::string_view text);
+
+}  // namespace coinlet

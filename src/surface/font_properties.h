@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "base/font.h"
+
+namespace coinlet {
+
+/// The font of whatever prints: surfaces, labels, text boxes. What is set is what is read back.
+struct FontProperties {
+    std::string FontName = "Arial";
+    float FontSize = 8.25F;
+    bool FontBold = false;
+    bool FontItalic = false;
+    bool FontUnderline = false;
+    bool FontStrikethru = false;
+
+    FontSpec CurrentFont() const {
+        return {FontName, FontSize, FontBold, FontItalic, FontUnderline, FontStrikethru};
+    }
+
+    friend bool operator==(const FontProperties&, const FontProperties&) = default;
+};
+
+}  // namespace coinlet
