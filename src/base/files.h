@@ -21,8 +21,8 @@ inline std::span<const std::uint8_t> AsBytes(std::string_view text) {
 }
 
 /// The calls to the operating system that replacing a file is made of. The program uses SystemFileCalls();
-/// a test hands in its own to make each step fail in turn. Every call returns what the system call of its name
-/// does: -1 (or a short count) is a failure, with errno set.
+/// a test hands in its own to make each step fail in turn. Every call returns what the system call of its
+/// name does: -1 (or a short count) is a failure, with errno set.
 class FileCalls {
 public:
     virtual ~FileCalls() = default;
@@ -35,10 +35,10 @@ public:
 };
 FileCalls& SystemFileCalls();
 
-/// Replaces the file at `path` by `content` whole or not at all: the bytes are written beside it under a short
-/// temporary name, flushed to the disk, and renamed over it. After any failure the old file stands byte for byte
-/// and no temporary file is left. The mode of an existing file stays, a symbolic link is written through, and
-/// anything that is neither missing nor a regular file (a folder, a pipe) is refused.
+/// Replaces the file at `path` by `content` whole or not at all: the bytes are written beside it under a
+/// short temporary name, flushed to the disk, and renamed over it. After any failure the old file stands byte
+/// for byte and no temporary file is left. The mode of an existing file stays, a symbolic link is written
+/// through, and anything that is neither missing nor a regular file (a folder, a pipe) is refused.
 [[nodiscard]] std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content,
                                           FileCalls& calls = SystemFileCalls());
 
@@ -64,7 +64,8 @@ fs::path Beneath(const fs::path& folder, std::string_view literal);
 /// without regard to case, sorted by name without regard to case. A folder that can't be read gives no names.
 std::vector<std::string> ListFiles(const fs::path& folder, std::string_view patterns);
 
-/// The names of the folders in `folder`, sorted likewise, without "." and "..", hidden ones (".name") left out.
+/// The names of the folders in `folder`, sorted likewise, without "." and "..", hidden ones (".name") left
+/// out.
 std::vector<std::string> ListFolders(const fs::path& folder);
 
 /// True if `name` matches `pattern`, without regard to case: "*" is any run of characters, "?" any one.

@@ -28,8 +28,8 @@ struct TextExtent {
 };
 
 /// A text as coverage: 0 is paper, 255 is ink. Row by row, `width` bytes a row.
-/// The mask's top left pixel lies at (left, top) from the point that the text is drawn at, which is the top left
-/// corner of its cell; parts of letters may reach out of the cell, so `left` and `top` may be negative.
+/// The mask's top left pixel lies at (left, top) from the point that the text is drawn at, which is the top
+/// left corner of its cell; parts of letters may reach out of the cell, so `left` and `top` may be negative.
 struct TextMask {
     int left = 0, top = 0;
     int width = 0, height = 0;

@@ -8,8 +8,8 @@ namespace coinlet {
 
 /// Texts are UTF-8 inside the program and Windows-1252, one byte a character, in its files.
 /// The five bytes that Windows-1252 leaves unassigned stand for the control characters of the same number, so
-/// that all 256 bytes survive reading and writing. A character outside the page is written as "?"; a malformed
-/// UTF-8 byte counts as such a character.
+/// that all 256 bytes survive reading and writing. A character outside the page is written as "?"; a
+/// malformed UTF-8 byte counts as such a character.
 std::string FromCodePage(std::string_view bytes);
 std::string ToCodePage(std::string_view utf8);
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "base/files.h"
+#include "surface/image.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <span>
 #include <system_error>
-
-#include "base/files.h"
-#include "surface/image.h"
 
 namespace coinlet {
 
@@ -26,13 +26,14 @@ public:
 
 /// A Windows bitmap in memory: 1, 4, 8, 16, 24 or 32 bits a pixel, plain, run-length (RLE4, RLE8) or with bit
 /// fields, either row order, any of the headers from 12 to 124 bytes. The fourth byte of 32 bits is ignored.
-/// Missing pixels at the end of a file that is cut short are black, pixels that run-lengths skip too. Nothing for
-/// a broken header, a size of 0 or one that IsPictureSize refuses.
+/// Missing pixels at the end of a file that is cut short are black, pixels that run-lengths skip too. Nothing
+/// for a broken header, a size of 0 or one that IsPictureSize refuses.
 std::optional<Image> DecodeBmp(std::span<const std::uint8_t> bytes);
 /// A Windows bitmap of 24 bits a pixel, uncompressed, bottom row first. Nothing for the empty picture.
 std::optional<Bytes> EncodeBmp(const Image& image);
 
-/// A picture from the bytes of a file: what its first bytes say it is, BMP, GIF or JPEG, whatever it is called.
+/// A picture from the bytes of a file: what its first bytes say it is, BMP, GIF or JPEG, whatever it is
+/// called.
 std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs);
 /// A picture from a file. Nothing if it can't be read, is no regular file, or holds no picture.
 std::optional<Image> LoadPicture(const std::filesystem::path& path, const PictureCodecs& codecs);

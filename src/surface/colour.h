@@ -5,12 +5,12 @@
 
 namespace coinlet {
 
-/// A colour as the program's interfaces speak of it: 0x00BBGGRR, red in the low byte. -1 is what `Point` gives
-/// outside a surface; drawn, it is white.
+/// A colour as the program's interfaces speak of it: 0x00BBGGRR, red in the low byte. -1 is what `Point`
+/// gives outside a surface; drawn, it is white.
 using Colour = std::int32_t;
 
-/// A pixel as it lies in memory: blue, green, red, spare; as a number 0xSSRRGGBB. The spare byte is 255 in every
-/// surface and image, so that pixels compare as whole numbers and a screen takes them as opaque.
+/// A pixel as it lies in memory: blue, green, red, spare; as a number 0xSSRRGGBB. The spare byte is 255 in
+/// every surface and image, so that pixels compare as whole numbers and a screen takes them as opaque.
 using Pixel = std::uint32_t;
 
 constexpr Pixel spareByte = 0xFF000000u;
@@ -21,9 +21,15 @@ constexpr Colour RGB(int red, int green, int blue) {
 }
 
 /// The channels of a colour, by truncating arithmetic: those of -1 are -1, 0, 0.
-constexpr int Red(Colour colour) { return colour % 256; }
-constexpr int Green(Colour colour) { return (colour / 256) % 256; }
-constexpr int Blue(Colour colour) { return colour / 65536; }
+constexpr int Red(Colour colour) {
+    return colour % 256;
+}
+constexpr int Green(Colour colour) {
+    return (colour / 256) % 256;
+}
+constexpr int Blue(Colour colour) {
+    return colour / 65536;
+}
 
 constexpr Pixel ToPixel(Colour colour) {
     const auto bits = static_cast<std::uint32_t>(colour);

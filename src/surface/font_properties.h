@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "base/font.h"
+
+#include <string>
 
 namespace coinlet {
 

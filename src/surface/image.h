@@ -1,10 +1,10 @@
 #pragma once
 
+#include "surface/colour.h"
+
 #include <cstddef>
 #include <memory>
 #include <span>
-
-#include "surface/colour.h"
 
 namespace coinlet {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <optional>
-#include <string_view>
-
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 #include "surface/geometry.h"
 #include "surface/image.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
 
 namespace coinlet {
 
@@ -17,9 +17,9 @@ struct LOGFONT;
 
 /// Raster operations, by their 32-bit codes.
 enum class RasterOp : std::uint32_t {
-    SRCCOPY = 0xCC0020,            ///< source
-    SRCAND = 0x8800C6,             ///< destination AND source: white leaves the destination, black blacks out
-    MERGE_NOT_SOURCE = 0xBB0226,   ///< destination OR NOT source
+    SRCCOPY = 0xCC0020,           ///< source
+    SRCAND = 0x8800C6,            ///< destination AND source: white leaves the destination, black blacks out
+    MERGE_NOT_SOURCE = 0xBB0226,  ///< destination OR NOT source
 };
 using enum RasterOp;
 
@@ -71,13 +71,13 @@ public:
     virtual void SurfaceRefreshed(const Surface& surface) = 0;
 };
 
-/// A raster picture with the drawing operations of the whole program. It lives in memory; nothing here knows of
-/// windows.
+/// A raster picture with the drawing operations of the whole program. It lives in memory; nothing here knows
+/// of windows.
 ///
 /// Coordinates are in the units of `ScaleMode`: pixels (3, the normal state) or twips (1), or those of a user
-/// scale. The origin is the top left corner, y grows downward. They may be fractions: each is rounded, a half to
-/// the even neighbour, at the moment of drawing. Coordinates outside the surface are clipped; a NaN among the
-/// arguments draws nothing, an infinity or a huge number counts as far away.
+/// scale. The origin is the top left corner, y grows downward. They may be fractions: each is rounded, a half
+/// to the even neighbour, at the moment of drawing. Coordinates outside the surface are clipped; a NaN among
+/// the arguments draws nothing, an infinity or a huge number counts as far away.
 ///
 /// Plain data members are drawing state: setting them does nothing by itself.
 class Surface : public FontProperties {
@@ -93,13 +93,13 @@ public:
 
     Colour ForeColor = black;
     Colour FillColor = black;
-    int DrawMode = copyPen;          ///< Only `Line`, `Circle` and `PSet` heed it.
-    int DrawStyle = solidLine;       ///< Dots are 3 on, 3 off, on lines of one pixel's width.
-    int DrawWidth = 1;               ///< Pen width in pixels; below 1 counts as 1.
-    int FillStyle = transparentFill; ///< solidFill: closed figures are filled with `FillColor`.
+    int DrawMode = copyPen;           ///< Only `Line`, `Circle` and `PSet` heed it.
+    int DrawStyle = solidLine;        ///< Dots are 3 on, 3 off, on lines of one pixel's width.
+    int DrawWidth = 1;                ///< Pen width in pixels; below 1 counts as 1.
+    int FillStyle = transparentFill;  ///< solidFill: closed figures are filled with `FillColor`.
     float CurrentX = 0, CurrentY = 0;
-    /// True: assigning a picture resizes the surface to it. False: a picture keeps its size, stands at the top
-    /// left corner, and is cropped or surrounded by `BackColor`.
+    /// True: assigning a picture resizes the surface to it. False: a picture keeps its size, stands at the
+    /// top left corner, and is cropped or surrounded by `BackColor`.
     bool AutoSize = false;
     /// The font that SelectObject (device.h) put here for device text; null is the surface's own font.
     std::shared_ptr<const LOGFONT> DeviceFont;
@@ -118,9 +118,9 @@ public:
     /// Inner size in scale units. With a user scale: the differences of its edges, so they may be negative.
     double ScaleWidth() const;
     double ScaleHeight() const;
-    /// A user scale: a linear map that gives the top left corner of the surface the coordinates (left, top) and
-    /// its bottom right corner (right, bottom). It holds until the next change of scale. Edges that coincide or
-    /// aren't finite are ignored.
+    /// A user scale: a linear map that gives the top left corner of the surface the coordinates (left, top)
+    /// and its bottom right corner (right, bottom). It holds until the next change of scale. Edges that
+    /// coincide or aren't finite are ignored.
     void Scale(double left, double top, double right, double bottom);
 
     // --- Background, pictures --------------------------------------------------------------------------
@@ -130,10 +130,10 @@ public:
     void SetBackColor(Colour colour);
 
     /// The stored picture, to which `Cls` returns; empty if there is none.
-    const Image& Picture() const { return picture_; }
-    /// Takes a picture as the stored picture and as what is drawn. The empty picture leaves the bare `BackColor`
-    /// (and, with `AutoSize`, the size as it is).
-    void SetPicture(const Image& picture);
+    const coinlet::Image& Picture() const { return picture_; }
+    /// Takes a picture as the stored picture and as what is drawn. The empty picture leaves the bare
+    /// `BackColor` (and, with `AutoSize`, the size as it is).
+    void SetPicture(const coinlet::Image& picture);
     /// A snapshot of what is drawn at this moment.
     coinlet::Image Image() const { return coinlet::Image(bitmap_); }
 
@@ -147,16 +147,17 @@ public:
     /// The colour of the pixel, or -1 outside the surface.
     Colour Point(double x, double y) const;
     /// With Box::None a straight line whose last point is not plotted; a colour left out means `ForeColor`.
-    /// Wide lines have round ends. One call touches each pixel once. An outlined box is filled with `FillColor`
-    /// if `FillStyle` is solidFill.
+    /// Wide lines have round ends. One call touches each pixel once. An outlined box is filled with
+    /// `FillColor` if `FillStyle` is solidFill.
     void Line(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {},
               Box box = Box::None);
     /// The same from the graphics cursor on.
     void LineTo(double x2, double y2, std::optional<Colour> colour = {}, Box box = Box::None);
-    /// A circle, or with `aspect` (height divided by width) an ellipse whose longer semi-axis is `radius`: the
-    /// vertical one above 1, the horizontal one below. With `arc` only that part, counter-clockwise from start to
-    /// end; equal angles are the whole ellipse, an end of 0 is a full turn. Whole figures are filled with
-    /// `FillColor` if `FillStyle` is solidFill. A negative radius or an aspect not above 0 draws nothing.
+    /// A circle, or with `aspect` (height divided by width) an ellipse whose longer semi-axis is `radius`:
+    /// the vertical one above 1, the horizontal one below. With `arc` only that part, counter-clockwise from
+    /// start to end; equal angles are the whole ellipse, an end of 0 is a full turn. Whole figures are filled
+    /// with `FillColor` if `FillStyle` is solidFill. A negative radius or an aspect not above 0 draws
+    /// nothing.
     void Circle(double x, double y, double radius, std::optional<Colour> colour = {},
                 std::optional<ArcAngles> arc = {}, double aspect = 1);
 
@@ -165,15 +166,16 @@ public:
     /// Copies a whole picture to a rectangle, stretched.
     void PaintPicture(const coinlet::Image& source, const Rectangle& to, RasterOp op = SRCCOPY);
     /// Copies the part `from` of a picture to the rectangle `to`, both in the scale units of this surface.
-    /// Where the sizes differ it is stretched: target column i of m takes source column floor((i + 1/2) n / m).
-    /// A negative width or height runs from x leftward or from y upward, x and y included, and so mirrors. What
-    /// `from` has outside the picture leaves the target as it was. The source may be this surface's own image.
+    /// Where the sizes differ it is stretched: target column i of m takes source column floor((i + 1/2) n /
+    /// m). A negative width or height runs from x leftward or from y upward, x and y included, and so
+    /// mirrors. What `from` has outside the picture leaves the target as it was. The source may be this
+    /// surface's own image.
     void PaintPicture(const coinlet::Image& source, const Rectangle& to, const Rectangle& from,
                       RasterOp op = SRCCOPY);
 
-    /// Prints in `ForeColor` and the current font on the transparent background from the cursor on, which is the
-    /// top left corner of the text; then `CurrentX` becomes 0 and `CurrentY` moves down by a line. CR LF in the
-    /// text breaks the line.
+    /// Prints in `ForeColor` and the current font on the transparent background from the cursor on, which is
+    /// the top left corner of the text; then `CurrentX` becomes 0 and `CurrentY` moves down by a line. CR LF
+    /// in the text breaks the line.
     void Print(std::string_view text);
     /// The same, but leaves the cursor behind the text.
     void PrintOn(std::string_view text);
@@ -190,8 +192,8 @@ public:
     const FontEngine& Fonts() const { return *fonts_; }
 
     const Bitmap& Pixels() const { return *bitmap_; }
-    /// The pixels for writing into `area` of them, which counts as changed from now on; what shared them keeps
-    /// its own. The reference is good until the next call of anything else here.
+    /// The pixels for writing into `area` of them, which counts as changed from now on; what shared them
+    /// keeps its own. The reference is good until the next call of anything else here.
     Bitmap& Write(const PixelRect& area) {
         if (bitmap_.use_count() > 1) Detach();
         changed_ = Union(changed_, area);

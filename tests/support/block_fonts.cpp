@@ -10,7 +10,8 @@ TextMask BlockFonts::Render(const FontSpec& font, std::string_view text, Edges, 
     flat.height = line;
     flat.coverage.assign(static_cast<std::size_t>(flat.width) * static_cast<std::size_t>(line), 0);
     const auto at = [](const TextMask& mask, int x, int y) {
-        return static_cast<std::size_t>(y) * static_cast<std::size_t>(mask.width) + static_cast<std::size_t>(x);
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(mask.width) +
+               static_cast<std::size_t>(x);
     };
     for (std::size_t i = 0; i < letters.size(); ++i) {
         if (letters[i] == " ") continue;
@@ -24,7 +25,8 @@ TextMask BlockFonts::Render(const FontSpec& font, std::string_view text, Edges, 
     TextMask turned;
     turned.width = quarters == 2 ? flat.width : flat.height;
     turned.height = quarters == 2 ? flat.height : flat.width;
-    // About the top left corner: 90 degrees runs upward from it, 180 to its upper left, 270 downward to its left.
+    // About the top left corner: 90 degrees runs upward from it, 180 to its upper left, 270 downward to its
+    // left.
     turned.left = quarters == 1 ? 0 : -turned.width;
     turned.top = quarters == 3 ? 0 : -turned.height;
     turned.coverage.assign(flat.coverage.size(), 0);
