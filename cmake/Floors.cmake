@@ -5,10 +5,14 @@
 # A new unit is a new file in the folder; no list names it.
 function(coinlet_floor name)
     cmake_parse_arguments(FLOOR "" "" "USES;LIBRARIES" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp
-                                        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    if(NOT sources)  # headers alone
+        add_library(${name} INTERFACE)
+        target_include_directories(${name} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+        target_link_libraries(${name} INTERFACE ${FLOOR_USES})
+        return()
+    endif()
     add_library(${name} STATIC ${sources})
-    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE coinlet_flags ${FLOOR_LIBRARIES})
 endfunction()
