@@ -1,0 +1,49 @@
+#pragma once
+
+#include "controls/list_box.h"
+
+#include <string>
+
+namespace coinlet {
+
+/// A text field with a list that drops down. A choice of a row puts it into the text and raises `Click` only;
+/// typing, or assigning another text, raises `Change` only and leaves no row chosen.
+class ComboBox : public Control, public FontProperties {
+public:
+    ComboBox(Container& container, std::string_view name, int index = noIndex);
+
+    Colour ForeColor = RGB(220, 220, 250);
+    Colour BackColor = RGB(0, 0, 50);
+
+    int ListCount() const { return rows_.Count(); }
+    const std::string& List(int index) const { return rows_.Row(index); }
+    void AddItem(const std::string& row);
+    void RemoveItem(int index);
+    /// Empties the list and the text, without an event.
+    void Clear();
+    int ListIndex() const { return listIndex_; }
+    /// -1 empties the text. An index outside the list is passed over.
+    void SetListIndex(int index);
+    const std::string& Text() const { return text_; }
+    void SetText(const std::string& text);
+
+    Event<> Change;
+
+    /// The user's choice of a row, also of the chosen one.
+    void UserPicks(int index);
+    void UserTypes(std::string_view character);
+    void UserEdits(const std::string& text) { SetText(text); }
+    /// Up and down step through the rows.
+    void KeyPressed(int code, int shift) override;
+
+    const RowList& Rows() const { return rows_; }
+    void VisitProperties(PropertyVisitor& visitor) override;
+    void VisitEvents(EventVisitor& visitor) override;
+
+private:
+    RowList rows_;
+    int listIndex_ = -1;
+    std::string text_;
+};
+
+}  // namespace coinlet

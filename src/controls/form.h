@@ -1,0 +1,112 @@
+#pragma once
+
+#include "controls/container.h"
+#include "controls/element.h"
+#include "surface/colour.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coinlet {
+
+class FontEngine;
+class MenuItem;
+class Platform;
+class Timer;
+
+/// What every form is handed: the platform that shows it, and the fonts that its surfaces print with.
+struct FormServices {
+    Platform& platform;
+    const FontEngine& fonts;
+};
+
+/// A window as plain data: its controls are public members of the form's own type, which list themselves
+/// here; its handlers are member functions named control, underscore, event. No handler knows whether a
+/// window shows it.
+class Form : public Container {
+public:
+    Form(FormServices services, std::string_view name);
+    ~Form() override;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    std::string_view Name() const { return name_; }
+    Platform& GetPlatform() const { return services_.platform; }
+    const FontEngine& Fonts() const { return services_.fonts; }
+
+    std::string Caption;
+    /// Inner size in twips, the menu bar not counted.
+    double Width = 0, Height = 0;
+    Colour BackColor = RGB(220, 220, 190);
+    int MousePointer = 0;
+
+    /// The user may have the form before him: from its loading to its unloading.
+    bool Loaded() const { return loaded_; }
+    /// Unloads the form: `Form_Unload` may refuse. A modal dialog's call of `ShowModal` then returns. The
+    /// form itself lives on until its handlers have returned. Does nothing on a form that isn't loaded.
+    void Unload();
+
+    /// What the three moments of a form's life do; a form overrides those it has something to do at.
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Unload(bool& cancel);
+
+    /// The control that has the focus, or nullptr. One that was hidden or disabled since has it no more.
+    Control* Focus() const;
+    /// Moves the focus and tells both controls; nullptr takes it away. A control that can't have it changes
+    /// nothing.
+    void MoveFocus(Control* control);
+    /// Gives the focus to the next (or previous) control in tab order, round about.
+    void MoveFocusByTab(bool backward);
+    /// The controls in tab order.
+    std::vector<Control*> TabOrder() const;
+
+    /// The button that the Enter key presses while a text box of one line, a list, or nothing has the focus.
+    Control* DefaultButton = nullptr;
+
+    /// A key goes to `target` (or to the control with the focus; or to nobody): down, typed, up.
+    void KeyDown(Control* target, int code, int shift);
+    void KeyUp(Control* target, int code, int shift);
+    void KeyTyped(Control* target, int character);
+
+    /// All that can be addressed on the form, in the order it was made.
+    const std::vector<Element*>& Elements() const { return elements_; }
+    Element* Find(std::string_view name, int index = noIndex) const;
+    /// Grows whenever an element comes or goes.
+    std::uint64_t ElementRevision() const { return elementRevision_; }
+    /// The menus that are not part of another menu.
+    const std::vector<MenuItem*>& Menus() const { return menus_; }
+    const std::vector<Timer*>& Timers() const { return timers_; }
+
+    virtual void VisitProperties(PropertyVisitor& visitor);
+    void VisitEvents(EventVisitor& visitor);
+
+    Form& HostForm() override { return *this; }
+    bool ContainerShown() const override { return loaded_; }
+    bool ContainerEnabled() const override { return true; }
+    double ChildUnitsPerPixel() const override { return 15; }
+
+private:
+    friend class Element;
+    friend class Control;
+    friend class MenuItem;
+    friend class Platform;
+    friend class Timer;
+
+    /// Escape presses the form's `CancelKnop`, or its `ExitKnop`, if that can be pressed.
+    bool PressCancel();
+
+    FormServices services_;
+    std::string_view name_;
+    std::vector<Element*> elements_;
+    std::vector<MenuItem*> menus_;
+    std::vector<Timer*> timers_;
+    std::uint64_t elementRevision_ = 0;
+    Control* focus_ = nullptr;
+    int controlsMade_ = 0;
+    bool loaded_ = false;
+};
+
+}  // namespace coinlet

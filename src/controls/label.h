@@ -1,0 +1,36 @@
+#pragma once
+
+#include "controls/control.h"
+#include "surface/colour.h"
+#include "surface/font_properties.h"
+
+#include <string>
+
+namespace coinlet {
+
+enum class Alignment { Left, Right, Center };
+
+/// A text that the user reads. It takes pointer events and no focus.
+class Label : public Control, public FontProperties {
+public:
+    Label(Container& container, std::string_view name, int index = noIndex);
+
+    std::string Caption;
+    Colour ForeColor = black;
+    Colour BackColor = RGB(220, 220, 190);
+    bool Transparent = true;  ///< What lies behind shows through; else `BackColor` fills the label.
+    bool Border = false;      ///< A thin sunken frame.
+    coinlet::Alignment Alignment = Alignment::Left;
+    bool WordWrap = true;
+    /// The label is as large as its caption, which then isn't wrapped.
+    bool AutoSize = false;
+
+    double Width() const override;
+    double Height() const override;
+    void VisitProperties(PropertyVisitor& visitor) override;
+
+private:
+    double UnitsOf(int pixels) const;
+};
+
+}  // namespace coinlet

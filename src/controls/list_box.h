@@ -1,0 +1,83 @@
+#pragma once
+
+#include "controls/control.h"
+#include "surface/colour.h"
+#include "surface/font_properties.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace coinlet {
+
+/// Rows of text with one choice; what list boxes and combo boxes share.
+class RowList {
+public:
+    explicit RowList(bool sorted = false) : sorted_(sorted) {}
+
+    int Count() const { return static_cast<int>(rows_.size()); }
+    /// Row `index`, or an empty text outside the list.
+    const std::string& Row(int index) const;
+    bool Contains(int index) const { return index >= 0 && index < Count(); }
+    /// Appends a row, or puts it in its place in a sorted list; returns where it stands.
+    int Add(const std::string& row);
+    /// Replaces or removes a row; false for an index outside the list.
+    bool Replace(int index, const std::string& row);
+    bool Remove(int index);
+    void Clear();
+    /// The first row with exactly that text, or -1.
+    int Find(std::string_view row) const;
+
+    bool Sorted() const { return sorted_; }
+    void SetSorted(bool sorted) { sorted_ = sorted; }
+    /// Grows with every change of the rows; a shell fills its list again only then.
+    std::uint64_t Revision() const { return revision_; }
+
+private:
+    std::vector<std::string> rows_;
+    bool sorted_;
+    std::uint64_t revision_ = 0;
+};
+
+/// A list with one row chosen, or none (-1). Choosing another row, by the user or in code, raises `Click`;
+/// the user's click on the chosen row raises it again; removing rows and clearing raise nothing.
+class ListBox : public Control, public FontProperties {
+public:
+    ListBox(Container& container, std::string_view name, int index = noIndex);
+
+    Colour ForeColor = RGB(220, 220, 250);
+    Colour BackColor = RGB(0, 0, 50);
+    /// Rows stand in order, without regard to case. To be set before rows are added.
+    void SetSorted(bool sorted) { rows_.SetSorted(sorted); }
+
+    int ListCount() const { return rows_.Count(); }
+    /// Row `index`, or an empty text outside the list.
+    const std::string& List(int index) const { return rows_.Row(index); }
+    /// The assignments pass over an index outside the list.
+    void SetList(int index, const std::string& row);
+    void AddItem(const std::string& row);
+    void RemoveItem(int index);
+    void Clear();
+    int ListIndex() const { return listIndex_; }
+    void SetListIndex(int index);
+    /// The chosen row, or an empty text.
+    const std::string& Text() const { return rows_.Row(listIndex_); }
+
+    /// A double click, or Enter, on the chosen row.
+    Event<> DblClick;
+
+    /// The user's click on a row, also on the chosen one. An index outside the list does nothing.
+    virtual void UserPicks(int index);
+    virtual void UserActivates();
+    void KeyPressed(int code, int shift) override;
+
+    const RowList& Rows() const { return rows_; }
+    void VisitProperties(PropertyVisitor& visitor) override;
+    void VisitEvents(EventVisitor& visitor) override;
+
+private:
+    RowList rows_;
+    int listIndex_ = -1;
+};
+
+}  // namespace coinlet

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "controls/control.h"
+#include "surface/surface.h"
+
+namespace coinlet {
+
+/// A control that shows a surface and may hold other controls, placed in the units of its scale.
+///
+/// It keeps the told size in its container's units; the bitmap has a fifteenth of the twips, rounded half to
+/// even.
+class PictureBox : public Control, public Container {
+public:
+    PictureBox(Container& container, std::string_view name, int index = noIndex);
+
+    /// The pixels and the drawing state.
+    Surface surface;
+
+    /// True: the bitmap stays as it is whatever the size assigned, and the window shows the part of it that
+    /// the size leaves, from its top left pixel on.
+    bool FixedBitmap = false;
+
+    /// The size assigned; or, after a picture resized the surface (`AutoSize`), the size of the bitmap.
+    double Width() const override;
+    double Height() const override;
+    /// Resizes the bitmap. A size that can't be made (see IsPictureSize) is refused: nothing changes.
+    void SetWidth(double width) override;
+    void SetHeight(double height) override;
+
+    float PointerUnitsPerPixel() const override;
+    void VisitProperties(PropertyVisitor& visitor) override;
+
+    Form& HostForm() override { return OwnerForm(); }
+    bool ContainerShown() const override { return Shown(); }
+    bool ContainerEnabled() const override { return Reachable(); }
+    double ChildUnitsPerPixel() const override;
+};
+
+/// A picture of a form that no window shows: stock pictures, scratch pictures of a fixed content.
+class StockPicture : public Element {
+public:
+    StockPicture(Form& form, std::string_view name, int index = noIndex) : Element(form, name, index) {}
+
+    Image Picture;
+
+    void VisitProperties(PropertyVisitor& visitor) override;
+};
+
+}  // namespace coinlet

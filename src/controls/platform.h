@@ -1,0 +1,106 @@
+#pragma once
+
+#include "controls/form.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coinlet {
+
+class Control;
+class MenuItem;
+
+/// Thrown by Platform::End, and by every call of the platform that served events when the program ended in
+/// one of them, so that no handler runs on. It is caught where events enter the program, and nowhere else.
+class ProgramEnded {};
+
+enum class MessageButtons { Ok, YesNo };
+enum class MessageIcon { None, Stop, Question, Warning, Information };
+enum class Answer { Ok, Cancel, Yes, No };
+
+constexpr std::string_view programTitle = "Coinlet Designer";
+
+/// A message box or a question. Escape in a yes/no box is No.
+struct Message {
+    std::string prompt;
+    std::string title{programTitle};
+    MessageButtons buttons = MessageButtons::Ok;
+    MessageIcon icon = MessageIcon::None;
+    /// The button that the Enter key presses; questions that destroy something stand on No.
+    Answer standard = Answer::Ok;
+};
+
+/// What the program asks of the screen, and the pointer that it shows everywhere.
+struct ScreenState {
+    int DotsPerInch = 96;
+    int Width = 1920, Height = 1080;  ///< Pixels.
+    /// hourglassPointer shows the hourglass on the whole screen; defaultPointer and toolPointer lift it.
+    int MousePointer = 0;
+};
+
+/// The windows of the program, seen from inside: a shell with real ones, or the scenario player with none.
+/// All calls that serve events may run other handlers before they return; when the program ended meanwhile
+/// they throw ProgramEnded.
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    ScreenState Screen;
+
+    /// Loads a form and shows it in front as the program's main window, without waiting.
+    void ShowMain(Form& form);
+    /// Loads a dialog, shows it in front of the form before it and returns when it has unloaded; the form
+    /// that is then in front is activated. A dialog that unloads itself while it loads is never shown.
+    void ShowModal(Form& dialog);
+
+    /// Serves waiting events once. At a depth of 16 calls it returns at once.
+    void DoEvents();
+    /// Serves events for that many seconds; not above 0, once. At a depth of 16 calls it returns at once.
+    void Wait(double seconds);
+
+    Answer ShowMessage(const Message& message);
+    /// The user's text; empty if he cancels.
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& standard);
+    /// The path of the folder that the user chose; empty if he cancels.
+    std::string PickFolder(const std::string& title);
+
+    /// Pops up a menu at the pointer and returns at once; what is chosen comes as its own event.
+    virtual void PopupMenu(MenuItem& menu) = 0;
+    /// True if the pointer is over the control and nothing covers it there.
+    virtual bool IsPointerOver(const Control& control) const = 0;
+
+    /// Ends the program: no handler runs on, and later calls of DoEvents and Wait return at once.
+    [[noreturn]] void End();
+    bool Ended() const { return ended_; }
+
+    /// The loaded forms; the last one is in front and the only one the user can reach.
+    const std::vector<Form*>& Forms() const { return forms_; }
+    Form* FrontForm() const { return forms_.empty() ? nullptr : forms_.back(); }
+    Form* FindForm(std::string_view name) const;
+
+protected:
+    /// Serves events until `dialog` is unloaded or the program has ended.
+    virtual void RunModal(Form& dialog) = 0;
+    virtual void FormLoaded(Form& form) = 0;
+    virtual void FormUnloaded(Form& form) = 0;
+    virtual void ServeEvents() = 0;
+    virtual void ServeEventsFor(double seconds) = 0;
+    virtual Answer AskMessage(const Message& message) = 0;
+    virtual std::string AskText(const std::string& prompt, const std::string& title,
+                                const std::string& standard) = 0;
+    virtual std::string AskFolder(const std::string& title) = 0;
+    virtual void ProgramEnding() = 0;
+
+private:
+    friend class Form;
+    void Load(Form& form);
+    void Remove(Form& form);
+    void ThrowIfEnded() const;
+
+    std::vector<Form*> forms_;
+    int depth_ = 0;
+    bool ended_ = false;
+};
+
+}  // namespace coinlet

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/control.h"
+#include "surface/colour.h"
+#include "surface/font_properties.h"
+
+#include <string>
+
+namespace coinlet {
+
+/// A text that the user edits. Dark blue with light letters, like all fields.
+class TextBox : public Control, public FontProperties {
+public:
+    TextBox(Container& container, std::string_view name, int index = noIndex);
+
+    const std::string& Text() const { return text_; }
+    /// A changed text raises `Change`.
+    void SetText(const std::string& text);
+
+    Colour ForeColor = RGB(220, 220, 250);
+    Colour BackColor = RGB(0, 0, 50);
+    bool MultiLine = false;       ///< Lines end in CR LF; long ones wrap.
+    bool VerticalScroll = false;  ///< A scroll bar at the right, for multi-line boxes.
+    bool Locked = false;          ///< The user can read and copy, but not change.
+
+    Event<> Change;
+
+    /// The user types one character; `Change` comes once a character. A control character other than a line
+    /// end in a multi-line box types nothing; nor does anything in a locked box.
+    void UserTypes(std::string_view character);
+    /// The user's editing made the text what it now is.
+    void UserEdits(const std::string& text);
+
+    void VisitProperties(PropertyVisitor& visitor) override;
+    void VisitEvents(EventVisitor& visitor) override;
+
+private:
+    std::string text_;
+};
+
+}  // namespace coinlet
