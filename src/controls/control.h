@@ -37,7 +37,8 @@ constexpr int toolPointer = 99;
 /// scale's own on pictures.
 ///
 /// The functions `Pointer...`, `Key...`, `Focus...` are the user's doings. Shell and scenario player call
-/// these and nothing else, so that both lead to the same events.
+/// these and nothing else, so that both lead to the same events. On a control that is disabled, or whose form
+/// isn't loaded, they do nothing.
 class Control : public Element {
 public:
     Control(Container& container, std::string_view name, int index, ControlKind kind);
@@ -117,8 +118,8 @@ protected:
     void MakeFocusable() { takesFocus_ = TabStop = true; }
     /// What a finished click does.
     virtual void Clicked() { Click(); }
-    /// True if the user can do something to it now. Asked again after every event that was raised: its
-    /// handler may have disabled or hidden the control, or closed the form.
+    /// True if the user can do something to it now: its form is loaded, and it is reachable. Asked again
+    /// after every event that was raised, since the handler may have disabled it or closed the form.
     bool Answers() const;
     /// Ends a press; true if it was one of the left button that began here.
     bool EndPress(int button);
