@@ -10,10 +10,10 @@ namespace coinlet {
 
 namespace {
 
-int ClampToInt(double whole) {
-    if (std::isnan(whole)) return 0;
+double ClampToInt(double value) {
+    if (std::isnan(value)) return 0;
     constexpr double least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(whole, least, most));
+    return std::clamp(value, least, most);
 }
 
 std::string_view SkipBlanks(std::string_view text) {
@@ -42,11 +42,14 @@ std::optional<double> TakeNumber(std::string_view& text) {
 }  // namespace
 
 int RoundHalfEven(double value) {
-    return ClampToInt(std::nearbyint(value));  // The rounding mode is never changed from its default.
+    const double clamped = ClampToInt(value);
+    const int whole = static_cast<int>(clamped);
+    if (whole == clamped) return whole;  // Most coordinates are whole, and walks over pictures ask for many.
+    return static_cast<int>(std::nearbyint(clamped));  // The rounding mode is never changed from its default.
 }
 
 int Truncate(double value) {
-    return ClampToInt(std::trunc(value));
+    return static_cast<int>(ClampToInt(value));
 }
 
 double Val(std::string_view text) {

@@ -110,8 +110,18 @@ public:
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
+    /// True if the Enter key, while this has the focus, is the form's default button's.
+    virtual bool PassesEnterOn() const { return false; }
+
 protected:
     void MakeFocusable() { takesFocus_ = TabStop = true; }
+    /// What a finished click does.
+    virtual void Clicked() { Click(); }
+    /// True if the user can do something to it now. Asked again after every event that was raised: its
+    /// handler may have disabled or hidden the control, or closed the form.
+    bool Answers() const;
+    /// Ends a press; true if it was one of the left button that began here.
+    bool EndPress(int button);
     /// True if (x, y), in the units of a pointer event, lies within the control.
     bool ContainsPoint(float x, float y) const;
 
