@@ -70,7 +70,7 @@ void TransferRows(Surface& target, const TransferBox& to, const Image& source, c
 
 }  // namespace
 
-AxisMap MapAxis(Run to, int targetSize, Run from, int sourceSize) {
+AxisMap MapAxis(PixelRun to, int targetSize, PixelRun from, int sourceSize) {
     using Wide = std::int64_t;
     const Wide m = std::abs(Wide{to.length}), n = std::abs(Wide{from.length});
     if (m == 0 || n == 0) return {};

@@ -9,7 +9,7 @@ namespace coinlet {
 
 /// A run of whole pixels along one axis: `length` of them from `start` on. A negative length runs the other
 /// way, `start` included.
-struct Run {
+struct PixelRun {
     int start = 0, length = 0;
 };
 
@@ -29,11 +29,11 @@ struct AxisMap {
 /// Maps the run `from` of a source of `sourceSize` pixels onto the run `to` of a target of `targetSize`:
 /// target pixel i of m takes source pixel floor((i + 1/2) n / m), in exact whole numbers. Any lengths and
 /// starts are legal; the work is bounded by `targetSize`.
-AxisMap MapAxis(Run to, int targetSize, Run from, int sourceSize);
+AxisMap MapAxis(PixelRun to, int targetSize, PixelRun from, int sourceSize);
 
 /// The part of a picture, or the place for it, that a copy names.
 struct TransferBox {
-    Run columns, rows;
+    PixelRun columns, rows;
 };
 
 /// Copies, stretched where the sizes differ, under a raster operation. Pixels that lie outside either picture
