@@ -74,7 +74,7 @@ void DrawClippedCircles(benchmark::State& state) {
     const auto places = RandomSegments();
     while (state.KeepRunning()) {
         for (const auto& p : places)
-            canvas.surface.Circle(p.x1, p.y1, p.x2 / 2, black);
+            canvas.surface.Circle(p.x1, p.y1, p.x2 * 0.5, black);
         benchmark::ClobberMemory();
     }
 }
