@@ -27,24 +27,6 @@ struct Canvas {
     Canvas() { surface.PaintPicture(noise, 0, 0); }
 };
 
-void UndoSnapshot(benchmark::State& state) {
-    Canvas canvas;
-    Surface undo(canvas.fonts, side, side);
-    for ([[maybe_unused]] auto _ : state)
-        undo.SetPicture(canvas.surface.Image());
-}
-BENCHMARK(UndoSnapshot)->Unit(benchmark::kMicrosecond);
-
-void UndoSnapshotAndFirstStroke(benchmark::State& state) {
-    Canvas canvas;
-    Surface undo(canvas.fonts, side, side);
-    for ([[maybe_unused]] auto _ : state) {
-        undo.SetPicture(canvas.surface.Image());
-        SetPixel(canvas.surface.hDC(), 3, 3, white);
-    }
-}
-BENCHMARK(UndoSnapshotAndFirstStroke)->Unit(benchmark::kMicrosecond);
-
 void PaintSameSize(benchmark::State& state) {
     Canvas canvas;
     const auto op = static_cast<RasterOp>(state.range(0));
