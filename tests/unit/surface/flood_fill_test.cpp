@@ -44,7 +44,8 @@ std::vector<std::pair<int, int>> Reached(const Image& picture, int x, int y, Ins
         waiting.pop();
         const Colour colour = picture.At(cx, cy);
         if (colour == -1 || !inside(colour)) continue;
-        const auto index = static_cast<std::size_t>(cy * picture.Width() + cx);
+        const auto index = static_cast<std::size_t>(cy) * static_cast<std::size_t>(picture.Width()) +
+                           static_cast<std::size_t>(cx);
         if (seen[index]) continue;
         seen[index] = true;
         reached.emplace_back(cx, cy);
