@@ -14,8 +14,8 @@ std::vector<Bytes> Bitmaps() {
     const std::vector<std::uint32_t> masks{0xF800, 0x07E0, 0x001F};
     const Bytes pixels(256, 0x12);
     std::vector<Bytes> files;
-    for (const std::uint16_t bits : std::initializer_list<std::uint16_t>{1, 4, 8, 16, 24, 32})
-        for (const std::uint32_t headerSize : {12U, 40U, 124U})
+    for (const std::uint16_t bits : std::initializer_list<std::uint16_t>{1, 4, 8, 16, 24, 32}) {
+        for (const std::uint32_t headerSize : {12U, 40U, 124U}) {
             files.push_back(BmpBytes{.headerSize = headerSize,
                                      .width = 7,
                                      .height = 5,
@@ -23,6 +23,8 @@ std::vector<Bytes> Bitmaps() {
                                      .palette = bits <= 8 ? palette : std::vector<std::uint32_t>(),
                                      .pixels = pixels}
                                 .File());
+        }
+    }
     const Bytes runs{3, 0, 0, 5, 1, 2, 3, 0x21, 2, 0, 0, 0, 0, 2, 1, 1, 4, 0x12, 0, 0, 9, 9, 0, 1};
     files.push_back(
         BmpBytes{.width = 8, .height = 5, .bits = 8, .compression = 1, .palette = palette, .pixels = runs}
@@ -30,8 +32,8 @@ std::vector<Bytes> Bitmaps() {
     files.push_back(
         BmpBytes{.width = 8, .height = -5, .bits = 4, .compression = 2, .palette = palette, .pixels = runs}
             .File());
-    for (const std::uint16_t bits : {std::uint16_t{16}, std::uint16_t{32}})
-        for (const std::uint32_t headerSize : {40U, 56U})
+    for (const std::uint16_t bits : {std::uint16_t{16}, std::uint16_t{32}}) {
+        for (const std::uint32_t headerSize : {40U, 56U}) {
             files.push_back(BmpBytes{.headerSize = headerSize,
                                      .width = 7,
                                      .height = 5,
@@ -40,6 +42,8 @@ std::vector<Bytes> Bitmaps() {
                                      .masks = masks,
                                      .pixels = pixels}
                                 .File());
+        }
+    }
     return files;
 }
 
