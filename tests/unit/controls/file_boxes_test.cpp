@@ -2,6 +2,7 @@
 
 #include "controls/file_boxes.h"
 
+#include "base/files.h"
 #include "event_log.h"
 #include "support/temporary_folder.h"
 #include "support/test_platform.h"

@@ -93,9 +93,9 @@ TEST_F(PictureTest, APictureIsCutThreePixelsFromEveryEdge) {
     button.SetUseMaskColor(false);
     button.SetPicture(Map(100, 50));
     // x = -20 and y = -10: columns 23 to 76 and rows 13 to 36 of the picture show.
-    for (const auto [x, y] : {std::pair{3, 3}, {56, 3}, {3, 26}, {56, 26}, {30, 15}})
+    for (const auto& [x, y] : {std::pair{3, 3}, {56, 3}, {3, 26}, {56, 26}, {30, 15}})
         EXPECT_EQ(At(x, y), RGB(x + 20, y + 10, 77)) << x << ", " << y;
-    for (const auto [x, y] : {std::pair{2, 15}, {57, 15}, {30, 2}, {30, 27}})
+    for (const auto& [x, y] : {std::pair{2, 15}, {57, 15}, {30, 2}, {30, 27}})
         EXPECT_NE(Blue(At(x, y)), 77) << x << ", " << y;
 }
 
@@ -210,7 +210,7 @@ TEST_F(PictureTest, TheEmptyPictureTakesThePictureAway) {
 
 TEST_F(PictureTest, APictureOnAButtonOfNoSizeDoesNothing) {
     button.SetPicture(Strip({red, blue}, 10, 10));
-    for (const auto [width, height] : {std::pair{0, 0}, {1, 1}, {5, 5}, {6, 6}}) {
+    for (const auto& [width, height] : {std::pair{0, 0}, {1, 1}, {5, 5}, {6, 6}}) {
         form.Resize(width, height);
         EXPECT_TRUE(Where(red).Empty()) << width;
     }
