@@ -83,9 +83,13 @@ TEST_F(PictureTest, WithoutAPictureTheCaptionStandsBetweenTheEdges) {
 TEST_F(PictureTest, ALongCaptionWraps) {
     button.SetCaption("ABCDEFGH IJK");  // 32 and 12 columns and a blank: 48 fit into 54
     EXPECT_EQ(Where(inkColour), (PixelRect{6, 11, 53, 18}));
-    button.SetCaption("ABCDEFGHIJ KLMN");  // 60 columns with the blank
+    button.SetCaption("ABCDEFGHIJ KLMNO");  // 64 columns with the blank
     // Two lines of 8 rows from (30 - 16) / 2 on; the first has 40 columns.
     EXPECT_EQ(Where(inkColour), (PixelRect{10, 7, 49, 22}));
+    // 60 columns are measured as one line in the button's 60, and stand in the 54 between its edges as two,
+    // of which the second is cut.
+    button.SetCaption("ABCDEFGHIJ KLMN");
+    EXPECT_EQ(Where(inkColour), (PixelRect{10, 11, 49, 18}));
 }
 
 TEST_F(PictureTest, APictureIsCutThreePixelsFromEveryEdge) {
@@ -103,9 +107,10 @@ TEST_F(PictureTest, ACaptionBesideACutPictureStartsAtItsLeft) {
     button.SetPictures(1);
     button.SetPicture(Strip({red}, 20, 10));
     button.SetCaption("ABCDEFGHI");
-    // (60 - 36 - 20 - 5) / 2 = -0.5, to 0: 3 columns are cut, the text starts at 20 + 8 - 3, and is cut too.
+    // (60 - 36 - 20 - 5) / 2 = -0.5, to 0: 3 columns are cut, the text starts at 20 + 8 - 3. Of its nine
+    // letters the last would begin at 57, where the text ends.
     EXPECT_EQ(Where(red), (PixelRect{3, 10, 20, 20}));
-    EXPECT_EQ(Where(inkColour), (PixelRect{25, 11, 57, 18}));
+    EXPECT_EQ(Where(inkColour), (PixelRect{25, 11, 56, 18}));
 }
 
 TEST_F(PictureTest, AFrameThatIsCutAtTheLeftShowsItsRightPart) {
