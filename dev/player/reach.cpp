@@ -11,9 +11,10 @@ namespace coinlet::player {
 void RequireFront(const Life& life, const Form& form) {
     if (!form.Loaded()) Fail(std::string(form.Name()) + " isn't open");
     const Form* const front = life.platform.FrontForm();
-    if (front != &form)
+    if (front != &form) {
         Fail(std::string(form.Name()) + " is blocked by " + std::string(front->Name()) +
              ", which is in front");
+    }
 }
 
 void RequireReach(const Life& life, const Control& control) {

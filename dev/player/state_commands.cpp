@@ -21,10 +21,11 @@ namespace {
 /// As the user picks it; a list that he can't reach is assigned the row.
 template <class List>
 void ChooseRow(List& list, int row) {
-    if (list.Reachable())
+    if (list.Reachable()) {
         list.UserPicks(row);
-    else
+    } else {
         list.SetListIndex(row);
+    }
 }
 
 /// Chooses the row with that text. False if the text isn't a row's but the whole box's to take.
@@ -76,12 +77,13 @@ void Expect(ScriptRun& run, const Arguments& arguments) {
 void PrintValue(std::ostream& out, const std::string& address, const std::string& value) {
     out << address << " = ";
     for (const char letter : value) {
-        if (letter == '\r')
+        if (letter == '\r') {
             out << "\\r";
-        else if (letter == '\n')
+        } else if (letter == '\n') {
             out << "\\n";
-        else
+        } else {
             out << letter;
+        }
     }
     out << '\n';
 }

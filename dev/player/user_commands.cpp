@@ -174,12 +174,13 @@ void TypeInto(Box& box, const std::string& text) {
 void Type(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
     const std::string text = arguments.Text(1);
-    if (auto* const box = dynamic_cast<TextBox*>(&control))
+    if (auto* const box = dynamic_cast<TextBox*>(&control)) {
         TypeInto(*box, text);
-    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+    } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         TypeInto(*combo, text);
-    else
+    } else {
         Fail(arguments.Text(0) + " takes no text");
+    }
 }
 
 void Focus(ScriptRun& run, const Arguments& arguments) {
@@ -201,12 +202,13 @@ void PickRow(List& list, int row) {
 void Pick(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
     const int row = arguments.Whole(1);
-    if (auto* const list = dynamic_cast<ListBox*>(&control))
+    if (auto* const list = dynamic_cast<ListBox*>(&control)) {
         PickRow(*list, row);
-    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+    } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         PickRow(*combo, row);
-    else
+    } else {
         Fail(arguments.Text(0) + " has no rows");
+    }
 }
 
 void Close(ScriptRun& run, const Arguments& arguments) {
