@@ -4,7 +4,11 @@
 #include "shell/form_window.h"
 #include "user.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+
 #include <map>
+#include <memory>
 
 namespace coinlet::test {
 namespace {
@@ -192,20 +196,22 @@ TEST_F(Controls, ChoicesAreTickedByPointerAndKey) {
 
 TEST_F(Controls, ListRowsArePickedAndOpened) {
     Run(form, [&](User& user) {
-        QPoint third;
-        user.Has([&] {
-            const auto& list =
-                static_cast<const QAbstractItemView&>(platform.WindowOf(form)->ViewOf(form.List1)->Widget());
-            third = list.visualRect(list.model()->index(2, 0)).center() + list.viewport()->pos();
-        });
-        user.Click(form.List1, third.x(), third.y());
+        const auto row = [&](int index) {
+            QPoint place;
+            user.Has([&] {
+                const auto& list = static_cast<const QAbstractItemView&>(
+                    platform.WindowOf(form)->ViewOf(form.List1)->Widget());
+                place = list.visualRect(list.model()->index(index, 0)).center() + list.viewport()->pos();
+            });
+            return user.PlaceOf(form.List1, place.x(), place.y());
+        };
+        user.Click(row(2));
         EXPECT_TRUE(user.Sees([&] { return form.Count("List1 Crown") == 1; }));
         user.Key("Down");
         EXPECT_TRUE(user.Sees([&] { return form.Count("List1 Deer") == 1; }));
-        user.Click(form.List1, third.x(), third.y());
-        user.Click(form.List1, third.x(), third.y());
-        EXPECT_TRUE(user.Sees([&] { return form.Count("DblClick Crown") == 1; }));
-        EXPECT_EQ(form.Count("List1 Crown"), 2);
+        user.DoubleClick(row(0));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("DblClick Anchor") == 1; }));
+        EXPECT_EQ(form.Count("List1 Anchor"), 1);
     });
 }
 

@@ -35,6 +35,8 @@ public:
     void Release();
     void Click(const QPoint& place);
     void Click(const Control& control, int x, int y) { Click(PlaceOf(control, x, y)); }
+    /// Two clicks, as quickly as a double click takes.
+    void DoubleClick(const QPoint& place);
     /// A key by its name in the window system: "Return", "ctrl+n".
     void Key(const std::string& name);
     void Type(const std::string& text);
