@@ -38,7 +38,7 @@ FileCalls& SystemFileCalls();
 /// Replaces the file at `path` by `content` whole or not at all: the bytes are written beside it under a
 /// short temporary name, flushed to the disk, and renamed over it. After any failure the old file stands byte
 /// for byte and no temporary file is left. The mode of an existing file stays, a symbolic link is written
-/// through, and anything that is neither missing nor a regular file (a folder, a pipe) is refused.
+/// through, and a file that is write-protected or anything that is no file (a folder, a pipe) is refused.
 [[nodiscard]] std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content,
                                           FileCalls& calls = SystemFileCalls());
 

@@ -1,0 +1,104 @@
+#include "base/files.h"
+
+#include "base/system_path.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace coinlet {
+
+namespace {
+
+/// A file open for reading; closed when it goes.
+class OpenFile {
+public:
+    /// Without waiting: should a pipe take the file's place in this moment, opening it returns at once.
+    explicit OpenFile(const fs::path& path)
+        : file_(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {}
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() {
+        if (file_ >= 0) ::close(file_);
+    }
+
+    /// Its size in bytes, or nothing if it is not open or no regular file.
+    std::optional<std::size_t> RegularSize() const {
+        struct stat status {};
+        if (file_ < 0 || ::fstat(file_, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+        return static_cast<std::size_t>(status.st_size);
+    }
+
+    /// As many of the next `size` bytes as there are, or -1.
+    long Read(void* data, std::size_t size) const {
+        for (;;) {
+            const long got = ::read(file_, data, size);
+            if (got >= 0 || errno != EINTR) return got;
+        }
+    }
+
+private:
+    int file_;
+};
+
+}  // namespace
+
+std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit) {
+    if (!FileExists(path)) return std::nullopt;
+    const OpenFile file(path);
+    const auto size = file.RegularSize();
+    if (!size || *size > limit) return std::nullopt;
+
+    // The end is where reading says it is: a file may grow meanwhile, and some claim to be empty. One byte
+    // more than the size makes the usual file end in one buffer.
+    Bytes bytes(*size + 1);
+    std::size_t filled = 0;
+    for (;;) {
+        const long got = file.Read(bytes.data() + filled, bytes.size() - filled);
+        if (got < 0) return std::nullopt;
+        if (got == 0) break;
+        filled += static_cast<std::size_t>(got);
+        if (filled > limit) return std::nullopt;
+        if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+bool FileExists(const fs::path& path) {
+    std::error_code error;
+    return IsSystemPath(path) && fs::is_regular_file(path, error);
+}
+
+std::error_code DeleteFile(const fs::path& path) {
+    if (!IsSystemPath(path)) return std::make_error_code(std::errc::invalid_argument);
+    std::error_code error;
+    const auto status = fs::symlink_status(path, error);
+    if (error) return error;
+    if (status.type() == fs::file_type::directory) return std::make_error_code(std::errc::is_a_directory);
+    if (status.type() != fs::file_type::regular && status.type() != fs::file_type::symlink)
+        return std::make_error_code(std::errc::invalid_argument);
+    return ::unlink(path.c_str()) == 0 ? std::error_code{} : std::error_code{errno, std::generic_category()};
+}
+
+bool IsFileName(std::string_view name) {
+    constexpr std::string_view forbidden("/\0", 2);
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(forbidden) == std::string_view::npos;
+}
+
+fs::path Beneath(const fs::path& folder, std::string_view literal) {
+    // Part by part, each a name without separators: an absolute part would replace the folder.
+    fs::path path = folder;
+    while (!literal.empty()) {
+        const auto end = literal.find_first_of("\\/");
+        const auto part = literal.substr(0, end);
+        if (!part.empty()) path /= part;
+        literal.remove_prefix(end == std::string_view::npos ? literal.size() : end + 1);
+    }
+    return path;
+}
+
+}  // namespace coinlet

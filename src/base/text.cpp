@@ -1,0 +1,176 @@
+#include "base/text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace coinlet {
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+constexpr char32_t lastCodePoint = 0x10FFFF;
+
+// What the bytes 0x80 to 0x9F of Windows-1252 stand for. The unassigned ones stand for themselves.
+constexpr std::array<char32_t, 32> codePageUpper = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::size_t upperStart = 0x80, upperEnd = 0xA0;
+
+bool IsSurrogate(char32_t codePoint) {
+    return codePoint >= 0xD800 && codePoint <= 0xDFFF;
+}
+
+// One character at the front of a text. A malformed byte is a character without a code point.
+struct Decoded {
+    std::optional<char32_t> codePoint;
+    std::size_t length = 1;
+};
+
+Decoded DecodeFirst(std::string_view utf8) {
+    const auto byteAt = [&](std::size_t i) -> char32_t { return static_cast<unsigned char>(utf8[i]); };
+    struct Form {
+        char32_t leadMask, lead, smallest;
+    };
+    // By the number of bytes that follow the first one.
+    static constexpr std::array<Form, 4> forms = {
+        {{0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}}};
+
+    const char32_t first = byteAt(0);
+    for (std::size_t following = 0; following < forms.size(); ++following) {
+        const Form& form = forms[following];
+        if ((first & form.leadMask) != form.lead) continue;
+        if (utf8.size() <= following) return {};
+        char32_t codePoint = first & ~form.leadMask;
+        for (std::size_t i = 1; i <= following; ++i) {
+            if ((byteAt(i) & 0xC0) != 0x80) return {};
+            codePoint = codePoint << 6 | (byteAt(i) & 0x3F);
+        }
+        if (codePoint < form.smallest || codePoint > lastCodePoint || IsSurrogate(codePoint)) return {};
+        return {codePoint, following + 1};
+    }
+    return {};
+}
+
+// Calls `use(decoded, bytes)` for each character of a text.
+template <class Use>
+void ForEachCharacter(std::string_view utf8, Use use) {
+    while (!utf8.empty()) {
+        const Decoded next = DecodeFirst(utf8);
+        use(next.codePoint, utf8.substr(0, next.length));
+        utf8.remove_prefix(next.length);
+    }
+}
+
+std::optional<unsigned char> CodePageByte(char32_t codePoint) {
+    if (codePoint < upperStart || (codePoint >= upperEnd && codePoint <= 0xFF))
+        return static_cast<unsigned char>(codePoint);
+    const auto* const found = std::find(codePageUpper.begin(), codePageUpper.end(), codePoint);
+    if (found == codePageUpper.end()) return {};
+    return static_cast<unsigned char>(upperStart + static_cast<std::size_t>(found - codePageUpper.begin()));
+}
+
+char32_t LowerCodePoint(char32_t c) {
+    // Where capitals stand: in one block before their small letters, or each just before its own.
+    struct Capitals {
+        char32_t first, last, stride, distance;
+    };
+    static constexpr std::array<Capitals, 8> capitals = {{{U'A', U'Z', 1, 32},
+                                                          {0xC0, 0xD6, 1, 32},  // up to the sign of times
+                                                          {0xD8, 0xDE, 1, 32},
+                                                          {0x100, 0x12E, 2, 1},
+                                                          {0x132, 0x136, 2, 1},
+                                                          {0x139, 0x147, 2, 1},
+                                                          {0x14A, 0x176, 2, 1},
+                                                          {0x179, 0x17D, 2, 1}}};
+    constexpr char32_t dottedCapitalI = 0x130, capitalYWithDiaeresis = 0x178;
+    if (c == dottedCapitalI) return U'i';
+    if (c == capitalYWithDiaeresis) return 0xFF;
+    for (const Capitals& range : capitals) {
+        if (c >= range.first && c <= range.last && (c - range.first) % range.stride == 0)
+            return c + range.distance;
+    }
+    return c;
+}
+
+}  // namespace
+
+std::string FromCodePage(std::string_view bytes) {
+    std::string utf8;
+    utf8.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool upper = byte >= upperStart && byte < upperEnd;
+        utf8 += Utf8(upper ? codePageUpper[byte - upperStart] : byte);
+    }
+    return utf8;
+}
+
+std::string ToCodePage(std::string_view utf8) {
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    ForEachCharacter(utf8, [&](std::optional<char32_t> codePoint, std::string_view) {
+        const auto byte = codePoint ? CodePageByte(*codePoint) : std::nullopt;
+        bytes += byte ? static_cast<char>(*byte) : '?';
+    });
+    return bytes;
+}
+
+std::vector<std::string> Characters(std::string_view utf8) {
+    std::vector<std::string> characters;
+    ForEachCharacter(
+        utf8, [&](std::optional<char32_t>, std::string_view bytes) { characters.emplace_back(bytes); });
+    return characters;
+}
+
+std::string Utf8(char32_t codePoint) {
+    if (codePoint > lastCodePoint || IsSurrogate(codePoint)) codePoint = replacementCharacter;
+    const auto lead = [&](unsigned shift, char32_t mark) {
+        return static_cast<char>(mark | codePoint >> shift);
+    };
+    const auto follow = [&](unsigned shift) { return static_cast<char>(0x80 | (codePoint >> shift & 0x3F)); };
+    if (codePoint < 0x80) return {lead(0, 0)};
+    if (codePoint < 0x800) return {lead(6, 0xC0), follow(0)};
+    if (codePoint < 0x10000) return {lead(12, 0xE0), follow(6), follow(0)};
+    return {lead(18, 0xF0), follow(12), follow(6), follow(0)};
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string LowerCase(std::string_view utf8) {
+    std::string lower;
+    lower.reserve(utf8.size());
+    ForEachCharacter(utf8, [&](std::optional<char32_t> codePoint, std::string_view bytes) {
+        const char32_t small = codePoint ? LowerCodePoint(*codePoint) : 0;
+        if (codePoint && small != *codePoint)
+            lower += Utf8(small);
+        else
+            lower += bytes;
+    });
+    return lower;
+}
+
+bool LessIgnoringCase(std::string_view a, std::string_view b) {
+    const std::string lowerA = LowerCase(a), lowerB = LowerCase(b);
+    return lowerA != lowerB ? lowerA < lowerB : a < b;
+}
+
+std::vector<std::string> Lines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const auto end = std::min(text.find_first_of("\r\n"), text.size());
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+        const bool carriageReturnLineFeed = text.starts_with("\r\n");
+        text.remove_prefix(std::min(text.size(), std::size_t{carriageReturnLineFeed ? 2U : 1U}));
+    }
+    return lines;
+}
+
+}  // namespace coinlet

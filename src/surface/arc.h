@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+
+namespace coinlet {
+
+struct ArcAngles;
+
+/// The directions between two angles, both included: counter-clockwise from the positive x axis, from `start`
+/// to `end`, through 0 if the end comes before the start.
+class Arc {
+public:
+    /// Angles in radians, of any number of turns. Equal ones are all directions, an end of 0 is a full turn.
+    /// Nothing if one of them isn't finite.
+    static std::optional<Arc> Between(const ArcAngles& angles);
+
+    bool IsWholeTurn() const { return whole_; }
+    /// If the direction of a point lies in the arc; y grows upward here. The origin itself counts as lying at
+    /// angle 0.
+    bool Contains(int x, int y) const;
+
+private:
+    Arc() = default;
+    bool ContainsAngleOf(double x, double y) const;
+
+    bool whole_ = false;
+    double start_ = 0, end_ = 0;  ///< In 0 .. 2 pi.
+    double span_ = 0;             ///< From start to end, in 0 .. 2 pi.
+    double startX_ = 1, startY_ = 0, endX_ = 1, endY_ = 0;
+};
+
+}  // namespace coinlet

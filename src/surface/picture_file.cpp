@@ -1,0 +1,53 @@
+#include "surface/codecs.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace coinlet {
+
+namespace {
+
+/// No file of a picture that may be made is larger: its pixels, and room for the headers.
+constexpr std::size_t largestFile = maximumPictureBytes + (std::size_t{1} << 20);
+
+using Decode = std::optional<Image> (*)(std::span<const std::uint8_t>, const PictureCodecs&);
+struct Format {
+    std::string_view firstBytes;
+    Decode decode;
+};
+constexpr std::array<Format, 4> formats{{
+    {"BM", [](std::span<const std::uint8_t> bytes, const PictureCodecs&) { return DecodeBmp(bytes); }},
+    {"GIF87a", [](std::span<const std::uint8_t> bytes,
+                  const PictureCodecs& codecs) { return codecs.DecodeGif(bytes); }},
+    {"GIF89a", [](std::span<const std::uint8_t> bytes,
+                  const PictureCodecs& codecs) { return codecs.DecodeGif(bytes); }},
+    {"\xFF\xD8\xFF", [](std::span<const std::uint8_t> bytes,
+                        const PictureCodecs& codecs) { return codecs.DecodeJpeg(bytes); }},
+}};
+
+bool StartsWith(std::span<const std::uint8_t> bytes, std::string_view start) {
+    const auto wanted = AsBytes(start);
+    return bytes.size() >= wanted.size() && std::equal(wanted.begin(), wanted.end(), bytes.begin());
+}
+
+}  // namespace
+
+std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {
+    const auto* format = std::find_if(formats.begin(), formats.end(), [&](const Format& candidate) {
+        return StartsWith(bytes, candidate.firstBytes);
+    });
+    return format == formats.end() ? std::nullopt : format->decode(bytes, codecs);
+}
+
+std::optional<Image> LoadPicture(const fs::path& path, const PictureCodecs& codecs) {
+    const auto bytes = ReadFile(path, largestFile);
+    return bytes ? DecodePicture(*bytes, codecs) : std::nullopt;
+}
+
+std::error_code SavePicture(const Image& image, const fs::path& path, FileCalls& calls) {
+    const auto bytes = EncodeBmp(image);
+    return bytes ? ReplaceFile(path, *bytes, calls) : std::make_error_code(std::errc::invalid_argument);
+}
+
+}  // namespace coinlet

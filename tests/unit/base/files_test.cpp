@@ -1,0 +1,142 @@
+// Reading and deleting files, and the names that may lead to one.
+#include "base/files.h"
+
+#include "support/temporary_folder.h"
+
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace coinlet {
+namespace {
+
+using test::TemporaryFolder;
+
+std::string Text(const std::optional<Bytes>& bytes) {
+    return bytes ? std::string(bytes->begin(), bytes->end()) : "(nothing)";
+}
+
+TEST(ReadFile, GivesEveryByte) {
+    const TemporaryFolder folder;
+    std::string all;
+    for (int i = 0; i < 70000; ++i)
+        all += static_cast<char>(i * 7);
+    EXPECT_EQ(Text(ReadFile(folder.Write("all", all))), all);
+    EXPECT_EQ(Text(ReadFile(folder.Write("empty", ""))), "");
+}
+
+TEST(ReadFile, FollowsLinks) {
+    const TemporaryFolder folder;
+    fs::create_symlink(folder.Write("file", "content"), folder / "link");
+    EXPECT_EQ(Text(ReadFile(folder / "link")), "content");
+}
+
+TEST(ReadFile, HasALimitThatCountsAsInside) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "12345");
+    EXPECT_EQ(Text(ReadFile(path, 5)), "12345");
+    EXPECT_EQ(Text(ReadFile(path, 4)), "(nothing)");
+    EXPECT_EQ(Text(ReadFile(folder.Write("empty", ""), 0)), "");
+}
+
+TEST(ReadFile, ReadsToTheEndWhateverSizeIsClaimed) {
+    const fs::path claimsToBeEmpty = "/proc/self/status";
+    if (!fs::exists(claimsToBeEmpty)) GTEST_SKIP() << "no /proc here";
+    const std::string text = Text(ReadFile(claimsToBeEmpty));
+    EXPECT_EQ(text.substr(0, 5), "Name:");
+    EXPECT_EQ(Text(ReadFile(claimsToBeEmpty, 10)), "(nothing)");
+}
+
+TEST(ReadFile, GivesNothingForWhatIsNoRegularFile) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "folder");
+    fs::create_symlink(folder / "gone", folder / "broken");
+    fs::create_symlink("circle", folder / "circle");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    for (const char* name : {"folder", "broken", "circle", "pipe", "missing", "missing/file", ""})
+        EXPECT_EQ(Text(ReadFile(folder / name)), "(nothing)") << name;
+    EXPECT_EQ(Text(ReadFile("/dev/null")), "(nothing)");
+    EXPECT_EQ(Text(ReadFile({})), "(nothing)");
+}
+
+TEST(ReadFile, AZeroByteLeadsToNoOtherFile) {
+    const TemporaryFolder folder;
+    folder.Write("file", "content");
+    EXPECT_EQ(Text(ReadFile(folder / std::string("file\0.txt", 9))), "(nothing)");
+}
+
+TEST(FileExists, SaysYesToRegularFilesAlone) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "folder");
+    fs::create_symlink(folder / "gone", folder / "broken");
+    fs::create_symlink(folder.Write("file", ""), folder / "link");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(FileExists(folder / "file"));
+    EXPECT_TRUE(FileExists(folder / "link"));
+    for (const char* name : {"folder", "broken", "pipe", "missing", "file/file"})
+        EXPECT_FALSE(FileExists(folder / name)) << name;
+    EXPECT_FALSE(FileExists(folder / std::string("file\0", 5)));
+    EXPECT_FALSE(FileExists(folder / std::string(300, 'x')));
+}
+
+TEST(DeleteFile, DeletesAFile) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(DeleteFile(folder.Write("file", "content")));
+    EXPECT_EQ(folder.Count(), 0);
+}
+
+TEST(DeleteFile, DeletesALinkButNotWhatItLeadsTo) {
+    const TemporaryFolder folder;
+    fs::create_symlink(folder.Write("file", "content"), folder / "link");
+    EXPECT_FALSE(DeleteFile(folder / "link"));
+    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Read("file"), "content");
+    fs::create_symlink("gone", folder / "broken");
+    EXPECT_FALSE(DeleteFile(folder / "broken"));
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(DeleteFile, RefusesAllElse) {
+    const TemporaryFolder folder;
+    folder.Write("file", "content");
+    fs::create_directory(folder / "folder");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(DeleteFile(folder / "folder"), std::errc::is_a_directory);
+    EXPECT_EQ(DeleteFile(folder / "pipe"), std::errc::invalid_argument);
+    EXPECT_EQ(DeleteFile(folder / "missing"), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(DeleteFile(folder / std::string("file\0x", 6)), std::errc::invalid_argument);
+    EXPECT_EQ(DeleteFile({}), std::errc::invalid_argument);
+    EXPECT_EQ(folder.Count(), 3);
+}
+
+TEST(IsFileName, TakesPlainNames) {
+    for (const char* name : {"a", "My tag.pat", "...", ".hidden", "a\\b", "\xE9", "t\xC3\xA9"})
+        EXPECT_TRUE(IsFileName(name)) << name;
+}
+
+TEST(IsFileName, RefusesWhatLeadsElsewhere) {
+    for (const char* name : {"", ".", "..", "/", "a/b", "../a", "a/"})
+        EXPECT_FALSE(IsFileName(name)) << name;
+    EXPECT_FALSE(IsFileName(std::string_view("a\0b", 3)));
+    EXPECT_FALSE(IsFileName(std::string_view("\0", 1)));
+}
+
+TEST(Beneath, TurnsBackslashesIntoSeparators) {
+    EXPECT_EQ(Beneath("/app", "\\Data\\English.txt"), fs::path("/app/Data/English.txt"));
+    EXPECT_EQ(Beneath("/app", "Coinlet.ini"), fs::path("/app/Coinlet.ini"));
+    EXPECT_EQ(Beneath("/app", "\\Images\\"), fs::path("/app/Images"));
+    EXPECT_EQ(Beneath("/app", ""), fs::path("/app"));
+}
+
+TEST(Beneath, CountsDoubledSeparatorsAsOne) {
+    EXPECT_EQ(Beneath("/app", "\\\\Borders\\\\\\a.gif"), fs::path("/app/Borders/a.gif"));
+}
+
+TEST(Beneath, NeverLeavesTheFolderForAnAbsolutePath) {
+    EXPECT_EQ(Beneath("/app", "/etc/passwd"), fs::path("/app/etc/passwd"));
+    EXPECT_EQ(Beneath("/app", "\\//etc"), fs::path("/app/etc"));
+}
+
+}  // namespace
+}  // namespace coinlet

@@ -1,0 +1,80 @@
+// A picture is what its first bytes say; what is no picture loads as none.
+#include "support/temporary_folder.h"
+#include "surface/codecs.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace coinlet {
+namespace {
+
+using test::TemporaryFolder;
+
+Image Filled(int width, Colour colour) {
+    return Image(Bitmap(width, 1, ToPixel(colour)));
+}
+
+/// Codecs whose pictures tell which of them was asked: a GIF is one pixel wide, a JPEG two.
+class TellingCodecs final : public PictureCodecs {
+public:
+    std::optional<Image> DecodeGif(std::span<const std::uint8_t>) const override { return Filled(1, white); }
+    std::optional<Image> DecodeJpeg(std::span<const std::uint8_t>) const override { return Filled(2, white); }
+    std::optional<Bytes> EncodeJpeg(const Image&, int) const override { return std::nullopt; }
+};
+
+std::string FileOf(const Image& image) {
+    const auto bytes = EncodeBmp(image);
+    return bytes ? std::string(bytes->begin(), bytes->end()) : std::string();
+}
+
+TEST(DecodePicture, ChoosesByTheFirstBytes) {
+    const TellingCodecs codecs;
+    EXPECT_EQ(DecodePicture(AsBytes("GIF87a..."), codecs), Filled(1, white));
+    EXPECT_EQ(DecodePicture(AsBytes("GIF89a..."), codecs), Filled(1, white));
+    EXPECT_EQ(DecodePicture(AsBytes("\xFF\xD8\xFF\xE0"), codecs), Filled(2, white));
+    EXPECT_EQ(DecodePicture(AsBytes(FileOf(Filled(3, white))), codecs), Filled(3, white));
+    for (const char* text : {"", "G", "GIF88a", "GIF8", "gif89a", "\xFF\xD8", "BA", "\x89PNG\r\n", "hello"})
+        EXPECT_FALSE(DecodePicture(AsBytes(text), codecs)) << text;
+}
+
+TEST(LoadPicture, DoesNotHeedTheExtension) {
+    const TemporaryFolder folder;
+    const TellingCodecs codecs;
+    EXPECT_EQ(LoadPicture(folder.Write("bitmap.gif", FileOf(Filled(3, 0x123456))), codecs),
+              Filled(3, 0x123456));
+    EXPECT_EQ(LoadPicture(folder.Write("gif.jpg", "GIF89a"), codecs), Filled(1, white));
+    EXPECT_EQ(LoadPicture(folder.Write("jpeg", "\xFF\xD8\xFF"), codecs), Filled(2, white));
+}
+
+TEST(LoadPicture, GivesNothingForWhatIsNoPicture) {
+    const TemporaryFolder folder;
+    const TellingCodecs codecs;
+    folder.Write("text.bmp", "This is a text.");
+    folder.Write("empty.bmp", "");
+    fs::create_directory(folder / "folder.bmp");
+    fs::create_symlink("gone", folder / "broken.bmp");
+    ASSERT_EQ(::mkfifo((folder / "pipe.bmp").c_str(), 0600), 0);
+    for (const char* name :
+         {"text.bmp", "empty.bmp", "folder.bmp", "broken.bmp", "pipe.bmp", "missing.bmp", ""})
+        EXPECT_FALSE(LoadPicture(folder / name, codecs)) << name;
+}
+
+TEST(SavePicture, WritesWhatLoadPictureReads) {
+    const TemporaryFolder folder;
+    const Image image = Filled(7, 0xABCDEF);
+    EXPECT_FALSE(SavePicture(image, folder / "design.pat"));
+    EXPECT_EQ(LoadPicture(folder / "design.pat", TellingCodecs()), image);
+    EXPECT_EQ(folder.Read("design.pat"), FileOf(image));
+}
+
+TEST(SavePicture, KeepsTheOldFileWhereThereIsNothingToWrite) {
+    const TemporaryFolder folder;
+    folder.Write("design.pat", "old content");
+    EXPECT_EQ(SavePicture(Image(), folder / "design.pat"), std::errc::invalid_argument);
+    EXPECT_EQ(folder.Read("design.pat"), "old content");
+    EXPECT_EQ(SavePicture(Filled(1, white), folder / "missing" / "design.pat"),
+              std::errc::no_such_file_or_directory);
+}
+
+}  // namespace
+}  // namespace coinlet
