@@ -20,13 +20,14 @@ public:
     bool Value() const { return value_; }
     void SetValue(bool value);
 
-    void PointerReleased(int button, int shift, float x, float y) override;
-    void PointerClicked() override;
     /// The space bar ticks it.
     void KeyReleased(int code, int shift) override;
     /// The user's click, however he makes it.
     void Toggle() { SetValue(!value_); }
     void VisitProperties(PropertyVisitor& visitor) override;
+
+protected:
+    void Clicked() override { Toggle(); }
 
 private:
     bool value_ = false;
@@ -45,10 +46,12 @@ public:
     bool Value() const { return value_; }
     void SetValue(bool value);
 
-    void PointerReleased(int button, int shift, float x, float y) override;
-    void PointerClicked() override;
+    /// The space bar chooses it.
     void KeyReleased(int code, int shift) override;
     void VisitProperties(PropertyVisitor& visitor) override;
+
+protected:
+    void Clicked() override { SetValue(true); }
 
 private:
     bool value_ = false;

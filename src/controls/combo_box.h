@@ -18,11 +18,13 @@ public:
     int ListCount() const { return rows_.Count(); }
     const std::string& List(int index) const { return rows_.Row(index); }
     void AddItem(const std::string& row);
+    /// The text stays, also when its row goes.
     void RemoveItem(int index);
     /// Empties the list and the text, without an event.
     void Clear();
     int ListIndex() const { return listIndex_; }
-    /// -1 empties the text. An index outside the list is passed over.
+    /// Another index raises `Click`. -1 chooses none and empties the text. An index outside the list is
+    /// passed over.
     void SetListIndex(int index);
     const std::string& Text() const { return text_; }
     void SetText(const std::string& text);
@@ -31,16 +33,25 @@ public:
 
     /// The user's choice of a row, also of the chosen one.
     void UserPicks(int index);
+    /// The user types one character behind the text; a control character types nothing.
     void UserTypes(std::string_view character);
-    void UserEdits(const std::string& text) { SetText(text); }
+    /// The user's editing made the text what it now is.
+    void UserEdits(const std::string& text);
     /// Up and down step through the rows.
     void KeyPressed(int code, int shift) override;
+    bool PassesEnterOn() const override { return true; }
 
     const RowList& Rows() const { return rows_; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
+protected:
+    /// A click into the field places the caret; `Click` is the choice of a row.
+    void Clicked() override {}
+
 private:
+    void Choose(int index);
+
     RowList rows_;
     int listIndex_ = -1;
     std::string text_;

@@ -37,7 +37,8 @@ constexpr int toolPointer = 99;
 /// scale's own on pictures.
 ///
 /// The functions `Pointer...`, `Key...`, `Focus...` are the user's doings. Shell and scenario player call
-/// these and nothing else, so that both lead to the same events.
+/// these and nothing else, so that both lead to the same events. On a control that is disabled, or whose form
+/// isn't loaded, they do nothing.
 class Control : public Element {
 public:
     Control(Container& container, std::string_view name, int index, ControlKind kind);
@@ -110,8 +111,18 @@ public:
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
+    /// True if the Enter key, while this has the focus, is the form's default button's.
+    virtual bool PassesEnterOn() const { return false; }
+
 protected:
     void MakeFocusable() { takesFocus_ = TabStop = true; }
+    /// What a finished click does.
+    virtual void Clicked() { Click(); }
+    /// True if the user can do something to it now: its form is loaded, and it is reachable. Asked again
+    /// after every event that was raised, since the handler may have disabled it or closed the form.
+    bool Answers() const;
+    /// Ends a press; true if it was one of the left button that began here.
+    bool EndPress(int button);
     /// True if (x, y), in the units of a pointer event, lies within the control.
     bool ContainsPoint(float x, float y) const;
 

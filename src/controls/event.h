@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
 #include <span>
 #include <string_view>
@@ -22,8 +23,11 @@ public:
         return *this;
     }
 
+    /// Runs a copy of the handler: it may replace itself, or remove the control that the event belongs to.
     void operator()(Arguments... arguments) const {
-        if (handler_) handler_(std::forward<Arguments>(arguments)...);
+        if (!handler_) return;
+        const auto handler = handler_;
+        handler(std::forward<Arguments>(arguments)...);
     }
     explicit operator bool() const { return static_cast<bool>(handler_); }
 

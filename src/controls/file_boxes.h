@@ -26,8 +26,8 @@ private:
     std::string pattern_ = "*";
 };
 
-/// The folder in use: the folders above it, from the root on, then those in it. A double click on a row goes
-/// there. Another path raises `Change`.
+/// The folder in use: the folders above it, from the root on, itself, which is chosen, then those in it. A
+/// double click on a row goes there. Another path raises `Change`. It starts in the user's home.
 class DirListBox : public ListBox {
 public:
     DirListBox(Container& container, std::string_view name, int index = noIndex);
@@ -38,6 +38,7 @@ public:
     Event<> Change;
 
     void UserActivates() override;
+    bool PassesEnterOn() const override { return false; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
@@ -48,8 +49,8 @@ private:
     std::vector<std::string> targets_;  ///< The folder behind each row.
 };
 
-/// The places to start from: the root, the user's home, and what is mounted below /media and /mnt. Choosing
-/// another one raises `Change`.
+/// The places to start from: the root, the user's home, which is chosen at first, and what is mounted below
+/// /media and /mnt. Choosing another one raises `Change`, after `Click`.
 class DriveListBox : public ListBox {
 public:
     DriveListBox(Container& container, std::string_view name, int index = noIndex);
@@ -60,9 +61,15 @@ public:
     void SetDrive(const std::string& path);
     Event<> Change;
 
-    void UserPicks(int index) override;
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
+
+protected:
+    void RowChosen(bool another) override;
 };
+
+/// The mount points below /media and /mnt in a table of mounts (a line a mount, the point its second field,
+/// with blanks written as \040), sorted.
+std::vector<std::string> RemovablePlaces(std::string_view mountTable);
 
 }  // namespace coinlet

@@ -66,7 +66,9 @@ public:
     /// The button that the Enter key presses while a text box of one line, a list, or nothing has the focus.
     Control* DefaultButton = nullptr;
 
-    /// A key goes to `target` (or to the control with the focus; or to nobody): down, typed, up.
+    /// A key goes to `target` (or to the control with the focus; or to nobody): down, typed, up. Typing is
+    /// the event alone: a field's text changes by what its own `UserTypes` or `UserEdits` is told. Escape
+    /// then presses `CancelKnop`, or else `ExitKnop`; Enter the default button.
     void KeyDown(Control* target, int code, int shift);
     void KeyUp(Control* target, int code, int shift);
     void KeyTyped(Control* target, int character);
@@ -96,7 +98,9 @@ private:
     friend class Timer;
 
     /// Escape presses the form's `CancelKnop`, or its `ExitKnop`, if that can be pressed.
-    bool PressCancel();
+    void PressCancel();
+    void PressDefault(const Control* focused);
+    std::string FocusName() const;
 
     FormServices services_;
     std::string_view name_;
@@ -107,6 +111,8 @@ private:
     Control* focus_ = nullptr;
     int controlsMade_ = 0;
     bool loaded_ = false;
+    bool unloading_ = false;
+    bool announced_ = false;  ///< The platform was told to show it.
 };
 
 }  // namespace coinlet

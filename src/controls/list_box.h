@@ -5,6 +5,7 @@
 #include "surface/font_properties.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,7 @@ public:
     bool Contains(int index) const { return index >= 0 && index < Count(); }
     /// Appends a row, or puts it in its place in a sorted list; returns where it stands.
     int Add(const std::string& row);
-    /// Replaces or removes a row; false for an index outside the list.
+    /// Replaces (where it stands, sorted list or not) or removes a row; false for an index outside the list.
     bool Replace(int index, const std::string& row);
     bool Remove(int index);
     void Clear();
@@ -39,7 +40,7 @@ private:
     std::uint64_t revision_ = 0;
 };
 
-/// A list with one row chosen, or none (-1). Choosing another row, by the user or in code, raises `Click`;
+/// A list with one row chosen, or none (-1). Another `ListIndex`, by the user or in code, raises `Click`;
 /// the user's click on the chosen row raises it again; removing rows and clearing raise nothing.
 class ListBox : public Control, public FontProperties {
 public:
@@ -59,6 +60,7 @@ public:
     void RemoveItem(int index);
     void Clear();
     int ListIndex() const { return listIndex_; }
+    /// -1 chooses none.
     void SetListIndex(int index);
     /// The chosen row, or an empty text.
     const std::string& Text() const { return rows_.Row(listIndex_); }
@@ -67,17 +69,39 @@ public:
     Event<> DblClick;
 
     /// The user's click on a row, also on the chosen one. An index outside the list does nothing.
-    virtual void UserPicks(int index);
+    void UserPicks(int index);
+    /// The user's double click, or Enter, on the chosen row.
     virtual void UserActivates();
+    /// Arrows, page keys, Home and End move the choice; Enter activates it.
     void KeyPressed(int code, int shift) override;
+    /// A list that does something on Enter keeps the key.
+    bool PassesEnterOn() const override { return !DblClick; }
 
     const RowList& Rows() const { return rows_; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
+protected:
+    /// Tells of a choice; `another` is false if the row was the chosen one already.
+    virtual void RowChosen(bool another);
+    /// A click into the list is a choice of a row, which comes as such.
+    void Clicked() override {}
+    /// Puts the choice on a row, or on none, without an event.
+    void ChooseSilently(int index) { listIndex_ = index; }
+
 private:
+    void Choose(int index);
+
     RowList rows_;
     int listIndex_ = -1;
 };
+
+/// The row that a key leads to from row `current` (-1: none) of `count`; `current` for other keys.
+int RowAfterKey(int code, int current, int count);
+
+/// The number of rows, and each row as a property of its own, `List(i)`; `set` is empty for rows that can
+/// only be read.
+void VisitRows(PropertyVisitor& visitor, const RowList& rows,
+               const std::function<void(int, const std::string&)>& set);
 
 }  // namespace coinlet

@@ -34,6 +34,9 @@ public:
     bool ContainerShown() const override { return Shown(); }
     bool ContainerEnabled() const override { return Reachable(); }
     double ChildUnitsPerPixel() const override;
+
+private:
+    double SizeToTell(double assigned, int pixels) const;
 };
 
 /// A picture of a form that no window shows: stock pictures, scratch pictures of a fixed content.

@@ -70,7 +70,8 @@ public:
     /// True if the pointer is over the control and nothing covers it there.
     virtual bool IsPointerOver(const Control& control) const = 0;
 
-    /// Ends the program: no handler runs on, and later calls of DoEvents and Wait return at once.
+    /// Ends the program: no handler runs on, and later calls that would serve events return at once: a
+    /// dialog isn't shown, a message gives its standard answer, a text is empty.
     [[noreturn]] void End();
     bool Ended() const { return ended_; }
 
@@ -82,6 +83,8 @@ public:
 protected:
     /// Serves events until `dialog` is unloaded or the program has ended.
     virtual void RunModal(Form& dialog) = 0;
+    /// Shows a form in front; takes it off again. They come in pairs: a form that never was shown isn't
+    /// taken off. When FormUnloaded comes the form may be half destroyed: its address alone counts.
     virtual void FormLoaded(Form& form) = 0;
     virtual void FormUnloaded(Form& form) = 0;
     virtual void ServeEvents() = 0;
@@ -94,11 +97,16 @@ protected:
 
 private:
     friend class Form;
+    class DepthGuard;
+    class ModalGuard;
     void Load(Form& form);
+    void Announce(Form& form);
+    void Activate(Form& form);
     void Remove(Form& form);
     void ThrowIfEnded() const;
 
     std::vector<Form*> forms_;
+    Form* active_ = nullptr;  ///< The form that was last activated.
     int depth_ = 0;
     bool ended_ = false;
 };

@@ -2,8 +2,12 @@
 
 #include "surface/font_properties.h"
 
+#include <algorithm>
+#include <cmath>
 #include <concepts>
+#include <cstdint>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -46,9 +50,32 @@ PropertyValue ToPropertyValue(const T& value) {
     }
 }
 
+/// A value as a flag, number or text. Of another alternative it is converted: a number is true unless it is
+/// 0, a text is its number or, as a flag, "true".
+bool AsFlag(const PropertyValue& value);
+double AsNumber(const PropertyValue& value);
+std::string AsText(const PropertyValue& value);
+
+/// `value` rounded, a half going to the even neighbour, and brought into the range; NaN gives 0.
+std::int64_t RoundIntoRange(double value, std::int64_t lowest, std::int64_t highest);
+
 /// Back to the type of a field; a number that doesn't fit it is brought to its nearest value.
 template <class T>
-T FromPropertyValue(const PropertyValue& value);
+T FromPropertyValue(const PropertyValue& value) {
+    if constexpr (std::same_as<T, bool>) {
+        return AsFlag(value);
+    } else if constexpr (std::floating_point<T>) {
+        constexpr double highest = std::numeric_limits<T>::max();
+        const double number = AsNumber(value);
+        return static_cast<T>(std::isnan(number) ? 0 : std::clamp(number, -highest, highest));
+    } else if constexpr (std::integral<T>) {
+        static_assert(sizeof(T) <= sizeof(std::int32_t));
+        return static_cast<T>(
+            RoundIntoRange(AsNumber(value), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    } else {
+        return AsText(value);
+    }
+}
 
 /// A property with a getter and a setter; `kind` is needed for colours only.
 template <class Getter, class Setter>
@@ -80,7 +107,9 @@ void VisitField(PropertyVisitor& visitor, std::string_view name, T& field) {
 /// A plain field that holds a colour.
 void VisitColour(PropertyVisitor& visitor, std::string_view name, int& field);
 
-/// The six properties of a font.
+/// The six properties of a font: of plain fields, or of a font that a control reads and takes as a whole.
 void VisitFont(PropertyVisitor& visitor, FontProperties& font);
+void VisitFont(PropertyVisitor& visitor, const std::function<const FontProperties&()>& get,
+               const std::function<void(const FontProperties&)>& set);
 
 }  // namespace coinlet

@@ -25,17 +25,22 @@ public:
 
     Event<> Change;
 
-    /// The user types one character; `Change` comes once a character. A control character other than a line
-    /// end in a multi-line box types nothing; nor does anything in a locked box.
+    /// The user types one character behind the text; `Change` comes once a character. A control character
+    /// other than a line end in a multi-line box types nothing; nor does anything in a locked box.
     void UserTypes(std::string_view character);
     /// The user's editing made the text what it now is.
     void UserEdits(const std::string& text);
 
+    bool PassesEnterOn() const override { return !MultiLine; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
 private:
     std::string text_;
 };
+
+/// What a typed character adds to a field: itself without control characters; a line end adds CR LF to a
+/// field of several lines.
+std::string TypedText(std::string_view character, bool multiLine);
 
 }  // namespace coinlet

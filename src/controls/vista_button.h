@@ -2,16 +2,15 @@
 
 #include "controls/control.h"
 #include "controls/timer.h"
+#include "controls/vista_button_drawing.h"
 #include "surface/surface.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace coinlet {
-
-/// The look of a button.
-enum class ButtonState { Normal = 0, Hover = 1, Pressed = 2, Focused = 3, Disabled = 4 };
 
 /// The program's push button: a glossy body in two parts, a one-pixel frame with cut corners, five states, a
 /// picture and a caption. It draws every pixel itself.
@@ -19,16 +18,16 @@ class VistaButton : public Control {
 public:
     VistaButton(Container& container, std::string_view name, int index = noIndex);
 
-    const std::string& Caption() const { return caption_; }
-    Colour ForeColor() const { return foreColor_; }
-    const FontProperties& Font() const { return font_; }
+    const std::string& Caption() const { return look_.caption; }
+    Colour ForeColor() const { return look_.foreColor; }
+    const FontProperties& Font() const { return look_.font; }
     const Image& Picture() const { return picture_; }
-    int Pictures() const { return pictures_; }
-    bool UseMaskColor() const { return useMaskColor_; }
-    Colour MaskColor() const { return maskColor_; }
-    bool NoBackground() const { return noBackground_; }
-    Colour BackColor() const;
-    int PictureOffset() const { return pictureOffset_; }
+    int Pictures() const { return look_.pictures; }
+    bool UseMaskColor() const { return look_.useMaskColor; }
+    Colour MaskColor() const { return look_.maskColor; }
+    bool NoBackground() const { return look_.noBackground; }
+    Colour BackColor() const { return look_.backColor; }
+    int PictureOffset() const { return look_.pictureOffset; }
 
     // Setting any property draws the button anew.
     void SetCaption(const std::string& caption);
@@ -65,7 +64,6 @@ public:
     void PointerPressed(int button, int shift, float x, float y) override;
     void PointerMoved(int button, int shift, float x, float y) override;
     void PointerReleased(int button, int shift, float x, float y) override;
-    void PointerClicked() override;
     void KeyPressed(int code, int shift) override;
     void CharacterTyped(int character) override;
     void KeyReleased(int code, int shift) override;
@@ -74,19 +72,22 @@ public:
 
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
-    // ... private parts are the implementer's: SetState, StartHover, EndHover, IsMouseOver, and free drawing
-    // functions DrawButton(state), DrawCaption, DrawPicture, FillGradient, ToGradientColor in their own unit.
+
+    /// The four corners, which are no part of the button: the parent's background shows there.
+    bool IsCutPixel(int x, int y) const;
 
 private:
-    std::string caption_;
-    Colour foreColor_ = black;
-    FontProperties font_;
+    /// Stores the state; true if it is another one, for which alone the button is drawn anew.
+    bool SetState(ButtonState state);
+    ButtonState StateAtRest() const { return hasFocus_ ? ButtonState::Focused : ButtonState::Normal; }
+    void Redraw();
+    void PreparePicture();
+    void StartHover();
+    void EndHover();
+    bool IsMouseOver() const;
+
+    ButtonLook look_;
     Image picture_;
-    int pictures_ = 2;
-    bool useMaskColor_ = true;
-    Colour maskColor_ = RGB(0, 255, 0);
-    bool noBackground_ = false;
-    int pictureOffset_ = 0;
     ButtonState state_ = ButtonState::Normal;
     bool hasFocus_ = false;
     bool mouseDown_ = false;

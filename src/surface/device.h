@@ -15,11 +15,19 @@
 
 namespace coinlet {
 
-/// The pixel's colour, or -1 outside the surface.
-Colour GetPixel(DeviceContext hDC, int x, int y);
+/// The pixel's colour, or -1 outside the surface. Handlers read whole pictures with it, pixel by pixel.
+inline Colour GetPixel(DeviceContext hDC, int x, int y) {
+    const Bitmap& pixels = hDC.Target().Pixels();
+    return pixels.Contains(x, y) ? ToColour(pixels.Row(y)[x]) : -1;
+}
 /// Sets a pixel; outside the surface it does nothing.
-void SetPixel(DeviceContext hDC, int x, int y, Colour colour);
-void SetPixelV(DeviceContext hDC, int x, int y, Colour colour);
+inline void SetPixel(DeviceContext hDC, int x, int y, Colour colour) {
+    Surface& target = hDC.Target();
+    if (target.Pixels().Contains(x, y)) target.Write({x, y, x + 1, y + 1}).Row(y)[x] = ToPixel(colour);
+}
+inline void SetPixelV(DeviceContext hDC, int x, int y, Colour colour) {
+    SetPixel(hDC, x, y, colour);
+}
 
 /// The fill mode of ExtFloodFill that this program uses: the region of exactly one colour.
 constexpr int FLOODFILLSURFACE = 1;
@@ -64,8 +72,9 @@ constexpr int GRADIENT_FILL_RECT_V = 1;
 
 /// A two-colour gradient over each rectangle of `mesh`; the right and bottom edges are left out. Row i of n
 /// of a vertical one has the colour (c0 (n - i) + c1 i) / n in 16 bits, its low byte dropped; columns of a
-/// horizontal one alike. A rectangle told with its x (or y) the wrong way round is the same area with its
-/// colours as told. Returns false, drawing nothing, on an index outside `vertices` or another mode.
+/// horizontal one alike. A rectangle told with its x or y the wrong way round is the same area; each vertex
+/// keeps its colour, so that the upper one gives the top colour and the left one the left colour. Returns
+/// false, drawing nothing, on an index outside `vertices` or another mode.
 bool GradientFill(DeviceContext hDC, std::span<const TRIVERTEX> vertices, std::span<const GRADIENT_RECT> mesh,
                   int mode);
 
@@ -74,9 +83,10 @@ bool GradientFill(DeviceContext hDC, std::span<const TRIVERTEX> vertices, std::s
 struct BITMAPINFO {
     int biWidth = 0, biHeight = 0;
 };
-/// Copies `lines` rows between the surface and `buffer`, from row `start` on, counted in the buffer's order.
-/// Rows beyond either end, a width that isn't the surface's, or a buffer too small copy nothing. The spare
-/// byte is copied out as it is; into a surface it always becomes 255. Returns the number of rows copied.
+/// Copies `lines` rows between the surface and `buffer`, which holds just these rows, from row `start` of the
+/// picture on, counted in the buffer's order. Rows beyond either end, a width or height that isn't the
+/// surface's, or a buffer too small copy nothing. The spare byte is copied out as it is; into a surface it
+/// always becomes 255. Returns the number of rows copied.
 int GetDIBits(DeviceContext hDC, int start, int lines, std::span<std::uint8_t> buffer,
               const BITMAPINFO& info);
 int SetDIBits(DeviceContext hDC, int start, int lines, std::span<const std::uint8_t> buffer,
@@ -85,16 +95,18 @@ int SetDIBits(DeviceContext hDC, int start, int lines, std::span<const std::uint
 /// A rectangle as text is laid out in; right and bottom lie outside it.
 struct RECT {
     int left = 0, top = 0, right = 0, bottom = 0;
+
+    friend bool operator==(const RECT&, const RECT&) = default;
 };
 constexpr unsigned DT_CENTER = 1;
 constexpr unsigned DT_WORDBREAK = 16;
 constexpr unsigned DT_CALCRECT = 1024;
 
 /// Draws a text in `ForeColor` and the selected font (else the surface's own) with crisp edges, clipped to
-/// the rectangle. CR LF breaks a line, and with DT_WORDBREAK so does the last blank before the right edge; a
-/// word wider than the rectangle stands in a line of its own, unbroken. DT_CENTER centres each line. With
-/// DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges move to where the text ends. Returns
-/// its height.
+/// the rectangle, always level. CR LF breaks a line, and with DT_WORDBREAK so do the last blanks before the
+/// right edge, which are dropped; a word wider than the rectangle stands in a line of its own, unbroken.
+/// DT_CENTER centres each line. With DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges move
+/// to where the text ends. Returns the height of all lines; an empty text is one line.
 int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigned flags);
 
 /// Sets the colour of device text, which is the surface's `ForeColor`. Returns the former one.

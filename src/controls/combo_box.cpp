@@ -1,0 +1,87 @@
+#include "controls/combo_box.h"
+
+#include "controls/text_box.h"
+
+namespace coinlet {
+
+ComboBox::ComboBox(Container& container, std::string_view name, int index)
+    : Control(container, name, index, ControlKind::ComboBox) {
+    MakeFocusable();
+}
+
+void ComboBox::AddItem(const std::string& row) {
+    if (rows_.Add(row) <= listIndex_) ++listIndex_;
+}
+
+void ComboBox::RemoveItem(int index) {
+    if (!rows_.Remove(index)) return;
+    if (index == listIndex_) {
+        listIndex_ = -1;
+    } else if (index < listIndex_) {
+        --listIndex_;
+    }
+}
+
+void ComboBox::Clear() {
+    rows_.Clear();
+    listIndex_ = -1;
+    text_.clear();
+}
+
+void ComboBox::Choose(int index) {
+    listIndex_ = index;
+    text_ = rows_.Row(index);
+    Click();
+}
+
+void ComboBox::SetListIndex(int index) {
+    if (index == -1) text_.clear();
+    if (index != listIndex_ && (index == -1 || rows_.Contains(index))) Choose(index);
+}
+
+void ComboBox::SetText(const std::string& text) {
+    if (text == text_) return;
+    text_ = text;
+    listIndex_ = -1;
+    Change();
+}
+
+void ComboBox::UserPicks(int index) {
+    if (Answers() && rows_.Contains(index)) Choose(index);
+}
+
+void ComboBox::UserTypes(std::string_view character) {
+    UserEdits(text_ + TypedText(character, false));
+}
+
+void ComboBox::UserEdits(const std::string& text) {
+    if (Answers()) SetText(text);
+}
+
+void ComboBox::KeyPressed(int code, int shift) {
+    Control::KeyPressed(code, shift);
+    if (!Answers() || (code != keyUp && code != keyDown)) return;
+    const int row = RowAfterKey(code, listIndex_, ListCount());
+    if (row != listIndex_) UserPicks(row);
+}
+
+void ComboBox::VisitProperties(PropertyVisitor& visitor) {
+    Control::VisitProperties(visitor);
+    VisitColour(visitor, "ForeColor", ForeColor);
+    VisitColour(visitor, "BackColor", BackColor);
+    VisitProperty(
+        visitor, "ListIndex", PropertyKind::Number, [this] { return listIndex_; },
+        [this](int index) { SetListIndex(index); });
+    VisitProperty(
+        visitor, "Text", PropertyKind::Text, [this] { return text_; },
+        [this](const std::string& text) { SetText(text); });
+    VisitRows(visitor, rows_, {});
+    VisitFont(visitor, *this);
+}
+
+void ComboBox::VisitEvents(EventVisitor& visitor) {
+    Control::VisitEvents(visitor);
+    VisitEvent(visitor, "Change", Change);
+}
+
+}  // namespace coinlet

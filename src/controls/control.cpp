@@ -1,0 +1,154 @@
+#include "controls/control.h"
+
+#include "base/numbers.h"
+#include "controls/form.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int leftButton = 1;
+
+}  // namespace
+
+Control::Control(Container& container, std::string_view name, int index, ControlKind kind)
+    : Element(container.HostForm(), name, index),
+      TabIndex(container.HostForm().controlsMade_++),
+      container_(&container),
+      kind_(kind) {
+    container.children_.push_back(this);
+}
+
+Control::~Control() {
+    std::erase(container_->children_, this);
+    Form& form = OwnerForm();
+    if (form.focus_ == this) form.focus_ = nullptr;
+    if (form.DefaultButton == this) form.DefaultButton = nullptr;
+}
+
+void Control::Move(double left, double top, double width, double height) {
+    Move(left, top);
+    SetWidth(width);
+    SetHeight(height);
+}
+
+void Control::SetFocus() {
+    OwnerForm().MoveFocus(this);
+}
+
+bool Control::HasFocus() const {
+    return OwnerForm().Focus() == this;
+}
+
+int Control::PixelWidth() const {
+    return RoundHalfEven(Width() / container_->ChildUnitsPerPixel());
+}
+
+int Control::PixelHeight() const {
+    return RoundHalfEven(Height() / container_->ChildUnitsPerPixel());
+}
+
+bool Control::ContainsPoint(float x, float y) const {
+    const float units = PointerUnitsPerPixel();
+    return x >= 0 && y >= 0 && x < static_cast<float>(PixelWidth()) * units &&
+           y < static_cast<float>(PixelHeight()) * units;
+}
+
+bool Control::Answers() const {
+    const bool floats = kind_ == ControlKind::Shape || kind_ == ControlKind::Line;
+    return !floats && OwnerForm().Loaded() && Reachable();
+}
+
+bool Control::EndPress(int button) {
+    return button == leftButton && std::exchange(leftPressed_, false);
+}
+
+void Control::PointerPressed(int button, int shift, float x, float y) {
+    if (!Answers()) return;
+    if (button == leftButton) {
+        leftPressed_ = true;
+        SetFocus();
+        if (!Answers()) return;
+    }
+    MouseDown(button, shift, x, y);
+}
+
+void Control::PointerMoved(int button, int shift, float x, float y) {
+    if (Answers()) MouseMove(button, shift, x, y);
+}
+
+void Control::PointerReleased(int button, int shift, float x, float y) {
+    const bool clicks = EndPress(button) && ContainsPoint(x, y);
+    if (!Answers()) return;
+    MouseUp(button, shift, x, y);
+    if (clicks && Answers()) Clicked();
+}
+
+void Control::PointerClicked() {
+    const float units = PointerUnitsPerPixel();
+    const float x = static_cast<float>(PixelWidth() / 2) * units;
+    const float y = static_cast<float>(PixelHeight() / 2) * units;
+    PointerPressed(leftButton, 0, x, y);
+    PointerReleased(leftButton, 0, x, y);
+}
+
+void Control::KeyPressed(int code, int shift) {
+    if (Answers()) KeyDown(code, shift);
+}
+
+void Control::CharacterTyped(int character) {
+    if (Answers()) KeyPress(character);
+}
+
+void Control::KeyReleased(int code, int shift) {
+    if (Answers()) KeyUp(code, shift);
+}
+
+void Control::FocusGained() {
+    GotFocus();
+}
+
+void Control::FocusLost() {
+    LostFocus();
+}
+
+void Control::VisitProperties(PropertyVisitor& visitor) {
+    Element::VisitProperties(visitor);
+    VisitProperty(
+        visitor, "Left", PropertyKind::Number, [this] { return Left(); },
+        [this](double left) { SetLeft(left); });
+    VisitProperty(
+        visitor, "Top", PropertyKind::Number, [this] { return Top(); }, [this](double top) { SetTop(top); });
+    VisitProperty(
+        visitor, "Width", PropertyKind::Number, [this] { return Width(); },
+        [this](double width) { SetWidth(width); });
+    VisitProperty(
+        visitor, "Height", PropertyKind::Number, [this] { return Height(); },
+        [this](double height) { SetHeight(height); });
+    VisitField(visitor, "Visible", Visible);
+    VisitReadOnly(visitor, "Shown", PropertyKind::Flag, [this] { return Shown(); });
+    VisitProperty(
+        visitor, "Enabled", PropertyKind::Flag, [this] { return Enabled(); },
+        [this](bool enabled) { SetEnabled(enabled); });
+    VisitField(visitor, "TabIndex", TabIndex);
+    VisitField(visitor, "TabStop", TabStop);
+    VisitField(visitor, "ToolTipText", ToolTipText);
+    VisitField(visitor, "MousePointer", MousePointer);
+}
+
+void Control::VisitEvents(EventVisitor& visitor) {
+    VisitEvent(visitor, "Click", Click);
+    VisitEvent(visitor, "MouseDown", MouseDown);
+    VisitEvent(visitor, "MouseMove", MouseMove);
+    VisitEvent(visitor, "MouseUp", MouseUp);
+    VisitEvent(visitor, "KeyDown", KeyDown);
+    VisitEvent(visitor, "KeyPress", KeyPress);
+    VisitEvent(visitor, "KeyUp", KeyUp);
+    VisitEvent(visitor, "GotFocus", GotFocus);
+    VisitEvent(visitor, "LostFocus", LostFocus);
+}
+
+}  // namespace coinlet

@@ -1,0 +1,118 @@
+// Check boxes and option buttons: a mark at the left, a caption beside it.
+
+#include "controls/check_box.h"
+#include "shell/control_view.h"
+#include "shell/look.h"
+#include "shell/painted_widget.h"
+#include "shell/qt_text.h"
+#include "shell/views.h"
+
+#include <QPolygonF>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int markSize = 13;
+constexpr int captionLeft = markSize + 5;
+
+void PaintTick(QPainter& painter, const QRectF& box) {
+    painter.setPen(QPen(painter.pen().color(), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF corner = box.topLeft();
+    painter.drawPolyline(QPolygonF{corner + QPointF(3, 6.5), corner + QPointF(5.5, 9), corner + QPointF(10, 3.5)});
+}
+
+void PaintDot(QPainter& painter, const QRectF& box) {
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(box.center(), 3, 3);
+}
+
+template <class Choice>
+class ChoiceView : public ViewOf<Choice> {
+public:
+    ChoiceView(Choice& choice, PaintedWidget& widget, EventGate& gate, bool round)
+        : ViewOf<Choice>(choice, widget, gate), round_(round) {
+        widget.Paint = [this](QPainter& painter, const QRect&) { Paint(painter); };
+    }
+
+protected:
+    void MirrorContent() override {
+        const Choice& choice = this->model();
+        const bool captionChanged = Differs(caption_, choice.Caption);
+        if (captionChanged) this->UpdateAccessibleName();
+        const bool fontChanged = Differs<FontProperties, FontProperties>(font_, choice);
+        if (fontChanged) letters_ = ToQFont(font_);
+        const Look look{choice.ForeColor, choice.BackColor, choice.Value(), choice.HasFocus()};
+        const bool lookChanged = Differs(look_, look);
+        if (captionChanged || fontChanged || lookChanged) this->Widget().update();
+    }
+    std::string_view CaptionText() const override { return caption_; }
+
+private:
+    struct Look {
+        Colour fore = black, back = white;
+        bool value = false, focused = false;
+        friend bool operator==(const Look&, const Look&) = default;
+    };
+
+    void Paint(QPainter& painter) const {
+        const QWidget& widget = this->Widget();
+        painter.fillRect(widget.rect(), ToQColor(look_.back));
+        PaintMark(painter, QRectF(0.5, (widget.height() - markSize) / 2 + 0.5, markSize - 1, markSize - 1));
+
+        painter.setFont(letters_);
+        painter.setPen(ToQColor(widget.isEnabled() ? look_.fore : disabledTextColour));
+        const QRect room = widget.rect().adjusted(captionLeft, 0, 0, 0);
+        const QString text = ToQString(caption_);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text);
+        if (!look_.focused || text.isEmpty()) return;
+        QStyleOptionFocusRect option;
+        option.initFrom(&widget);
+        option.rect = painter.boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, text)
+                          .adjusted(-2, 0, 2, 0)
+                          .intersected(widget.rect());
+        widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
+    }
+
+    void PaintMark(QPainter& painter, const QRectF& box) const {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        const bool enabled = this->Widget().isEnabled();
+        painter.setPen(ToQColor(edgeColour));
+        painter.setBrush(ToQColor(enabled ? fieldColour : RGB(110, 110, 120)));
+        if (round_) {
+            painter.drawEllipse(box);
+        } else {
+            painter.drawRoundedRect(box, 1.5, 1.5);
+        }
+        painter.setPen(ToQColor(fieldTextColour));
+        if (look_.value && round_) PaintDot(painter, box);
+        if (look_.value && !round_) PaintTick(painter, box);
+        painter.restore();
+    }
+
+    bool round_;
+    std::string caption_;
+    FontProperties font_{.FontName = {}};
+    QFont letters_;
+    Look look_;
+};
+
+}  // namespace
+
+ControlView* MakeCheckBoxView(Control& control, QWidget& parent, EventGate& gate) {
+    return new ChoiceView<CheckBox>(static_cast<CheckBox&>(control), *new PaintedWidget(&parent), gate, false);
+}
+
+ControlView* MakeOptionButtonView(Control& control, QWidget& parent, EventGate& gate) {
+    return new ChoiceView<OptionButton>(static_cast<OptionButton&>(control), *new PaintedWidget(&parent), gate,
+                                        true);
+}
+
+}  // namespace coinlet

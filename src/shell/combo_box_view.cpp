@@ -1,0 +1,101 @@
+#include "controls/combo_box.h"
+
+#include "shell/control_view.h"
+#include "shell/event_gate.h"
+#include "shell/key_events.h"
+#include "shell/look.h"
+#include "shell/qt_text.h"
+#include "shell/row_model.h"
+#include "shell/views.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+class ComboBoxView : public ViewOf<ComboBox> {
+public:
+    ComboBoxView(ComboBox& combo, QComboBox& widget, EventGate& gate)
+        : ViewOf(combo, widget, gate, Handling::WidgetToo, Handling::WidgetToo), combo_(widget) {
+        constexpr int rowsAtOnce = 16;
+        widget.setEditable(true);
+        widget.setCompleter(nullptr);
+        widget.setInsertPolicy(QComboBox::NoInsert);
+        widget.setMaxVisibleItems(rowsAtOnce);
+        // Else the widget would measure every row of a long list before it is first shown.
+        widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        if (auto* list = qobject_cast<QListView*>(widget.view())) list->setUniformItemSizes(true);
+        widget.setModel(&rows_);
+        Watch(*widget.lineEdit());
+        connect(&widget, &QComboBox::activated, this, [this](int index) { Pick(index); });
+        connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Edit(text); });
+    }
+    ~ComboBoxView() override { combo_.disconnect(this); }
+
+    void Detach() override {
+        rows_.Clear();
+        ViewOf::Detach();
+    }
+
+protected:
+    void MirrorContent() override {
+        const ComboBox& combo = model();
+        if (Differs<FontProperties, FontProperties>(font_, combo)) combo_.setFont(ToQFont(font_));
+        const bool foreChanged = Differs(fore_, combo.ForeColor);
+        const bool backChanged = Differs(back_, combo.BackColor);
+        if (foreChanged || backChanged) combo_.setPalette(FieldPalette(fore_, back_));
+        const bool rowsChanged = rows_.Mirror(combo.Rows());
+        const bool choiceChanged = Differs(chosen_, combo.ListIndex());
+        const bool textChanged = Differs(text_, combo.Text());
+        if (!rowsChanged && !choiceChanged && !textChanged) return;
+        const QSignalBlocker silent(combo_);
+        const int cursor = combo_.lineEdit()->cursorPosition();
+        combo_.setCurrentIndex(chosen_);
+        const QString text = ToQString(text_);
+        if (combo_.lineEdit()->text() != text) combo_.lineEdit()->setText(text);
+        combo_.lineEdit()->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool usedUp = ViewOf::eventFilter(watched, event);
+        if (event->type() != QEvent::KeyPress) return usedUp;
+        // The program steps through the rows by itself.
+        const int code = KeyCode(static_cast<const QKeyEvent*>(event)->key());
+        return usedUp || code == keyUp || code == keyDown || code == keyPageUp || code == keyPageDown;
+    }
+
+private:
+    void Pick(int index) {
+        if (!Shown()) return;
+        Gate().Enter([&] { model().UserPicks(index); });
+    }
+    void Edit(const QString& text) {
+        if (!Shown()) return;
+        text_ = ToUtf8(text);
+        Gate().Enter([&] { model().UserEdits(text_); });
+    }
+
+    QComboBox& combo_;
+    RowModel rows_;
+    FontProperties font_{.FontName = {}};
+    Colour fore_ = -2, back_ = -2;
+    int chosen_ = -1;
+    std::string text_;
+};
+
+}  // namespace
+
+ControlView* MakeComboBoxView(Control& control, QWidget& parent, EventGate& gate) {
+    return new ComboBoxView(static_cast<ComboBox&>(control), *new QComboBox(&parent), gate);
+}
+
+}  // namespace coinlet

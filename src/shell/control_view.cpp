@@ -1,0 +1,174 @@
+#include "shell/control_view.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "controls/form.h"
+#include "shell/event_gate.h"
+#include "shell/key_events.h"
+#include "shell/look.h"
+#include "shell/qt_text.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace coinlet {
+
+namespace {
+
+int ButtonNumber(Qt::MouseButton button) {
+    return button == Qt::LeftButton ? 1 : button == Qt::RightButton ? 2 : 0;
+}
+
+int HeldButton(Qt::MouseButtons buttons) {
+    return buttons.testFlag(Qt::LeftButton) ? 1 : buttons.testFlag(Qt::RightButton) ? 2 : 0;
+}
+
+}  // namespace
+
+ControlView::ControlView(Control& control, QWidget& widget, EventGate& gate, Handling pointer, Handling keys)
+    : QObject(&widget),
+      control_(&control),
+      widget_(&widget),
+      gate_(gate),
+      pointer_(pointer),
+      keys_(keys),
+      kind_(control.Kind()),
+      name_(control.Name()),
+      index_(control.Index()) {
+    widget.hide();
+    widget.setObjectName(ToQString(control.Name()));
+    // The form says where the focus goes, by a press or by the tab key; a widget follows.
+    widget.setFocusPolicy(Qt::TabFocus);
+    Watch(widget);
+    widget.setAccessibleName(ToQString(control.Name()));
+}
+
+void ControlView::Watch(QWidget& part) {
+    // What the user does to a disabled control isn't meant for what lies behind it.
+    part.setAttribute(Qt::WA_NoMousePropagation);
+    part.setMouseTracking(true);
+    part.installEventFilter(this);
+}
+
+void ControlView::Mirror() {
+    MirrorContent();
+    MirrorPlace();
+    if (Differs(enabled_, control_->Enabled())) widget_->setEnabled(enabled_);
+    if (Differs(toolTip_, control_->ToolTipText)) {
+        widget_->setToolTip(ToQString(toolTip_));
+        UpdateAccessibleName();
+    }
+    if (Differs(mousePointer_, control_->MousePointer)) {
+        if (const auto shape = PointerShape(mousePointer_)) {
+            widget_->setCursor(*shape);
+        } else {
+            widget_->unsetCursor();
+        }
+    }
+    if (Differs(visible_, control_->Visible)) widget_->setVisible(visible_);
+}
+
+void ControlView::MirrorPlace() {
+    const bool stale = SizeIsStale();
+    const Place place{control_->Left(), control_->Top(), stale ? control_->Width() : place_.width,
+                      stale ? control_->Height() : place_.height, control_->Parent().ChildUnitsPerPixel()};
+    if (!Differs(place_, place)) return;
+    widget_->setGeometry(RoundHalfEven(place.left / place.unit), RoundHalfEven(place.top / place.unit),
+                         std::max(0, control_->PixelWidth()), std::max(0, control_->PixelHeight()));
+}
+
+void ControlView::Detach() {
+    Abandon();
+}
+
+void ControlView::Abandon() {
+    control_ = nullptr;
+    widget_->hide();
+    gate_.Retire(*widget_);
+}
+
+bool ControlView::IsOf(const Control& control) const {
+    return control_ == &control && kind_ == control.Kind() && name_ == control.Name() &&
+           index_ == control.Index();
+}
+
+void ControlView::UpdateAccessibleName() {
+    const std::string_view caption = TrimBlanks(CaptionText());
+    const std::string_view toolTip = TrimBlanks(toolTip_);
+    widget_->setAccessibleName(ToQString(!caption.empty() ? caption : !toolTip.empty() ? toolTip : name_));
+}
+
+void ControlView::Press(int button, int shift, float x, float y, bool) {
+    Gate().Enter([&] { control_->PointerPressed(button, shift, x, y); });
+}
+
+bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+    if (!control_) return false;
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseMove:
+            return HandlePointer(watched, static_cast<const QMouseEvent&>(*event));
+        case QEvent::KeyPress:
+            return HandleKey(static_cast<const QKeyEvent&>(*event));
+        case QEvent::KeyRelease:
+            ReleaseKey(control_->OwnerForm(), gate_, static_cast<const QKeyEvent&>(*event));
+            return keys_ == Handling::Program || !control_;
+        case QEvent::ShortcutOverride:
+            if (KeepsKey(static_cast<const QKeyEvent&>(*event))) event->accept();
+            return event->isAccepted() && keys_ == Handling::Program;
+        case QEvent::FocusIn:
+            TakeToolkitFocus();
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool ControlView::HandlePointer(QObject* watched, const QMouseEvent& event) {
+    if (!control_->Reachable()) return true;
+    const bool move = event.type() == QEvent::MouseMove;
+    const int button = move ? HeldButton(event.buttons()) : ButtonNumber(event.button());
+    if (!move && button == 0) return true;
+    const int shift = ShiftState(event.modifiers());
+
+    const auto* part = static_cast<const QWidget*>(watched);
+    const QPointF place = part == widget_ ? event.position() : part->mapTo(widget_, event.position());
+    const float unit = control_->PointerUnitsPerPixel();
+    const float x = static_cast<float>(std::floor(place.x())) * unit;
+    const float y = static_cast<float>(std::floor(place.y())) * unit;
+
+    if (move) {
+        gate_.Enter([&] { control_->PointerMoved(button, shift, x, y); });
+    } else if (event.type() == QEvent::MouseButtonRelease) {
+        gate_.Enter([&] { control_->PointerReleased(button, shift, x, y); });
+    } else {
+        Press(button, shift, x, y, event.type() == QEvent::MouseButtonDblClick);
+    }
+    return pointer_ == Handling::Program || !control_ || !control_->Reachable();
+}
+
+bool ControlView::HandleKey(const QKeyEvent& event) {
+    const bool usedUp = PressKey(control_->OwnerForm(), gate_, event);
+    return usedUp || keys_ == Handling::Program || !control_ || KeyCode(event.key()) == keyReturn;
+}
+
+/// Keys that the control wants for itself are no shortcuts of a menu. A field tells that itself.
+bool ControlView::KeepsKey(const QKeyEvent& event) const {
+    const bool plain = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+    const int code = KeyCode(event.key());
+    const bool steps = (code >= keyPageUp && code <= keyDown) || code == keySpace || code == keyReturn;
+    return keys_ == Handling::Program && plain && steps;
+}
+
+/// The toolkit moved the focus by itself: the window came to the front, or an assistive tool asked.
+void ControlView::TakeToolkitFocus() {
+    if (gate_.Mirroring() || control_->HasFocus()) return;
+    gate_.Enter([this] { control_->OwnerForm().MoveFocus(control_); });
+}
+
+}  // namespace coinlet

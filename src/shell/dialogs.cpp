@@ -1,0 +1,83 @@
+#include "shell/dialogs.h"
+
+#include "shell/qt_text.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <algorithm>
+#include <iterator>
+
+namespace coinlet {
+
+namespace {
+
+struct NamedAnswer {
+    Answer answer;
+    QMessageBox::StandardButton button;
+};
+constexpr NamedAnswer answers[] = {
+    {Answer::Ok, QMessageBox::Ok},
+    {Answer::Cancel, QMessageBox::Cancel},
+    {Answer::Yes, QMessageBox::Yes},
+    {Answer::No, QMessageBox::No},
+};
+
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    return std::find_if(std::begin(answers), std::end(answers),
+                        [=](const NamedAnswer& entry) { return entry.answer == answer; })
+        ->button;
+}
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::Stop:
+            return QMessageBox::Critical;
+        case MessageIcon::Question:
+            return QMessageBox::Question;
+        case MessageIcon::Warning:
+            return QMessageBox::Warning;
+        case MessageIcon::Information:
+            return QMessageBox::Information;
+        case MessageIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+Answer ShowMessageBox(QWidget* parent, const Message& message) {
+    const bool question = message.buttons == MessageButtons::YesNo;
+    QMessageBox box(IconOf(message.icon), ToQString(message.title),
+                    ToQString(message.prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")),
+                    question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+    const bool toldNo = question && message.standard == Answer::No;
+    box.setDefaultButton(ButtonOf(toldNo ? Answer::No : question ? Answer::Yes : Answer::Ok));
+    const int pressed = box.exec();
+    const auto* found = std::find_if(std::begin(answers), std::end(answers),
+                                     [=](const NamedAnswer& entry) { return entry.button == pressed; });
+    return found == std::end(answers) ? (question ? Answer::No : Answer::Ok) : found->answer;
+}
+
+std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
+                         const std::string& standard) {
+    QInputDialog box(parent);
+    box.setWindowTitle(ToQString(title));
+    box.setLabelText(ToQString(prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.setTextValue(ToQString(standard));
+    return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
+}
+
+std::string ShowFolderPicker(QWidget* parent, const std::string& title) {
+    QFileDialog picker(parent, ToQString(title));
+    picker.setFileMode(QFileDialog::Directory);
+    picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    if (picker.exec() != QDialog::Accepted || picker.selectedFiles().isEmpty()) return {};
+    return ToUtf8(picker.selectedFiles().constFirst());
+}
+
+}  // namespace coinlet

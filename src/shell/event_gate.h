@@ -1,0 +1,74 @@
+#pragma once
+
+#include "controls/platform.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <concepts>
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace coinlet {
+
+/// The one door through which the toolkit's events enter the program. Behind it handlers run; no exception
+/// passes it on the way back, for the toolkit's own frames can't be unwound; and after every event the
+/// windows are made equal to the forms.
+class EventGate {
+public:
+    /// `mirror` makes all windows equal to their forms.
+    EventGate(const Platform& platform, std::function<void()> mirror)
+        : platform_(platform), mirror_(std::move(mirror)) {}
+
+    /// Runs a handler and mirrors. What widgets report because they are being mirrored is no event, and after
+    /// the end of the program there are none: both are passed over.
+    template <std::invocable Handler>
+    void Enter(Handler handler) {
+        if (mirroring_ || platform_.Ended()) return;
+        ++depth_;
+        try {
+            handler();
+            Mirror();
+        } catch (const ProgramEnded&) {
+            // The windows are hidden by now, and every event loop is on its way out.
+        }
+        if (--depth_ == 0) EndRetired();
+    }
+
+    /// Does something to widgets whose reports are no events.
+    template <std::invocable Change>
+    void Quietly(Change change) {
+        const bool outer = std::exchange(mirroring_, true);
+        change();
+        mirroring_ = outer;
+    }
+    void Mirror() {
+        if (!mirroring_) Quietly(mirror_);
+    }
+    bool Mirroring() const { return mirroring_; }
+
+    /// Ends an object of the toolkit once no handler runs that an event to it may have started: handlers wait
+    /// for further events, and those may take away what the first one was for.
+    void Retire(QObject& object) {
+        if (depth_ == 0) {
+            object.deleteLater();
+        } else {
+            retired_.emplace_back(&object);
+        }
+    }
+
+private:
+    void EndRetired() {
+        for (const auto& object : std::exchange(retired_, {}))
+            if (object) object->deleteLater();
+    }
+
+    const Platform& platform_;
+    std::function<void()> mirror_;
+    bool mirroring_ = false;
+    int depth_ = 0;
+    std::vector<QPointer<QObject>> retired_;
+};
+
+}  // namespace coinlet

@@ -1,0 +1,197 @@
+#include "shell/form_window.h"
+
+#include "base/numbers.h"
+#include "controls/frame.h"
+#include "controls/menu.h"
+#include "controls/picture_box.h"
+#include "shell/event_gate.h"
+#include "shell/key_events.h"
+#include "shell/look.h"
+#include "shell/painted_widget.h"
+#include "shell/qt_text.h"
+#include "shell/views.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
+
+#include <algorithm>
+#include <set>
+
+namespace coinlet {
+
+namespace {
+
+constexpr Qt::WindowFlags mainFlags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                      Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                      Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags dialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+const Container* AsContainer(const Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::Frame:
+            return &static_cast<const Frame&>(control);
+        case ControlKind::PictureBox:
+            return &static_cast<const PictureBox&>(control);
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
+    : QWidget(behind, behind ? dialogFlags : mainFlags),
+      form_(&form),
+      gate_(gate),
+      menus_(form, *this, gate),
+      timers_(form, gate),
+      face_(new PaintedWidget(this)) {
+    setObjectName(ToQString(form.Name()));
+    // The keyboard rests here while no control has the focus.
+    setFocusPolicy(Qt::NoFocus);
+    if (behind) setWindowModality(Qt::ApplicationModal);
+    face_->setAttribute(Qt::WA_OpaquePaintEvent);
+    face_->Paint = [this](QPainter& painter, const QRect& dirty) {
+        painter.fillRect(dirty, ToQColor(backColor_));
+        outlines_.Paint(painter);
+    };
+    containers_[&form] = face_;
+}
+
+FormWindow::~FormWindow() = default;
+
+void FormWindow::Open() {
+    Mirror();
+    if (const QWidget* behind = parentWidget()) {
+        const QRect room = behind->screen()->availableGeometry();
+        QRect place(QPoint(), size());
+        place.moveCenter(behind->geometry().center());
+        place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() + 1 - place.width())));
+        place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() + 1 - place.height())));
+        move(place.topLeft());
+    }
+    show();
+    activateWindow();
+    MirrorFocus();
+}
+
+void FormWindow::SyncElements() {
+    if (!form_ || (synced_ && elements_ == form_->ElementRevision())) return;
+    synced_ = true;
+    elements_ = form_->ElementRevision();
+
+    std::set<const Control*> present;
+    std::vector<Control*> controls;
+    for (Element* element : form_->Elements()) {
+        auto* control = dynamic_cast<Control*>(element);
+        if (!control) continue;
+        controls.push_back(control);
+        present.insert(control);
+    }
+    const auto gone = [&](ControlView* view) {
+        if (present.contains(view->Shown()) && view->IsOf(*view->Shown())) return false;
+        std::erase_if(containers_, [view](const auto& entry) { return entry.second == &view->Widget(); });
+        view->Abandon();
+        return true;
+    };
+    std::erase_if(views_, gone);
+    for (Control* control : controls)
+        if (!ViewOf(*control)) AddView(*control);
+    outlines_.Gather(*form_, *face_);
+    for (ControlView* view : views_)
+        view->GatherOutlines();
+    menus_.SyncEntries();
+}
+
+void FormWindow::AddView(Control& control) {
+    const auto parent = containers_.find(&control.Parent());
+    if (parent == containers_.end()) return;
+    ControlView* view = MakeView(control, *parent->second, gate_);
+    if (!view) return;
+    views_.push_back(view);
+    if (const Container* container = AsContainer(control)) containers_[container] = &view->Widget();
+}
+
+ControlView* FormWindow::ViewOf(const Control& control) const {
+    const auto found = std::find_if(views_.begin(), views_.end(),
+                                    [&](const ControlView* view) { return view->Shown() == &control; });
+    return found == views_.end() ? nullptr : *found;
+}
+
+void FormWindow::Mirror() {
+    if (!form_) return;
+    SyncElements();
+    timers_.Mirror();
+    if (menus_.Mirror()) barIsStale_ = true;
+    MirrorFrame();
+    outlines_.Mirror(*face_);
+    for (ControlView* view : views_)
+        view->Mirror();
+    MirrorFocus();
+}
+
+void FormWindow::MirrorFrame() {
+    if (Differs(caption_, form_->Caption)) setWindowTitle(ToQString(caption_));
+    if (Differs(backColor_, form_->BackColor)) face_->update();
+    if (Differs(mousePointer_, form_->MousePointer)) {
+        if (const auto shape = PointerShape(mousePointer_)) {
+            setCursor(*shape);
+        } else {
+            unsetCursor();
+        }
+    }
+    const QSize size(RoundHalfEven(form_->Width / form_->ChildUnitsPerPixel()),
+                     RoundHalfEven(form_->Height / form_->ChildUnitsPerPixel()));
+    const bool sizeChanged = Differs(size_, size);
+    if (!sizeChanged && !barIsStale_) return;
+    barIsStale_ = false;
+    QMenuBar* bar = menus_.Bar();
+    const int barHeight = bar ? bar->sizeHint().height() : 0;
+    if (bar) {
+        bar->setGeometry(0, 0, size.width(), barHeight);
+        bar->show();
+    }
+    face_->setGeometry(0, barHeight, size.width(), size.height());
+    setFixedSize(size.width(), size.height() + barHeight);
+}
+
+void FormWindow::MirrorFocus() {
+    if (!isVisible()) return;
+    const Control* focused = form_->Focus();
+    ControlView* view = focused ? ViewOf(*focused) : nullptr;
+    QWidget* wanted = view ? &view->KeyboardWidget() : this;
+    if (focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::Detach() {
+    SyncElements();
+    for (ControlView* view : views_)
+        view->Detach();
+    views_.clear();
+    outlines_.Clear();
+    menus_.Detach();
+    timers_.Detach();
+    form_ = nullptr;
+    hide();
+    gate_.Retire(*this);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!form_) return;
+    gate_.Enter([this] { form_->Unload(); });
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (form_) PressKey(*form_, gate_, *event);
+}
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event) {
+    if (form_) ReleaseKey(*form_, gate_, *event);
+}
+
+}  // namespace coinlet

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "controls/form.h"
+#include "shell/control_view.h"
+#include "shell/menu_view.h"
+#include "shell/outlines.h"
+#include "shell/timer_view.h"
+
+#include <QWidget>
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace coinlet {
+
+class PaintedWidget;
+
+/// The window of a form: menu bar, controls, timers. It is as large as the form says.
+class FormWindow : public QWidget {
+public:
+    /// A dialog lies before the window `behind`; the main window has none behind it.
+    FormWindow(Form& form, EventGate& gate, QWidget* behind);
+    ~FormWindow() override;
+
+    /// Shows the window: a dialog in the middle of the one behind it, but not beyond the screen.
+    void Open();
+    /// Makes widgets for controls that have come, and lets go of those that have gone. What serves events
+    /// must call it first, for until then widgets may still know of controls that aren't there.
+    void SyncElements();
+    /// Makes the whole window equal to its form.
+    void Mirror();
+    /// The form is unloaded: hides the window, which from now on knows nothing of the form and ends when no
+    /// event is on its way to it.
+    void Detach();
+
+    Form* Shown() const { return form_; }
+    ControlView* ViewOf(const Control& control) const;
+    QMenu* PopupOf(const MenuItem& menu) const { return menus_.PopupOf(menu); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    void AddView(Control& control);
+    void MirrorFrame();
+    void MirrorFocus();
+
+    Form* form_;
+    EventGate& gate_;
+    MenuView menus_;
+    TimerView timers_;
+    PaintedWidget* face_;
+    Outlines outlines_;
+    std::vector<ControlView*> views_;
+    std::map<const Container*, QWidget*> containers_;
+
+    std::uint64_t elements_ = 0;
+    bool synced_ = false;
+    std::string caption_;
+    Colour backColor_ = white;
+    int mousePointer_ = defaultPointer;
+    QSize size_;
+    bool barIsStale_ = true;
+};
+
+}  // namespace coinlet

@@ -1,0 +1,79 @@
+#include "controls/list_box.h"
+
+#include "shell/control_view.h"
+#include "shell/event_gate.h"
+#include "shell/look.h"
+#include "shell/row_model.h"
+#include "shell/views.h"
+
+#include <QListView>
+
+namespace coinlet {
+
+namespace {
+
+class ListBoxView : public ViewOf<ListBox> {
+public:
+    ListBoxView(ListBox& list, QListView& widget, EventGate& gate)
+        : ViewOf(list, widget, gate), list_(widget) {
+        widget.setModel(&rows_);
+        widget.setUniformItemSizes(true);
+        widget.setSelectionMode(QAbstractItemView::SingleSelection);
+        widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
+        widget.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        widget.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+        widget.setFrameShape(QFrame::Box);
+        widget.setFrameShadow(QFrame::Plain);
+        widget.setContextMenuPolicy(Qt::NoContextMenu);
+        Watch(*widget.viewport());
+    }
+    ~ListBoxView() override { list_.setModel(nullptr); }
+
+    void Detach() override {
+        rows_.Clear();
+        ViewOf::Detach();
+    }
+
+protected:
+    void MirrorContent() override {
+        const ListBox& list = model();
+        if (Differs<FontProperties, FontProperties>(font_, list)) list_.setFont(ToQFont(font_));
+        const bool foreChanged = Differs(fore_, list.ForeColor);
+        const bool backChanged = Differs(back_, list.BackColor);
+        if (foreChanged || backChanged) list_.setPalette(FieldPalette(fore_, back_));
+        const bool rowsChanged = rows_.Mirror(list.Rows());
+        const bool choiceChanged = Differs(chosen_, list.ListIndex());
+        if (rowsChanged || choiceChanged) list_.setCurrentIndex(rows_.index(chosen_, 0));
+    }
+
+    /// A press on a row is its click; a second one soon after it is the double click, and no further click.
+    void Press(int button, int shift, float x, float y, bool again) override {
+        const QPoint place(static_cast<int>(x), static_cast<int>(y));
+        const int row = list_.indexAt(list_.viewport()->mapFrom(&list_, place)).row();
+        Gate().Enter([&] {
+            ListBox& list = model();
+            list.PointerPressed(button, shift, x, y);
+            if (button != 1 || row < 0) return;
+            if (again && row == list.ListIndex()) {
+                list.UserActivates();
+            } else {
+                list.UserPicks(row);
+            }
+        });
+    }
+
+private:
+    QListView& list_;
+    RowModel rows_;
+    FontProperties font_{.FontName = {}};
+    Colour fore_ = -2, back_ = -2;
+    int chosen_ = -1;
+};
+
+}  // namespace
+
+ControlView* MakeListBoxView(Control& control, QWidget& parent, EventGate& gate) {
+    return new ListBoxView(static_cast<ListBox&>(control), *new QListView(&parent), gate);
+}
+
+}  // namespace coinlet

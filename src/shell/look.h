@@ -1,0 +1,46 @@
+#pragma once
+
+#include "surface/colour.h"
+#include "surface/font_properties.h"
+
+#include <QColor>
+#include <QCursor>
+#include <QFont>
+#include <QIcon>
+#include <QPalette>
+
+#include <optional>
+
+namespace coinlet {
+
+/// The colours of forms and fields, and what is mixed from them.
+constexpr Colour formColour = RGB(220, 220, 190);
+constexpr Colour fieldColour = RGB(0, 0, 50);
+constexpr Colour fieldTextColour = RGB(220, 220, 250);
+constexpr Colour edgeColour = RGB(140, 140, 110);
+constexpr Colour highlightColour = RGB(70, 90, 170);
+constexpr Colour disabledTextColour = RGB(130, 130, 110);
+
+/// -1, the colour outside a picture, is shown as white.
+inline QColor ToQColor(Colour colour) {
+    return QColor::fromRgb(ToPixel(colour));
+}
+
+/// A font with letters of `FontSize` points at 96 dots an inch, whatever the desktop is set to.
+QFont ToQFont(const FontProperties& font);
+
+/// Gives the application its fixed look: one style, colours that a dark desktop doesn't change, and letters
+/// of 11 pixels. To be called once, after the application object is made.
+void ApplyLook();
+
+/// The palette of something that shows text on a ground of its own: enabled, disabled and unfocused alike,
+/// but for paler letters while it is disabled.
+QPalette FieldPalette(Colour text, Colour ground);
+
+/// The pointer shape of that number, or nothing for the shape of what lies behind.
+std::optional<QCursor> PointerShape(int number);
+
+/// The program's mark in the title bar: a coin.
+QIcon ProgramIcon();
+
+}  // namespace coinlet

@@ -1,0 +1,120 @@
+#include "shell/menu_view.h"
+
+#include "controls/form.h"
+#include "controls/menu.h"
+#include "shell/control_view.h"
+#include "shell/event_gate.h"
+#include "shell/qt_text.h"
+
+#include <QKeySequence>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace coinlet {
+
+MenuView::MenuView(Form& form, QWidget& owner, EventGate& gate)
+    : form_(&form), owner_(owner), gate_(gate), bar_(std::make_unique<QMenuBar>(&owner)) {
+    bar_->setNativeMenuBar(false);
+    bar_->hide();
+}
+
+MenuView::~MenuView() = default;
+
+void MenuView::Collect(const std::vector<MenuItem*>& items, std::vector<const MenuItem*>& all) {
+    for (const MenuItem* item : items) {
+        all.push_back(item);
+        Collect(item->Entries(), all);
+    }
+}
+
+void MenuView::SyncEntries() {
+    std::vector<const MenuItem*> order;
+    Collect(form_->Menus(), order);
+    if (order == order_) return;
+    order_ = std::move(order);
+    // A menu may be on its way to report a choice: it ends when nothing is on its way any more.
+    for (auto& menu : menus_)
+        gate_.Retire(*menu.release());
+    menus_.clear();
+    entries_.clear();
+    bar_->clear();
+    for (MenuItem* item : form_->Menus())
+        Add(*item, nullptr);
+}
+
+void MenuView::Add(MenuItem& item, QMenu* parent) {
+    QMenu* menu = nullptr;
+    QAction* action = nullptr;
+    if (parent && item.Entries().empty()) {
+        action = parent->addAction(QString());
+        QObject::connect(action, &QAction::triggered, &owner_, [this, action] { Choose(action); });
+        owner_.addAction(action);
+    } else {
+        menus_.push_back(std::make_unique<QMenu>(&owner_));
+        menu = menus_.back().get();
+        action = menu->menuAction();
+        if (parent) {
+            parent->addAction(action);
+        } else {
+            bar_->addAction(action);
+        }
+    }
+    entries_.push_back({&item, action, menu, {}, {}, {}});
+    for (MenuItem* entry : item.Entries())
+        Add(*entry, menu);
+}
+
+bool MenuView::Mirror() {
+    bool changed = false;
+    for (Entry& entry : entries_) {
+        const MenuItem& item = *entry.item;
+        const Look look{item.Checked, item.Enabled, item.Visible};
+        const bool captionChanged = Differs(entry.caption, item.Caption);
+        const bool shortcutChanged = Differs(entry.shortcut, item.Shortcut);
+        const bool lookChanged = Differs(entry.look, look);
+        if (!captionChanged && !shortcutChanged && !lookChanged) continue;
+        changed = true;
+        if (captionChanged) {
+            entry.action->setSeparator(item.IsSeparator());
+            entry.action->setText(ToQString(entry.caption));
+        }
+        if (shortcutChanged)
+            entry.action->setShortcut(QKeySequence(ToQString(entry.shortcut), QKeySequence::PortableText));
+        entry.action->setCheckable(look.checked);
+        entry.action->setChecked(look.checked);
+        entry.action->setEnabled(look.enabled);
+        entry.action->setVisible(look.visible);
+    }
+    return changed;
+}
+
+void MenuView::Detach() {
+    form_ = nullptr;
+    entries_.clear();
+}
+
+QMenuBar* MenuView::Bar() const {
+    const bool filled = std::any_of(entries_.begin(), entries_.end(), [](const Entry& entry) {
+        return !entry.item->Parent() && entry.item->Visible;
+    });
+    return filled ? bar_.get() : nullptr;
+}
+
+QMenu* MenuView::PopupOf(const MenuItem& menu) const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& entry) { return entry.item == &menu; });
+    return found == entries_.end() ? nullptr : found->menu;
+}
+
+void MenuView::Choose(const QAction* action) {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [action](const Entry& entry) { return entry.action == action; });
+    if (found == entries_.end()) return;
+    gate_.Enter([item = found->item] {
+        if (item->CanBeChosen()) item->Click();
+    });
+}
+
+}  // namespace coinlet

@@ -1,0 +1,109 @@
+#include "shell/outlines.h"
+
+#include "base/numbers.h"
+#include "controls/shapes.h"
+#include "shell/look.h"
+
+#include <QPainter>
+#include <QWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace coinlet {
+
+QRect Outlines::Look::Bounds() const {
+    const QRect bounds(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
+    return bounds.adjusted(-width, -width, width, width);
+}
+
+void Outlines::Gather(const Container& container, QWidget& widget) {
+    std::vector<Item> items;
+    for (const Control* child : container.Children()) {
+        if (child->Kind() != ControlKind::Shape && child->Kind() != ControlKind::Line) continue;
+        const auto known = std::find_if(items_.begin(), items_.end(),
+                                        [child](const Item& item) { return item.control == child; });
+        items.push_back({child, known == items_.end() ? Look{} : known->look});
+    }
+    const bool same =
+        std::equal(items.begin(), items.end(), items_.begin(), items_.end(),
+                   [](const Item& a, const Item& b) { return a.control == b.control; });
+    if (!same) widget.update();
+    items_ = std::move(items);
+}
+
+void Outlines::Mirror(QWidget& widget) {
+    for (Item& item : items_) {
+        const Look look = LookOf(*item.control);
+        if (look == item.look) continue;
+        if (item.look.visible) widget.update(item.look.Bounds());
+        if (look.visible) widget.update(look.Bounds());
+        item.look = look;
+    }
+}
+
+Outlines::Look Outlines::LookOf(const Control& control) {
+    const double unit = control.Parent().ChildUnitsPerPixel();
+    Look look;
+    look.visible = control.Visible;
+    if (control.Kind() == ControlKind::Line) {
+        const auto& line = static_cast<const LineShape&>(control);
+        look.figure = Figure::Line;
+        look.x1 = RoundHalfEven(line.X1 / unit);
+        look.y1 = RoundHalfEven(line.Y1 / unit);
+        look.x2 = RoundHalfEven(line.X2 / unit);
+        look.y2 = RoundHalfEven(line.Y2 / unit);
+        look.width = std::max(1, line.BorderWidth);
+        look.border = line.BorderColor;
+        return look;
+    }
+    const auto& shape = static_cast<const Shape&>(control);
+    int width = control.PixelWidth();
+    int height = control.PixelHeight();
+    look.x1 = RoundHalfEven(shape.Left() / unit);
+    look.y1 = RoundHalfEven(shape.Top() / unit);
+    if (shape.Form == ShapeForm::Circle) {
+        // The largest circle about the middle of the box.
+        const int side = std::min(width, height);
+        look.x1 += (width - side) / 2;
+        look.y1 += (height - side) / 2;
+        width = height = side;
+    }
+    look.visible = look.visible && width > 0 && height > 0;
+    look.figure = shape.Form == ShapeForm::Rectangle ? Figure::Rectangle : Figure::Ellipse;
+    look.x2 = look.x1 + width - 1;
+    look.y2 = look.y1 + height - 1;
+    look.width = std::max(1, shape.BorderWidth);
+    look.dotted = shape.BorderDotted;
+    look.filled = shape.Filled;
+    look.border = shape.BorderColor;
+    look.fill = shape.FillColor;
+    return look;
+}
+
+void Outlines::Paint(QPainter& painter) const {
+    painter.save();
+    for (const auto& [control, look] : items_) {
+        if (!look.visible) continue;
+        QPen pen(ToQColor(look.border), look.width);
+        pen.setJoinStyle(Qt::MiterJoin);
+        if (look.dotted) pen.setDashPattern({3, 3});
+        painter.setPen(pen);
+        painter.setBrush(look.filled ? QBrush(ToQColor(look.fill)) : QBrush(Qt::NoBrush));
+        const QRect corners(look.x1, look.y1, look.x2 - look.x1, look.y2 - look.y1);
+        switch (look.figure) {
+            case Figure::Rectangle:
+                painter.drawRect(corners);
+                break;
+            case Figure::Ellipse:
+                painter.drawEllipse(corners);
+                break;
+            case Figure::Line:
+                painter.drawLine(look.x1, look.y1, look.x2, look.y2);
+                break;
+        }
+    }
+    painter.restore();
+}
+
+}  // namespace coinlet

@@ -1,0 +1,84 @@
+#include "controls/picture_box.h"
+
+#include "shell/control_view.h"
+#include "shell/frame_pace.h"
+#include "shell/look.h"
+#include "shell/outlines.h"
+#include "shell/painted_widget.h"
+#include "shell/qt_image.h"
+#include "shell/views.h"
+
+#include <QRegion>
+
+#include <cstdint>
+
+namespace coinlet {
+
+namespace {
+
+class PictureBoxView : public ViewOf<PictureBox>, public SurfaceScreen {
+public:
+    PictureBoxView(PictureBox& box, PaintedWidget& widget, EventGate& gate) : ViewOf(box, widget, gate) {
+        // Every pixel is painted here, so nothing needs to be painted behind.
+        widget.setAttribute(Qt::WA_OpaquePaintEvent);
+        widget.Paint = [this](QPainter& painter, const QRect& dirty) { Paint(painter, dirty); };
+        box.surface.SetScreen(this);
+    }
+
+    void GatherOutlines() override { outlines_.Gather(model(), Widget()); }
+    void Detach() override {
+        model().surface.SetScreen(nullptr);
+        outlines_.Clear();
+        ViewOf::Detach();
+    }
+
+    void SurfaceRefreshed(const Surface&) override {
+        if (!Shown() || !pace_.Due()) return;
+        const QRect changed = TakeChanges();
+        if (!changed.isEmpty()) Widget().repaint(changed);
+    }
+
+protected:
+    void MirrorContent() override {
+        const QRect changed = TakeChanges();
+        if (!changed.isEmpty()) Widget().update(changed);
+        outlines_.Mirror(Widget());
+    }
+
+private:
+    /// The part of the widget that no longer shows the pixels as they are.
+    QRect TakeChanges() {
+        const Surface& surface = model().surface;
+        if (!Differs(revision_, surface.Revision())) return {};
+        const PixelRect changed = surface.Changed();
+        surface.ForgetChanges();
+        const QSize size(surface.PixelWidth(), surface.PixelHeight());
+        if (Differs(size_, size)) return Widget().rect();
+        return {changed.left, changed.top, changed.Width(), changed.Height()};
+    }
+
+    void Paint(QPainter& painter, const QRect& dirty) const {
+        if (!Shown()) return;
+        const Surface& surface = model().surface;
+        const QImage pixels = ViewPixels(surface.Pixels());
+        const QRect covered = dirty & pixels.rect();
+        if (!covered.isEmpty()) painter.drawImage(covered, pixels, covered);
+        for (const QRect& rest : QRegion(dirty) - pixels.rect()) {
+            painter.fillRect(rest, ToQColor(surface.BackColor()));
+        }
+        outlines_.Paint(painter);
+    }
+
+    std::uint64_t revision_ = ~std::uint64_t{0};
+    QSize size_;
+    FramePace pace_;
+    Outlines outlines_;
+};
+
+}  // namespace
+
+ControlView* MakePictureBoxView(Control& control, QWidget& parent, EventGate& gate) {
+    return new PictureBoxView(static_cast<PictureBox&>(control), *new PaintedWidget(&parent), gate);
+}
+
+}  // namespace coinlet

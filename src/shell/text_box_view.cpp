@@ -1,0 +1,112 @@
+#include "controls/text_box.h"
+
+#include "controls/form.h"
+#include "shell/control_view.h"
+#include "shell/event_gate.h"
+#include "shell/look.h"
+#include "shell/qt_text.h"
+#include "shell/views.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTextCursor>
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+/// What boxes of one line and of several have in common. The widget edits the text and reports what it
+/// became.
+class TextBoxView : public ViewOf<TextBox> {
+public:
+    TextBoxView(TextBox& box, QWidget& widget, EventGate& gate)
+        : ViewOf(box, widget, gate, Handling::WidgetToo, Handling::WidgetToo) {}
+
+protected:
+    virtual void ShowText(const QString& text) = 0;
+    virtual void ShowLocked(bool locked) = 0;
+
+    void MirrorContent() override {
+        const TextBox& box = model();
+        if (Differs<FontProperties, FontProperties>(font_, box)) Widget().setFont(ToQFont(font_));
+        const bool foreChanged = Differs(fore_, box.ForeColor);
+        const bool backChanged = Differs(back_, box.BackColor);
+        if (foreChanged || backChanged) Widget().setPalette(FieldPalette(fore_, back_));
+        if (Differs(locked_, box.Locked)) ShowLocked(locked_);
+        if (!Differs(text_, box.Text())) return;
+        const QSignalBlocker silent(Widget());
+        ShowText(ToQString(text_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    }
+
+    void Edited(const QString& text) {
+        if (!Shown()) return;
+        std::string edited = ToUtf8(QString(text).replace(QLatin1Char('\n'), QLatin1String("\r\n")));
+        if (edited == text_) return;
+        text_ = edited;
+        Gate().Enter([&] { model().UserEdits(edited); });
+    }
+
+private:
+    std::string text_;
+    FontProperties font_{.FontName = {}};
+    Colour fore_ = -2, back_ = -2;
+    bool locked_ = false;
+};
+
+class LineView : public TextBoxView {
+public:
+    LineView(TextBox& box, QLineEdit& widget, EventGate& gate) : TextBoxView(box, widget, gate), line_(widget) {
+        connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
+    }
+
+protected:
+    void ShowText(const QString& text) override {
+        const int cursor = line_.cursorPosition();
+        line_.setText(text);
+        line_.setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
+    }
+    void ShowLocked(bool locked) override { line_.setReadOnly(locked); }
+
+private:
+    QLineEdit& line_;
+};
+
+class LinesView : public TextBoxView {
+public:
+    LinesView(TextBox& box, QPlainTextEdit& widget, EventGate& gate)
+        : TextBoxView(box, widget, gate), lines_(widget) {
+        widget.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        widget.setVerticalScrollBarPolicy(box.VerticalScroll ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+        widget.setFrameShape(QFrame::Box);
+        widget.setFrameShadow(QFrame::Plain);
+        Watch(*widget.viewport());
+        connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Edited(lines_.toPlainText()); });
+    }
+
+protected:
+    void ShowText(const QString& text) override {
+        const int cursor = lines_.textCursor().position();
+        lines_.setPlainText(text);
+        QTextCursor place = lines_.textCursor();
+        place.setPosition(std::min(cursor, static_cast<int>(lines_.toPlainText().size())));
+        lines_.setTextCursor(place);
+    }
+    void ShowLocked(bool locked) override { lines_.setReadOnly(locked); }
+
+private:
+    QPlainTextEdit& lines_;
+};
+
+}  // namespace
+
+ControlView* MakeTextBoxView(Control& control, QWidget& parent, EventGate& gate) {
+    auto& box = static_cast<TextBox&>(control);
+    if (box.MultiLine) return new LinesView(box, *new QPlainTextEdit(&parent), gate);
+    return new LineView(box, *new QLineEdit(&parent), gate);
+}
+
+}  // namespace coinlet
