@@ -2,6 +2,7 @@
 #include "core/stock_pictures.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
@@ -17,9 +18,10 @@ enum Frame : std::uint8_t { normal, disabled, pressed };
 /// The pixels of one frame, row by row.
 std::vector<Colour> FrameOf(const Image& strip, Frame frame) {
     std::vector<Colour> pixels;
-    for (int y = 0; y < side; ++y)
+    for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x)
             pixels.push_back(strip.At(frame * side + x, y));
+    }
     return pixels;
 }
 
@@ -81,10 +83,10 @@ TEST(ToolIconStrip, IsMaskedInTheCornersOfRoundDrawings) {
     constexpr int holes = 14, about = 15;
     for (const int tool : {holes, about}) {
         const Image strip = ToolIconStrip(tool);
-        for (int left = 0; left < strip.Width(); left += side)
-            for (const int x : {left, left + side - 1})
-                for (const int y : {0, side - 1})
-                    EXPECT_EQ(strip.At(x, y), mask) << tool << ": " << x << ", " << y;
+        for (const int x : {0, 13, 14, 27, 28, 41}) {
+            for (const int y : {0, 13})
+                EXPECT_EQ(strip.At(x, y), mask) << tool << ": " << x << ", " << y;
+        }
     }
 }
 
@@ -105,9 +107,10 @@ TEST(StartPicture, IsADrawingOnWhite) {
     const Image picture = StartPicture();
     ASSERT_EQ(picture.Width(), 175);
     ASSERT_EQ(picture.Height(), 175);
-    for (const int x : {0, 174})
+    for (const int x : {0, 174}) {
         for (const int y : {0, 174})
             EXPECT_EQ(picture.At(x, y), white);
+    }
     // The sun, about the middle, has the default fill colour or nearly so.
     constexpr Colour accent = RGB(255, 252, 13);
     const auto isNear = [](int a, int b) { return std::abs(a - b) <= 10; };
