@@ -19,6 +19,7 @@ namespace coinlet::player {
 
 namespace {
 
+constexpr int noButton = 0;
 constexpr int leftButton = 1;
 constexpr int noShift = 0;
 
@@ -40,6 +41,11 @@ void Click(ScriptRun& run, const Arguments& arguments) {
     }
     Control& control = ReachControl(life, address);
     life.platform.pointer.PutInMiddleOf(control);
+    // A button looks different under the pointer, and goes on watching it.
+    if (control.Kind() == ControlKind::Button) {
+        control.PointerMoved(noButton, noShift, static_cast<float>(life.platform.pointer.PixelX()),
+                             static_cast<float>(life.platform.pointer.PixelY()));
+    }
     control.PointerClicked();
 }
 
