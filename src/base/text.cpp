@@ -148,10 +148,11 @@ std::string LowerCase(std::string_view utf8) {
     lower.reserve(utf8.size());
     ForEachCharacter(utf8, [&](std::optional<char32_t> codePoint, std::string_view bytes) {
         const char32_t small = codePoint ? LowerCodePoint(*codePoint) : 0;
-        if (codePoint && small != *codePoint)
+        if (codePoint && small != *codePoint) {
             lower += Utf8(small);
-        else
+        } else {
             lower += bytes;
+        }
     });
     return lower;
 }

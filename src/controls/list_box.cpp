@@ -15,8 +15,10 @@ const std::string& RowList::Row(int index) const {
 int RowList::Add(const std::string& row) {
     const auto place =
         sorted_ ? std::upper_bound(rows_.begin(), rows_.end(), row, LessIgnoringCase) : rows_.end();
+    const auto index = place - rows_.begin();
+    rows_.insert(place, row);
     ++revision_;
-    return static_cast<int>(rows_.insert(place, row) - rows_.begin());
+    return static_cast<int>(index);
 }
 
 bool RowList::Replace(int index, const std::string& row) {

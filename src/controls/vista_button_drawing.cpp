@@ -232,10 +232,10 @@ void DrawBody(Surface& face, std::size_t state) {
 
 void DrawPressMarks(Surface& face) {
     const int W = face.PixelWidth(), H = face.PixelHeight();
-    for (const auto& mark : upperPressMarks) {
+    for (const auto& mark : upperPressMarks)
         face.Line(mark.first, mark.row, mark.last, mark.row, mark.colour, Box::Outline);
+    for (const auto& mark : upperPressMarks)
         face.Line(W - 1 - mark.first, mark.row, W - 1 - mark.last, mark.row, mark.colour, Box::Outline);
-    }
     for (const auto& mark : lowerPressMarks)
         face.Line(mark.first, H - 1 - mark.row, mark.last, H - 1 - mark.row, mark.colour, Box::Outline);
     face.PSet(2, 3, pressDots);
@@ -257,12 +257,16 @@ void DrawFrame(Surface& face, std::size_t state) {
     face.Line(0, 0, W - 1, H - 1, frameColours[outline][state], Box::Outline);
     face.Line(3, 1, W - 4, 1, frameColours[topLine][state], Box::Outline);
     face.Line(3, H - 2, W - 4, H - 2, frameColours[bottomLine][state], Box::Outline);
-    std::size_t colour = topLine;
-    for (const auto& pixel : cornerPixels) {
-        ++colour;
-        const int y = pixel.atBottom ? H - 1 - pixel.row : pixel.row;
-        face.PSet(pixel.x, y, frameColours[colour][state]);
-        face.PSet(W - 1 - pixel.x, y, frameColours[colour][state]);
+    // One corner after the other: on buttons so small that corners overlap, the later one shows.
+    for (const bool atBottom : {false, true}) {
+        for (const bool atRight : {false, true}) {
+            for (std::size_t i = 0; i < cornerPixels.size(); ++i) {
+                const CornerPixel& pixel = cornerPixels[i];
+                if (pixel.atBottom != atBottom) continue;
+                face.PSet(atRight ? W - 1 - pixel.x : pixel.x, atBottom ? H - 1 - pixel.row : pixel.row,
+                          frameColours[topLine + 1 + i][state]);
+            }
+        }
     }
 }
 

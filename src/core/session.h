@@ -1,26 +1,48 @@
 #pragma once
 
 #include "controls/property.h"
-#include "surface/colour.h"
+#include "core/materials.h"
 
 #include <cstdint>
 #include <string>
 
 namespace coinlet {
 
-/// The values of `ToolCode` that are no button of the tool strip.
-constexpr std::int16_t noToolArmed = 999;
+/// The value of `ToolCode` with which nothing is armed and a release doesn't mark the design as changed.
+constexpr std::int16_t nothingArmed = 999;
 
-/// What all forms share beside the canvas: the tool in use, the gesture, the design and its metal.
+/// What all forms share beside the canvas: the tool in use and its measures, the gesture, the colour of the
+/// present pick, the design and its metal. Forms read and write it directly.
 struct Session {
-    std::int16_t ToolCode = noToolArmed;
+    std::int16_t ToolCode = nothingArmed;
     /// The design has changes that were not saved.
     bool DesignChanged = false;
     /// Where the present gesture started; while drawing free hand, the last point.
     float StartX = 0, StartY = 0;
-    /// The previous pointer position of a gesture.
+    /// The previous pointer position of a gesture, to wipe its inverted preview.
     float LastX = 0, LastY = 0;
-    std::uint8_t LineWidth = 2;  ///< Pixels.
+    std::uint8_t EraserSize = 20;  ///< Pixels.
+    std::uint8_t LineWidth = 2;    ///< Pixels.
+    std::int32_t CornerSize = 30;  ///< Pixels.
+    std::int16_t RasterStep = 10;  ///< Pixels.
+    /// A text hangs on the pointer: from "Draw Text" to the next release on the canvas.
+    bool TextPlacing = false;
+    /// Name of the design in the store; empty for a new one.
+    std::string DesignName;
+    /// The path that the last save, export or opening worked on.
+    std::string DesignFile;
+    /// The folder that the image browser lists.
+    std::string ImageFolder;
+    std::string LanguageName = "Nederlands";
+    std::string MaterialName = std::string(materials[0].name);
+    std::int16_t MaterialRed = 0, MaterialGreen = 0, MaterialBlue = 0;
+    /// The fill colour of the present pick. Red and green keep the text they came from, a number's decimal
+    /// form or a field of the colour table, since the table is searched by that text.
+    std::string PmsRed = "255", PmsGreen = "252";
+    std::int16_t PmsBlue = 13;
+    std::string BackName;
+    /// "BMP" for saving a design, "JPG" for its export.
+    std::string SaveMode;
 
     void VisitProperties(PropertyVisitor& visitor);
 };

@@ -95,6 +95,8 @@ int SetDIBits(DeviceContext hDC, int start, int lines, std::span<const std::uint
 /// A rectangle as text is laid out in; right and bottom lie outside it.
 struct RECT {
     int left = 0, top = 0, right = 0, bottom = 0;
+
+    friend bool operator==(const RECT&, const RECT&) = default;
 };
 constexpr unsigned DT_CENTER = 1;
 constexpr unsigned DT_WORDBREAK = 16;
@@ -103,9 +105,8 @@ constexpr unsigned DT_CALCRECT = 1024;
 /// Draws a text in `ForeColor` and the selected font (else the surface's own) with crisp edges, clipped to
 /// the rectangle, always level. CR LF breaks a line, and with DT_WORDBREAK so do the last blanks before the
 /// right edge, which are dropped; a word wider than the rectangle stands in a line of its own, unbroken.
-/// DT_CENTER centres each line. With
-/// DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges move to where the text ends. Returns
-/// its height.
+/// DT_CENTER centres each line. With DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges
+/// move to where the text ends. Returns the height of all lines; an empty text is one line.
 int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigned flags);
 
 /// Sets the colour of device text, which is the surface's `ForeColor`. Returns the former one.

@@ -83,21 +83,19 @@ void ForRows(const Bitmap& bitmap, const RoundedBox& outside, int penWidth, cons
     }
 }
 
-/// A circle of one pixel's width that lies in the bitmap as a whole; the common case, and worth its own way:
-/// one octant is walked in whole numbers and mirrored. A pixel (x, y) belongs to the disc of radius r + 1/2
-/// if x^2 + y^2 <= r^2 + r, and the outline has for each y of the octant the last such x.
-template <class Paint>
-void DrawCircleInside(Bitmap& bitmap, int centreX, int centreY, int radius, const Paint& paint) {
-    const std::ptrdiff_t stride = bitmap.Width();
-    Pixel* const centre = bitmap.Row(centreY) + centreX;
-    const auto fourAround = [&](std::ptrdiff_t x, std::ptrdiff_t y) {
-        paint(centre[x + y * stride]);
-        paint(centre[-y + x * stride]);
-        paint(centre[-x - y * stride]);
-        paint(centre[y - x * stride]);
+/// Calls `plot(x, y)` for each pixel of the outline of a circle about (0, 0), one pixel wide. One octant is
+/// walked in whole numbers and mirrored: a pixel belongs to the disc of radius r + 1/2 if x^2 + y^2 <= r^2 +
+/// r, and the outline has for each y of the octant the last such x.
+template <class Plot>
+void WalkCircle(int radius, const Plot& plot) {
+    const auto fourAround = [&](int x, int y) {
+        plot(x, y);
+        plot(-y, x);
+        plot(-x, -y);
+        plot(y, -x);
     };
     if (radius == 0) {
-        paint(*centre);
+        plot(0, 0);
         return;
     }
     fourAround(radius, 0);
@@ -127,11 +125,27 @@ bool IsInside(const Bitmap& bitmap, const PixelRect& area) {
 }
 
 template <class Paint>
+void DrawThinCircle(Bitmap& bitmap, const PixelRect& edges, const Paint& paint) {
+    const int radius = edges.Width() / 2, centreX = edges.left + radius, centreY = edges.top + radius;
+    if (IsInside(bitmap, edges)) {
+        Pixel* const centre = bitmap.Row(centreY) + centreX;
+        const std::ptrdiff_t stride = bitmap.Width();
+        WalkCircle(radius, [&](int x, int y) { paint(centre[x + y * stride]); });
+    } else {
+        WalkCircle(radius, [&](int x, int y) {
+            if (bitmap.Contains(centreX + x, centreY + y)) paint(bitmap.Row(centreY + y)[centreX + x]);
+        });
+    }
+}
+
+template <class Paint>
 void DrawOutline(Bitmap& bitmap, const RoundedBox& outside, int penWidth, const Paint& paint) {
+    // Thin circles are what is drawn most. Those too large for the bitmap would be walked for pixels that
+    // nobody sees.
     const PixelRect& edges = outside.edges;
-    if (penWidth == 1 && edges.Width() % 2 == 1 && IsCircle(outside) && IsInside(bitmap, edges)) {
-        const int radius = edges.Width() / 2;
-        DrawCircleInside(bitmap, edges.left + radius, edges.top + radius, radius, paint);
+    if (penWidth == 1 && edges.Width() % 2 == 1 && IsCircle(outside) &&
+        edges.Width() <= 2 * (bitmap.Width() + bitmap.Height())) {
+        DrawThinCircle(bitmap, edges, paint);
         return;
     }
     ForRows(bitmap, outside, penWidth, [&](int y, const RingRow& row) {

@@ -31,7 +31,7 @@ struct PixelLine {
 std::optional<PixelLine> WithinReach(const PlaneLine& line);
 
 /// Dots are drawn 3 on, 3 off.
-constexpr int dotLength = 3;
+constexpr std::int64_t dotLength = 3;
 
 /// A line of one pixel's width, without its last point; two equal points leave nothing. It is the line of
 /// pixels nearest to the ideal one, and the same from whichever end it is drawn: where two pixels are equally

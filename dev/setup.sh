@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Installs what is missing for building and running the program ("run"), or also for its tests ("test").
+# Changes nothing when all is there.
+set -euo pipefail
+
+run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
+test_packages=(libgtest-dev libbenchmark-dev xvfb xauth xdotool clang-format clang-tidy)
+
+packages=("${run_packages[@]}")
+if [ "${1:-run}" = test ]; then packages+=("${test_packages[@]}"); fi
+
+missing=()
+for package in "${packages[@]}"; do
+    if ! dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed; then
+        missing+=("$package")
+    fi
+done
+if [ ${#missing[@]} -eq 0 ]; then exit 0; fi
+
+install=(apt-get install -y --no-install-recommends "${missing[@]}")
+if [ "$(id -u)" -eq 0 ]; then
+    become=()
+elif command -v sudo >/dev/null && { sudo -n true 2>/dev/null || [ -t 0 ]; }; then
+    become=(sudo)
+else
+    echo "Some packages are missing. Please have them installed, then start again:" >&2
+    echo "  apt-get update && ${install[*]}" >&2
+    exit 1
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${become[@]}" apt-get update -q
+"${become[@]}" "${install[@]}"

@@ -1,0 +1,48 @@
+#include "app/application.h"
+
+#include "app/start_up.h"
+#include "core/help_menu.h"
+#include "core/main_form.h"
+#include "core/main_life.h"
+#include "core/plaatjes.h"
+#include "tools/gesture_engine.h"
+#include "tools/line_tools.h"
+#include "tools/tool_strip.h"
+
+namespace coinlet {
+
+struct Application::House {
+    explicit House(const Services& told)
+        : services(told),
+          main(told.ForForms()),
+          plaatjes(told.ForForms()),
+          context{services, session, main, plaatjes} {
+        gestures.Add(FreeHandTool(context));
+        gestures.Add(LineTool(context));
+        main.Load = [this] { StartUp(context); };
+    }
+
+    Services services;
+    Session session;
+    MainForm main;
+    PlaatjesForm plaatjes;
+    Context context;
+    // Each binds itself to the controls that it serves.
+    MainLife life{context};
+    HelpMenu help{context};
+    ToolStrip strip{context};
+    GestureEngine gestures{context};
+};
+
+Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}
+Application::~Application() = default;
+
+void Application::Start() {
+    house_->services.platform.ShowMain(house_->main);
+}
+
+Context& Application::GetContext() {
+    return house_->context;
+}
+
+}  // namespace coinlet

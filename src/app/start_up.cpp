@@ -1,0 +1,99 @@
+#include "app/start_up.h"
+
+#include "base/files.h"
+#include "core/about.h"
+#include "core/context.h"
+#include "core/info_panel.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "core/main_life.h"
+#include "core/plaatjes.h"
+#include "core/rulers.h"
+#include "core/settings.h"
+#include "core/unfinished.h"
+#include "tools/image_browser.h"
+
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int smallestLetter = 8, largestLetter = 150, letterStep = 2, standardLetter = 6;
+constexpr double holeMarkerSide = 89;  // pixels
+
+void ListStockImages(Context& context) {
+    context.main.Label2.Caption = fileNameCaption;
+    context.session.ImageFolder = Beneath(context.services.applicationFolder, "\\Images").string();
+    context.main.Pic2.surface.SetPicture({});
+    ListImages(context, "*.bmp;*.jpg;*.gif");
+    ShowImageCount(context);
+}
+
+void PrepareCanvas(Context& context) {
+    DrawRulers(context.main);
+    context.main.Label19.Caption = " information available! ";
+}
+
+void PreparePanel(Context& context) {
+    PrintInfoHeader(context.main);
+    DrawInfoRows(context.main, infoTextAtStart);
+}
+
+void ShowStartPicture(Context& context) {
+    MainForm& main = context.main;
+    main.Pic2.surface.SetPicture(context.plaatjes.Img[0].Picture);
+    main.IconPic.surface.SetPicture(main.Pic2.surface.Image());
+}
+
+void FillTextPanel(Context& context) {
+    MainForm& main = context.main;
+    for (const std::string& family : context.services.fonts.Families())
+        main.Combo2.AddItem(family);
+    main.Combo2.SetText("Arial");
+    for (int size = smallestLetter; size <= largestLetter; size += letterStep)
+        main.Combo3.AddItem(std::to_string(size));
+    main.Combo3.SetListIndex(standardLetter);
+    main.Text1.SetText("Coinlet Designer");
+    main.Label17.Caption = "Draw Text";
+    main.InfoLabel.Caption = "Maak uw keuze...";
+}
+
+void SizeHoleMarker(Context& context) {
+    context.main.HoleShape.SetWidth(holeMarkerSide);
+    context.main.HoleShape.SetHeight(holeMarkerSide);
+}
+
+void ReadSettings(Context& context) {
+    const auto& folder = context.services.applicationFolder;
+    if (const auto language = ReadLanguageSetting(folder)) {
+        context.session.LanguageName = *language;
+    } else {
+        // A folder that can't be written is no reason not to start.
+        static_cast<void>(WriteLanguageSetting(folder, context.session.LanguageName));
+    }
+}
+
+void StartLanguage(Context& context) {
+    LoadLanguage(context, context.session.LanguageName);
+    ShowLanguageInTitle(context);
+}
+
+void HideUnfinished(Context& context) {
+    DisableUnfinished(context.main);
+}
+
+// The form is laid out when it is made, and the session has its defaults; these steps do the rest.
+constexpr void (*steps[])(Context&) = {
+    ListStockImages, PrepareCanvas,  PreparePanel, ShowStartPicture, FillTextPanel,
+    SizeHoleMarker,  PrintAboutText, ReadSettings, StartLanguage,    HideUnfinished,
+};
+
+}  // namespace
+
+void StartUp(Context& context) {
+    for (const auto step : steps)
+        step(context);
+}
+
+}  // namespace coinlet

@@ -1,0 +1,63 @@
+#include "core/language.h"
+
+#include "base/files.h"
+#include "base/text.h"
+#include "core/context.h"
+#include "core/main_form.h"
+
+namespace coinlet {
+
+namespace {
+
+constexpr std::size_t keyLength = 3;
+constexpr std::size_t largestTable = std::size_t{16} << 20;
+
+/// What follows the key and the one character that parts it from the text.
+std::string TextOfLine(const std::string& line) {
+    const std::vector<std::string> separator = Characters(std::string_view(line).substr(keyLength));
+    return separator.empty() ? std::string() : line.substr(keyLength + separator.front().size());
+}
+
+}  // namespace
+
+void LoadLanguage(Context& context, const std::string& languageName) {
+    MainForm& main = context.main;
+    main.HelpTaal[1].Checked = false;
+    main.HelpTaal[2].Checked = false;
+    main.InfoList.Clear();
+
+    const std::string fileName = languageName + ".txt";
+    if (IsFileName(fileName)) {
+        const fs::path path = Beneath(context.services.applicationFolder, "\\Data") / fileName;
+        if (const auto bytes = ReadFile(path, largestTable)) {
+            const std::string_view content(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+            for (const std::string& line : Lines(FromCodePage(content)))
+                if (!TrimBlanks(line).empty()) main.InfoList.AddItem(line);
+        }
+    }
+
+    const bool dutch = languageName == "Nederlands";
+    main.HelpTaal[dutch ? 1 : 2].Checked = true;
+    main.InfoLabel.Caption = dutch ? "Maak uw keuze..." : "Make your choice...";
+}
+
+std::string LookupInfoText(Context& context, std::string_view key) {
+    const ListBox& table = context.main.InfoList;
+    for (int i = 0; i < table.ListCount(); ++i) {
+        const std::string& line = table.List(i);
+        if (line.compare(0, keyLength, key) != 0) continue;
+        context.main.NummerLabel.Caption = key;
+        return TextOfLine(line);
+    }
+    return {};
+}
+
+void ShowHint(Context& context, std::string_view key) {
+    context.main.InfoLabel.Caption = LookupInfoText(context, key);
+}
+
+void ShowLanguageInTitle(Context& context) {
+    context.main.Caption = "Coinlet Designer (" + context.session.LanguageName + ")";
+}
+
+}  // namespace coinlet

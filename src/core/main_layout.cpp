@@ -1,0 +1,295 @@
+#include "core/main_layout.h"
+
+#include "core/main_form.h"
+#include "core/stock_pictures.h"
+
+#include <array>
+#include <string_view>
+
+namespace coinlet {
+
+namespace {
+
+constexpr Colour panelColour = RGB(220, 220, 190);
+constexpr Colour fieldColour = RGB(0, 0, 50);
+constexpr Colour fieldText = RGB(220, 220, 250);
+constexpr Colour boardColour = RGB(60, 64, 72);
+constexpr Colour sliderPanelColour = RGB(206, 206, 174);
+
+constexpr double Twips(int pixels) {
+    return pixels * twipsPerPixel;
+}
+
+/// Places a control by pixels on its frame.
+void Place(Control& control, int left, int top, int width, int height) {
+    control.Move(Twips(left), Twips(top), Twips(width), Twips(height));
+}
+
+void LayOutStrip(MainForm& main) {
+    Place(main.MenuPic, 0, 0, 1098, 28);
+    main.MenuPic.Border = false;
+    main.MenuPic.BackColor = fieldColour;
+    for (Label* label : {&main.Label2, &main.Label19, &main.KlokLabel}) {
+        label->ForeColor = fieldText;
+        label->FontSize = 9;
+    }
+    Place(main.Label2, 12, 6, 560, 16);
+    Place(main.Label19, 584, 6, 200, 16);
+    main.Label19.ForeColor = RGB(255, 252, 13);
+    main.Label19.Alignment = Alignment::Center;
+    main.Label19.Visible = false;
+    Place(main.KlokLabel, 906, 6, 180, 16);
+    main.KlokLabel.Alignment = Alignment::Right;
+}
+
+void LayOutBrowser(MainForm& main) {
+    Place(main.Frame1, 4, 32, 196, 548);
+    Place(main.ImgKnop, 9, 12, 115, 24);
+    Place(main.Bar, 9, 16, 115, 15);
+    main.Bar.Visible = false;
+    Place(main.MapKnop, 128, 12, 59, 24);
+    Place(main.List1, 9, 44, 178, 280);
+    main.List1.ForeColor = RGB(60, 60, 60);
+    main.List1.BackColor = RGB(200, 220, 220);
+    main.File1.Visible = false;
+    Place(main.Label8, 9, 332, 178, 16);
+    main.Pic2.Move(135, 5355, 2625, 2625);
+
+    Place(main.Frame3, 4, 584, 196, 80);
+    Place(main.HorKnop, 9, 10, 58, 28);
+    Place(main.VerKnop, 69, 10, 58, 28);
+    Place(main.RotatieKnop, 129, 10, 58, 28);
+    Place(main.OkKnop, 9, 44, 178, 28);
+
+    main.ImgKnop.SetCaption("Images");
+    main.MapKnop.SetCaption("Folder");
+    main.MapKnop.ToolTipText = " Select Folder ";
+    main.HorKnop.SetCaption("Hor.");
+    main.HorKnop.ToolTipText = " Flip Horizontal ";
+    main.VerKnop.SetCaption("Vert.");
+    main.VerKnop.ToolTipText = " Flip Vertical ";
+    main.RotatieKnop.SetCaption("Rot.");
+    main.RotatieKnop.ToolTipText = " Rotate Left ";
+    main.OkKnop.SetCaption("Paste");
+    main.OkKnop.ToolTipText = " Paste Image on Coinlet ";
+}
+
+void LayOutCanvas(MainForm& main) {
+    Place(main.Frame2, 204, 32, 720, 548);
+    main.LabelPic.surface.SetScaleMode(twipScale);
+    main.LabelPic.Move(75, 180, 10650, 7935);
+    main.LabelPic.surface.SetBackColor(boardColour);
+
+    main.HoekPic.Move(180, 270, Twips(21), Twips(20));
+    main.TopPic.Move(495, 270, Twips(canvasSide), Twips(20));
+    main.LeftPic.Move(180, 570, Twips(21), Twips(canvasSide));
+    main.HoekKnop.Move(0, 0, 21, 20);
+    main.HoekKnop.SetCaption(" Paste ");
+    main.HoekKnop.ToolTipText = " Paste Image on Coinlet ";
+    main.HoekKnop.Visible = false;
+
+    main.Pic.Move(495, 570, 7500, 7500);
+    main.Pic.FixedBitmap = true;
+    main.Pic.MousePointer = toolPointer;
+    main.UndoPic.Move(495, 570, 7500, 7500);
+
+    main.Line1.X2 = 21;
+    main.Line2.Y2 = 20;
+    for (LineShape* mark : {&main.Line1, &main.Line2})
+        mark->BorderColor = RGB(0, 0, 160);
+    main.Line3.X2 = canvasSide;
+    main.Line4.Y2 = canvasSide;
+    for (LineShape* cross : {&main.Line3, &main.Line4}) {
+        cross->BorderColor = RGB(200, 200, 200);
+        cross->Visible = false;
+    }
+    main.Gom.Form = ShapeForm::Circle;
+    main.HoleShape.Form = ShapeForm::Circle;
+    main.Layer.BorderDotted = true;
+    for (Shape* marker : {&main.Gom, &main.Layer, &main.HoleShape})
+        marker->Visible = false;
+    for (PictureBox* picture : {&main.ClipPic, &main.IconPic, &main.Pic2, &main.BorderPic})
+        picture->surface.AutoSize = true;
+    for (PictureBox* hidden :
+         {&main.UndoPic, &main.IconPic, &main.VertPic, &main.BackPic, &main.BorderPic, &main.ClipPic})
+        hidden->Visible = false;
+    for (ListBox* hidden : {&main.InfoList, &main.PMSlist, &main.List2})
+        hidden->Visible = false;
+
+    main.XYcor.AutoSize = true;
+    main.XYcor.Transparent = false;
+    main.XYcor.BackColor = RGB(255, 255, 225);
+    main.XYcor.Visible = false;
+    main.TextLabel.AutoSize = true;
+    main.TextLabel.Visible = false;
+
+    main.TopInfoPic.Move(8010, 270, 2670, 300);
+    main.TopInfoPic.surface.SetBackColor(panelColour);
+    main.InfoPic.Move(8010, 570, 2670, 7500);
+    main.Label16.Move(8010 + Twips(14), 570 + Twips(340), Twips(150), Twips(150));
+    main.Label16.Transparent = false;
+    main.Label16.BackColor = RGB(255, 255, 225);
+    main.Label16.Visible = false;
+}
+
+struct ToolButton {
+    std::string_view caption, toolTip;
+    float points = 7.5F;
+};
+constexpr std::array<ToolButton, 16> toolButtons{{
+    {"Draw", " Draw freehand "},
+    {"Line", " Draw lines "},
+    {"Shapes", " Draw rectangles, circles, triangles etc. "},
+    {"Polygon", " Draw polygon shapes "},
+    {"Arc / Pie", " Draw arc, pie, curved lines, etc. "},
+    {"Fill", " Fill areas "},
+    {"Erase", " Erase in back and fillcolor "},
+    // The longest caption: a button shows one line beside its icon, and at 7.5 points this one would wrap.
+    {"Curved Text", " Draw curves text ", 6.75F},
+    {"Text", " Draw hor. and vert. text "},
+    {"Get PMS", " Get Pms-color "},
+    {"Remove", " Remove colors "},
+    {"Replace", " Replace colors "},
+    {"Copy", " Copy areas "},
+    {"Flip Image", " Flip and rotate design "},
+    {"Holes", " Draw holes "},
+    {"About", " About Coinlet Design "},
+}};
+constexpr int buttonsInAColumn = 7;
+/// Twips. The right one has the long captions.
+constexpr std::array<double, 2> columnWidths{1050, 1170};
+constexpr int toolIconFrames = 3;
+
+struct Slider {
+    ScrollBar MainForm::*bar;
+    Label MainForm::*panel;  ///< What shows that the slider belongs to one tool; none for the pen's.
+    Label MainForm::*caption;
+    int minimum, maximum, value, largeChange;
+    int top;  ///< Of the caption, in pixels.
+    std::string_view text;
+};
+constexpr int toolSliderTop = 372, aboutSliderTop = 452;
+constexpr std::array<Slider, 5> sliders{{
+    {&MainForm::HScroll1, nullptr, &MainForm::Label7, 1, 9, 2, 1, 324, "Line Width (2)"},
+    {&MainForm::HScroll2, &MainForm::Label9, &MainForm::Label10, 10, 100, 30, 10, toolSliderTop,
+     "Corner (30)"},
+    {&MainForm::HScroll3, &MainForm::Label11, &MainForm::Label12, 10, 50, 20, 5, toolSliderTop,
+     "Size (20/50)"},
+    {&MainForm::HScroll4, &MainForm::Label20, &MainForm::Label21, 5, 100, 10, 10, toolSliderTop,
+     "Raster (10)"},
+    {&MainForm::HScroll5, &MainForm::Label5, &MainForm::Label22, 495, 7995, 495, 750, aboutSliderTop,
+     "Move Coinlet"},
+}};
+
+void LayOutTools(MainForm& main) {
+    Place(main.Frame5, 928, 32, 166, 36);
+    Place(main.CoorLabel, 10, 10, 146, 16);
+    main.CoorLabel.Alignment = Alignment::Center;
+
+    Place(main.Frame4, 928, 72, 166, 508);
+    for (int i = 0; i <= main.Knop.Last(); ++i) {
+        VistaButton& button = main.Knop[i];
+        const ToolButton& told = toolButtons[static_cast<std::size_t>(i)];
+        const bool apart = i >= 2 * buttonsInAColumn;
+        const int column = apart ? i - 2 * buttonsInAColumn : i / buttonsInAColumn;
+        const int row = i % buttonsInAColumn;
+        button.Move(150 + column * 1080, apart ? 3600 : 240 + row * 450,
+                    columnWidths[static_cast<std::size_t>(column)], 420);
+        button.SetCaption(std::string(told.caption));
+        button.ToolTipText = told.toolTip;
+        FontProperties font;
+        font.FontSize = told.points;
+        button.SetFont(font);
+        button.LoadPictures(toolIconFrames);
+        button.SetPicture(ToolIconStrip(i));
+    }
+
+    main.Label6.Caption = "Fillcolor";
+    Place(main.Label6, 10, 276, 150, 14);
+    main.ColorLabel.Transparent = false;
+    main.ColorLabel.Border = true;
+    main.ColorLabel.BackColor = RGB(255, 252, 13);
+    main.ColorLabel.ToolTipText = " Click to change Colors ";
+    Place(main.ColorLabel, 10, 292, 150, 24);
+
+    for (const Slider& slider : sliders) {
+        ScrollBar& bar = main.*slider.bar;
+        Label& caption = main.*slider.caption;
+        bar.SetRange(slider.minimum, slider.maximum);
+        bar.SetValue(slider.value);
+        bar.LargeChange = slider.largeChange;
+        caption.Caption = slider.text;
+        Place(caption, 14, slider.top, 138, 14);
+        Place(bar, 14, slider.top + 18, 138, 16);
+        if (slider.panel == nullptr) continue;
+        Label& panel = main.*slider.panel;
+        const bool eraser = slider.bar == &MainForm::HScroll3;
+        Place(panel, 6, slider.top - 6, 154, eraser ? 70 : 48);
+        panel.Transparent = false;
+        panel.BackColor = sliderPanelColour;
+        for (Control* part : std::initializer_list<Control*>{&panel, &caption, &bar})
+            part->Visible = false;
+    }
+    main.Check1.Caption = "Erase in Fillcolor";
+    main.Check1.BackColor = sliderPanelColour;
+    Place(main.Check1, 14, toolSliderTop + 40, 138, 18);
+    main.Check1.Visible = false;
+}
+
+void LayOutTextPanel(MainForm& main) {
+    Place(main.Frame6, 928, 72, 166, 508);
+    main.Frame6.Visible = false;
+    struct Row {
+        Control* control;
+        int top, height;
+    };
+    const std::array rows{
+        Row{&main.Label13, 12, 14},         Row{&main.Text1, 28, 22},      Row{&main.Label14, 60, 14},
+        Row{&main.Combo2, 76, 22},          Row{&main.FontLabel, 104, 28}, Row{&main.Label15, 140, 14},
+        Row{&main.Combo3, 156, 22},         Row{&main.BoldCheck, 192, 18}, Row{&main.ItalicCheck, 212, 18},
+        Row{&main.UnderlineCheck, 232, 18}, Row{&main.OpenCheck, 252, 18}, Row{&main.SchaduwCheck, 272, 18},
+        Row{&main.VertCheck, 292, 18},      Row{&main.Label17, 324, 14},   Row{&main.PlaatsKnop, 340, 30},
+        Row{&main.ExitKnop, 468, 28},
+    };
+    for (const Row& row : rows)
+        Place(*row.control, 10, row.top, 146, row.height);
+
+    main.Label13.Caption = "Text";
+    main.Label14.Caption = "Letterfont";
+    main.Label15.Caption = "Fontsize";
+    main.BoldCheck.Caption = "Bold";
+    main.ItalicCheck.Caption = "Italic";
+    main.UnderlineCheck.Caption = "Underline";
+    main.OpenCheck.Caption = "Open Text";
+    main.SchaduwCheck.Caption = "Shadow";
+    main.VertCheck.Caption = "Text Vertical";
+    main.PlaatsKnop.SetCaption("Draw Text");
+    main.ExitKnop.SetCaption("Exit");
+}
+
+void LayOutFoot(MainForm& main) {
+    Place(main.Frame7, 204, 584, 890, 80);
+    Place(main.InfoLabel, 12, 12, 820, 56);
+    main.InfoLabel.FontSize = 10;
+    Place(main.NummerLabel, 840, 32, 38, 16);
+    main.NummerLabel.Alignment = Alignment::Right;
+    main.NummerLabel.ForeColor = RGB(110, 110, 90);
+}
+
+}  // namespace
+
+void LayOutMain(MainForm& main) {
+    main.Width = 16470;
+    main.Height = 10020;
+    main.BackColor = panelColour;
+    main.Caption = "Coinlet Designer";
+    LayOutStrip(main);
+    LayOutBrowser(main);
+    LayOutCanvas(main);
+    LayOutTools(main);
+    LayOutTextPanel(main);
+    LayOutFoot(main);
+    main.Timer1.Interval = 1000;
+}
+
+}  // namespace coinlet

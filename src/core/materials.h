@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace coinlet {
+
+/// One of the four metals that tags are made in.
+struct Material {
+    std::string_view name;
+    std::int16_t red, green, blue;
+    int holeColumn;  ///< Where its cell starts in the picture of holes, in pixels.
+};
+
+constexpr std::array<Material, 4> materials{{
+    {"Black Nickel", 0, 0, 0, 0},
+    {"Shiny Copper", 228, 112, 30, 100},
+    {"Shiny Silver", 128, 128, 132, 200},
+    {"Shiny Gold", 240, 173, 0, 300},
+}};
+
+}  // namespace coinlet

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
+
+namespace coinlet {
+
+/// The language named in "Coinlet.ini" of the application folder: its third line, up to a comma. Nothing if
+/// the file can't be read or has fewer lines.
+std::optional<std::string> ReadLanguageSetting(const std::filesystem::path& applicationFolder);
+
+/// Writes "Coinlet.ini" whole: two heading lines and the language.
+[[nodiscard]] std::error_code WriteLanguageSetting(const std::filesystem::path& applicationFolder,
+                                                   const std::string& languageName);
+
+}  // namespace coinlet

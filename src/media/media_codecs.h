@@ -1,0 +1,15 @@
+#pragma once
+
+#include "surface/codecs.h"
+
+namespace coinlet {
+
+/// The codecs of the program: JPEG by libjpeg-turbo, GIF by Qt.
+class MediaCodecs final : public PictureCodecs {
+public:
+    std::optional<Image> DecodeJpeg(std::span<const std::uint8_t> bytes) const override;
+    std::optional<Image> DecodeGif(std::span<const std::uint8_t> bytes) const override;
+    std::optional<Bytes> EncodeJpeg(const Image& image, int quality) const override;
+};
+
+}  // namespace coinlet

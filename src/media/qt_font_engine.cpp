@@ -1,0 +1,205 @@
+#include "media/qt_font_engine.h"
+
+#include "base/files.h"
+#include "base/text.h"
+#include "surface/image.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+namespace coinlet {
+
+namespace {
+
+/// Only records without NaN, which equals nothing, can be found again.
+FontSpec Plain(FontSpec font) {
+    if (!(font.size > 0)) font.size = FontSpec().size;
+    return font;
+}
+
+double PlainAngle(double angle) {
+    return std::isfinite(angle) ? std::remainder(angle, 360.0) : 0.0;
+}
+
+int PixelSize(double points) {
+    constexpr double pixelsAPoint = 96.0 / 72.0, most = 4096;
+    return static_cast<int>(std::lround(std::clamp(points * pixelsAPoint, 1.0, most)));
+}
+
+/// Full hinting puts every advance on a whole number of pixels, so that a text is as wide as its letters are
+/// together; kerning would undo that.
+QFont ToQFont(const FontSpec& spec, Edges edges) {
+    QFont font;
+    font.setFamilies({QString::fromStdString(spec.name)});
+    font.setPixelSize(PixelSize(spec.size));
+    font.setBold(spec.bold);
+    font.setItalic(spec.italic);
+    font.setUnderline(spec.underline);
+    font.setStrikeOut(spec.strikethrough);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferFullHinting);
+    font.setStyleStrategy(edges == Edges::Crisp ? QFont::NoAntialias : QFont::NoSubpixelAntialias);
+    return font;
+}
+
+/// Fonts of pictograms without an alphabet number their glyphs by single bytes.
+bool IsSymbolFont(const QString& family) {
+    const auto systems = QFontDatabase::writingSystems(family);
+    return systems.contains(QFontDatabase::Symbol) && !systems.contains(QFontDatabase::Latin);
+}
+
+QString Printable(const FontSpec& spec, std::string_view text) {
+    QString printable = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const auto isControl = [](QChar letter) {
+        return letter.category() == QChar::Other_Control || letter.category() == QChar::Separator_Line ||
+               letter.category() == QChar::Separator_Paragraph;
+    };
+    printable.removeIf(isControl);
+    if (!IsSymbolFont(QString::fromStdString(spec.name))) return printable;
+
+    constexpr char16_t firstGlyph = 0xF000;  // where such fonts keep the glyph of byte 0
+    QString glyphs;
+    for (const char letter : ToCodePage(printable.toStdString()))
+        glyphs += QChar(static_cast<char16_t>(firstGlyph + static_cast<unsigned char>(letter)));
+    return glyphs;
+}
+
+/// Where the ink of a text may fall, from the top left corner of its cell.
+QRect InkBounds(const QFontMetrics& metrics, const QString& text, int pixelSize) {
+    const QRect cell(0, 0, metrics.horizontalAdvance(text), metrics.height());
+    const int slack = 2 + pixelSize / 4;  // lines under and through it, and what hinting adds
+    const QRect letters = metrics.boundingRect(text).translated(0, metrics.ascent());
+    return cell.united(letters).adjusted(-slack, -slack, slack, slack);
+}
+
+/// What no surface can show is left out, so that no text, however long or large, takes more memory than the
+/// largest picture.
+QRect WithinReach(const QRect& bounds) {
+    constexpr int before = maximumSide / 4;
+    return bounds.intersected(QRect(-before, -before, maximumSide, maximumSide));
+}
+
+/// The part of `picture` that has ink; the picture's top left pixel is at `origin`.
+TextMask CropToInk(const QImage& picture, QPoint origin) {
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        const uchar* row = picture.constScanLine(y);
+        const uchar* end = row + picture.width();
+        const auto isInk = [](uchar coverage) { return coverage != 0; };
+        const uchar* first = std::find_if(row, end, isInk);
+        if (first == end) continue;
+        const uchar* last = end;
+        while (!isInk(last[-1]))
+            --last;
+        ink |= QRect(static_cast<int>(first - row), y, static_cast<int>(last - first), 1);
+    }
+    TextMask mask;
+    if (ink.isEmpty()) return mask;
+    mask.left = origin.x() + ink.left();
+    mask.top = origin.y() + ink.top();
+    mask.width = ink.width();
+    mask.height = ink.height();
+    mask.coverage.reserve(static_cast<std::size_t>(mask.width) * static_cast<std::size_t>(mask.height));
+    for (int y = ink.top(); y <= ink.bottom(); ++y) {
+        const uchar* from = picture.constScanLine(y) + ink.left();
+        mask.coverage.insert(mask.coverage.end(), from, from + mask.width);
+    }
+    return mask;
+}
+
+TextMask Draw(const FontSpec& spec, std::string_view text, Edges edges, double angle) {
+    const QString letters = Printable(spec, text);
+    if (letters.isEmpty()) return {};
+    const QFont font = ToQFont(spec, edges);
+    const QFontMetrics metrics(font);
+    QTransform turn;
+    turn.rotate(-angle);  // Its angles run clockwise.
+    const QRect bounds =
+        WithinReach(turn.mapRect(QRectF(InkBounds(metrics, letters, font.pixelSize()))).toAlignedRect());
+    if (bounds.isEmpty()) return {};
+
+    QImage picture(bounds.size(), QImage::Format_Grayscale8);
+    if (picture.isNull()) return {};
+    picture.fill(Qt::black);
+    {
+        QPainter painter(&picture);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.setRenderHint(QPainter::TextAntialiasing, edges == Edges::Smooth);
+        painter.setTransform(turn * QTransform::fromTranslate(-bounds.left(), -bounds.top()));
+        painter.drawText(QPointF(0, metrics.ascent()), letters);
+    }
+    TextMask mask = CropToInk(picture, bounds.topLeft());
+    if (edges == Edges::Crisp) {
+        // Very large letters are drawn as outlines, which have soft edges whatever is asked for.
+        for (auto& coverage : mask.coverage)
+            coverage = coverage >= 128 ? 255 : 0;
+    }
+    return mask;
+}
+
+}  // namespace
+
+std::size_t QtFontEngine::PrintedHash::operator()(const Printed& key) const {
+    const auto mix = [](std::size_t seed, std::size_t hash) { return seed * 31 + hash; };
+    std::size_t hash = std::hash<std::string>()(key.text);
+    hash = mix(hash, std::hash<std::string>()(key.font.name));
+    hash = mix(hash, std::hash<double>()(key.font.size));
+    hash = mix(hash, std::hash<double>()(key.angle));
+    for (const bool flag : {key.font.bold, key.font.italic, key.font.underline, key.font.strikethrough,
+                            key.edges == Edges::Smooth})
+        hash = mix(hash, flag ? 1 : 0);
+    return hash;
+}
+
+TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) const {
+    const Printed key{Plain(font), std::string(text)};
+    if (const TextExtent* known = extents_.Find(key)) return *known;
+    const QFontMetrics metrics(ToQFont(key.font, Edges::Crisp));
+    const TextExtent extent{metrics.horizontalAdvance(Printable(key.font, text)), metrics.height()};
+    extents_.Add(key, extent);
+    return extent;
+}
+
+TextMask QtFontEngine::Render(const FontSpec& font, std::string_view text, Edges edges, double angle) const {
+    const Printed key{Plain(font), std::string(text), edges, PlainAngle(angle)};
+    if (const TextMask* known = masks_.Find(key)) return *known;
+    TextMask mask = Draw(key.font, text, edges, key.angle);
+    constexpr std::size_t largestKept = std::size_t{64} << 10;  // captions, not posters
+    if (mask.coverage.size() <= largestKept) masks_.Add(key, mask);
+    return mask;
+}
+
+std::vector<std::string> QtFontEngine::Families() const {
+    std::vector<std::string> names;
+    const QStringList families = QFontDatabase::families();
+    for (const QString& family : families)
+        if (!QFontDatabase::isPrivateFamily(family)) names.push_back(family.toStdString());
+    std::sort(names.begin(), names.end(), LessIgnoringCase);
+    return names;
+}
+
+std::string QtFontEngine::AddFontFile(const std::filesystem::path& file) {
+    if (const auto added = addedFiles_.find(file); added != addedFiles_.end()) return added->second;
+    // Read here and not by Qt, which would wait for the other end of a pipe.
+    constexpr std::size_t largestFont = std::size_t{128} << 20;
+    const auto bytes = ReadFile(file, largestFont);
+    if (!bytes) return {};
+    const int font = QFontDatabase::addApplicationFontFromData(
+        QByteArray(reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())));
+    const QStringList families = QFontDatabase::applicationFontFamilies(font);
+    if (families.isEmpty()) return {};
+    extents_.Clear();  // The name may have stood for a substitute until now.
+    masks_.Clear();
+    return addedFiles_[file] = families.front().toStdString();
+}
+
+}  // namespace coinlet

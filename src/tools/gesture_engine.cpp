@@ -1,0 +1,148 @@
+#include "tools/gesture_engine.h"
+
+#include "base/numbers.h"
+#include "core/context.h"
+#include "core/main_form.h"
+#include "tools/tool_codes.h"
+
+#include <algorithm>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int leftButton = 1, rightButton = 2;
+// The read-out of the band stands above its anchor, a little to the left.
+constexpr float readOutAbove = 15, readOutLeft = 3;
+// The hole's marker is 89 pixels wide, the pointer in its middle.
+constexpr float holeMarkerOffset = 43;
+constexpr double textDistance = 5;
+
+/// A press with these codes shows an empty band, also where no move sizes it.
+bool ShowsBand(int code) {
+    return code == shapesMenuTool || (code >= copyTool && code <= lastShapeTool && code != holeTool);
+}
+
+/// A drag with these codes sizes the band.
+bool SizesBand(int code) {
+    return code == copyTool || IsShapeTool(code);
+}
+
+}  // namespace
+
+GestureEngine::GestureEngine(Context& context) : context_(context) {
+    PictureBox& canvas = context.main.Pic;
+    canvas.MouseDown = [this](int button, int shift, float x, float y) {
+        Pic_MouseDown(button, shift, x, y);
+    };
+    canvas.MouseMove = [this](int button, int shift, float x, float y) {
+        Pic_MouseMove(button, shift, x, y);
+    };
+    canvas.MouseUp = [this](int button, int shift, float x, float y) { Pic_MouseUp(button, shift, x, y); };
+}
+
+void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    Surface& canvas = main.Pic.surface;
+    main.UndoPic.surface.SetPicture(canvas.Image());
+    session.StartX = x;
+    session.StartY = y;
+    PlaceEraserMarker(x, y);
+    canvas.DrawWidth = session.LineWidth;
+
+    if (button == leftButton) {
+        if (session.ToolCode == holeTool) main.HoleShape.Visible = true;
+        if (ShowsBand(session.ToolCode)) StartBand(x, y);
+        if (const ToolFamily* family = Family(); family != nullptr && family->press) family->press({x, y});
+    }
+    // The right button is a dropper for the colour field's display alone.
+    if (button == rightButton) main.ColorLabel.BackColor = canvas.Point(x, y);
+}
+
+void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    main.CoorLabel.Caption = "X : " + FormatNumber(x) + " / Y : " + FormatNumber(y);
+    for (LineShape* mark : {&main.Line1, &main.Line3})
+        mark->Y1 = mark->Y2 = y;
+    for (LineShape* mark : {&main.Line2, &main.Line4})
+        mark->X1 = mark->X2 = x;
+    if (session.ToolCode == pickTool) main.ColorLabel.BackColor = main.Pic.surface.Point(x, y);
+    if (session.ToolCode == holeTool) {
+        main.HoleShape.Visible = true;
+        main.HoleShape.Move(x - holeMarkerOffset, y - holeMarkerOffset);
+    }
+    // The text rides on the pointer also while nobody sees it, so that it appears in its place.
+    main.TextLabel.Move(x - main.TextLabel.Width() - textDistance,
+                        y - main.TextLabel.Height() - textDistance);
+    PlaceEraserMarker(x, y);
+    if (button != leftButton) return;
+
+    GesturePoint pointer{x, y};
+    if (SizesBand(session.ToolCode)) SizeBand(pointer);
+    if (const ToolFamily* family = Family()) {
+        if (family->move) family->move(pointer);
+        if (family->movesChangeDesign) session.DesignChanged = true;
+    }
+    session.LastX = pointer.x;
+    session.LastY = pointer.y;
+}
+
+void GestureEngine::Pic_MouseUp(int button, int /*shift*/, float x, float y) {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    if (session.TextPlacing) {
+        if (placeText) placeText({x, y});
+        return;
+    }
+    main.Pic.surface.DrawMode = copyPen;
+    if (button == leftButton) {
+        if (session.ToolCode != nothingArmed) session.DesignChanged = true;
+        if (const ToolFamily* family = Family(); family != nullptr && family->release)
+            family->release({x, y});
+    }
+    main.Pic.surface.Refresh();
+    main.Layer.Visible = false;
+    main.Gom.Visible = false;
+    main.XYcor.Visible = false;
+}
+
+void GestureEngine::PlaceEraserMarker(float x, float y) {
+    const int size = context_.session.EraserSize;
+    context_.main.Gom.Move(x - static_cast<float>(size), y - static_cast<float>(size));
+}
+
+void GestureEngine::StartBand(float x, float y) {
+    MainForm& main = context_.main;
+    main.XYcor.Move(x - readOutLeft, y - readOutAbove);
+    main.XYcor.Caption = " 0,0 ";
+    main.XYcor.Visible = true;
+    main.Layer.Move(x, y, 0, 0);
+    main.Layer.Visible = true;
+}
+
+void GestureEngine::SizeBand(GesturePoint& pointer) {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    // The band never goes up or to the left of its anchor.
+    pointer.x = std::max(pointer.x, session.StartX);
+    pointer.y = std::max(pointer.y, session.StartY);
+    const float width = pointer.x - session.StartX, height = pointer.y - session.StartY;
+    main.Layer.Move(session.StartX, session.StartY, width + 1, height + 1);
+    // A copy tells the size of what is copied, a shape the distance dragged.
+    const float extra = session.ToolCode == copyTool ? 1 : 0;
+    main.XYcor.Caption = " " + FormatNumber(width + extra) + "," + FormatNumber(height + extra) + " ";
+    session.DesignChanged = true;
+}
+
+const ToolFamily* GestureEngine::Family() const {
+    const int code = context_.session.ToolCode;
+    const auto serves = [code](const ToolFamily& family) {
+        return code >= family.firstCode && code <= family.lastCode;
+    };
+    const auto found = std::ranges::find_if(families_, serves);
+    return found == families_.end() ? nullptr : &*found;
+}
+
+}  // namespace coinlet

@@ -1,0 +1,183 @@
+#include "tools/tool_strip.h"
+
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "core/unfinished.h"
+#include "tools/tool_codes.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int canvasLeft = 495, canvasWidth = 7500, canvasRight = canvasLeft + canvasWidth;  // twips
+
+struct ToolRow {
+    std::string_view hintKey;  ///< Empty: the button says nothing.
+    void (*further)(Context&) = nullptr;
+};
+
+void ShowEraserControls(Context& context) {
+    MainForm& main = context.main;
+    for (Control* control :
+         std::initializer_list<Control*>{&main.Label11, &main.HScroll3, &main.Label12, &main.Check1})
+        control->Visible = true;
+}
+
+void ShowTextPanel(Context& context) {
+    context.main.Frame4.Visible = false;
+    context.main.Frame6.Visible = true;
+}
+
+void ArmPick(Context& context) {
+    MainForm& main = context.main;
+    main.Label16.Caption = LookupInfoText(context, "017");
+    main.Label16.Visible = true;
+    main.Pic.MousePointer = crossPointer;
+}
+
+void ShowAboutSlider(Context& context) {
+    MainForm& main = context.main;
+    for (Control* control : std::initializer_list<Control*>{&main.Label5, &main.HScroll5, &main.Label22})
+        control->Visible = true;
+}
+
+void PopUpShapes(Context& context) {
+    context.services.platform.PopupMenu(context.main.Shapes);
+}
+void PopUpFlips(Context& context) {
+    context.services.platform.PopupMenu(context.main.FlipImage);
+}
+
+constexpr std::array<ToolRow, 16> toolRows{{
+    {"010"},
+    {"011"},
+    {"", PopUpShapes},
+    {"013"},
+    {"014"},
+    {"015"},
+    {"016", ShowEraserControls},
+    {"018"},
+    {"019", ShowTextPanel},
+    {"061", ArmPick},
+    {"020"},
+    {"021"},
+    {"022"},
+    {"023", PopUpFlips},
+    {"024"},
+    {"025", ShowAboutSlider},
+}};
+
+constexpr int roundedRectangle = 2, raster = 11;
+/// "Tree" isn't among the entries that a choice unchecks: once chosen it keeps its check mark.
+constexpr int lastUncheckedShape = 15;
+
+}  // namespace
+
+ToolStrip::ToolStrip(Context& context) : context_(context) {
+    MainForm& main = context.main;
+    main.Knop.Bind(&VistaButton::Click, [this](int index) { Knop_Click(index); });
+    main.Vormen.Bind(&MenuItem::Click, [this](int index) { Vormen_Click(index); });
+    main.ColorLabel.MouseDown = [this](int, int, float, float) { ColorLabel_MouseDown(); };
+    main.ExitKnop.Click = [this] { ExitKnop_Click(); };
+    BindSliders();
+}
+
+void ToolStrip::BindSliders() {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    // The slider's value has the range of the session's field, so the conversions lose nothing.
+    const auto bind = [](ScrollBar& bar, auto handler) {
+        bar.Change = handler;
+        bar.Scroll = handler;
+    };
+    bind(main.HScroll1, [&] {
+        session.LineWidth = static_cast<std::uint8_t>(main.HScroll1.Value());
+        main.Label7.Caption = "Line Width (" + std::to_string(main.HScroll1.Value()) + ")";
+    });
+    bind(main.HScroll2, [&] {
+        session.CornerSize = main.HScroll2.Value();
+        main.Label10.Caption = "Corner (" + std::to_string(main.HScroll2.Value()) + ")";
+    });
+    bind(main.HScroll3, [&] {
+        session.EraserSize = static_cast<std::uint8_t>(main.HScroll3.Value());
+        main.Label12.Caption = "Size (" + std::to_string(main.HScroll3.Value()) + "/50)";
+    });
+    bind(main.HScroll4, [&] {
+        session.RasterStep = static_cast<std::int16_t>(main.HScroll4.Value());
+        main.Label21.Caption = "Raster (" + std::to_string(main.HScroll4.Value()) + ")";
+    });
+    bind(main.HScroll5, [this] { HScroll5_Change(); });
+}
+
+void ToolStrip::Knop_Click(int index) {
+    MainForm& main = context_.main;
+    Session& session = context_.session;
+    session.TextPlacing = false;
+    session.ToolCode = static_cast<std::int16_t>(index);
+    main.Pic.MousePointer = toolPointer;
+    for (Control* control : std::initializer_list<Control*>{
+             &main.Label16, &main.Label9, &main.HScroll2, &main.Label10, &main.Label11, &main.HScroll3,
+             &main.Label12, &main.Check1, &main.Label20, &main.HScroll4, &main.Label21, &main.HoleShape,
+             &main.Label5, &main.HScroll5})
+        control->Visible = false;
+    main.HScroll5.SetValue(canvasLeft);
+    main.Pic.SetLeft(canvasLeft);
+    main.Pic.SetWidth(canvasWidth);
+    main.Label22.Visible = false;
+
+    const ToolRow& row = toolRows.at(static_cast<std::size_t>(index));
+    if (!row.hintKey.empty()) ShowHint(context_, row.hintKey);
+    if (row.further != nullptr) row.further(context_);
+}
+
+void ToolStrip::Vormen_Click(int index) {
+    MainForm& main = context_.main;
+    context_.session.ToolCode = static_cast<std::int16_t>(index + firstShapeTool - 1);
+    for (int i = main.Vormen.First(); i <= lastUncheckedShape; ++i)
+        main.Vormen[i].Checked = false;
+    main.Vormen[index].Checked = true;
+    const std::initializer_list<Control*> rasterControls{&main.Label20, &main.Label21, &main.HScroll4};
+    for (Control* control : rasterControls)
+        control->Visible = false;
+    ShowHint(context_, "012");
+    if (index == roundedRectangle) {
+        for (Control* control : std::initializer_list<Control*>{&main.Label9, &main.HScroll2, &main.Label10})
+            control->Visible = true;
+    }
+    if (index == raster) {
+        for (Control* control : rasterControls)
+            control->Visible = true;
+    }
+}
+
+void ToolStrip::ColorLabel_MouseDown() {
+    context_.session.ToolCode = colourChooserTool;
+    ShowHint(context_, "060");
+    openColourChooser();
+}
+
+void ToolStrip::ExitKnop_Click() {
+    MainForm& main = context_.main;
+    main.Frame6.Visible = false;
+    main.Frame4.Visible = true;
+    main.Knop[pickTool].SetEnabled(true);
+    ShowHint(context_, "004");
+}
+
+void ToolStrip::HScroll5_Change() {
+    MainForm& main = context_.main;
+    const int left = main.HScroll5.Value();
+    main.Pic.SetLeft(left);
+    main.Pic.SetWidth(canvasRight - left);
+    context_.services.platform.DoEvents();
+    for (int i = main.Knop.First(); i <= main.Knop.Last(); ++i) {
+        if (!IsUnfinished(main, main.Knop[i])) main.Knop[i].SetEnabled(left == canvasLeft);
+    }
+}
+
+}  // namespace coinlet

@@ -1,0 +1,112 @@
+// Arcs: which part of an ellipse's outline they are.
+
+#include "support/block_fonts.h"
+#include "support/picture_grid.h"
+#include "surface/surface.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <numbers>
+#include <random>
+
+namespace coinlet {
+namespace {
+
+using std::numbers::pi;
+using test::Grid;
+using test::GridOf;
+
+class ArcTest : public testing::Test {
+protected:
+    Surface Blank(int width, int height) { return {fonts_, width, height}; }
+    Image Drawn(double radius, std::optional<ArcAngles> arc, double aspect = 1) {
+        Surface surface = Blank(41, 41);
+        surface.Circle(20, 20, radius, black, arc, aspect);
+        return surface.Image();
+    }
+
+    test::BlockFonts fonts_;
+};
+
+TEST_F(ArcTest, RunsCounterClockwiseFromThePositiveXAxis) {
+    Surface upper = Blank(7, 7), right = Blank(7, 7), quarter = Blank(7, 7);
+    upper.Circle(3, 3, 3, black, ArcAngles{0, pi});
+    EXPECT_EQ(GridOf(upper),
+              Grid({"..###..", ".#...#.", "#.....#", "#.....#", ".......", ".......", "......."}));
+    right.Circle(3, 3, 3, black, ArcAngles{1.5 * pi, 0.5 * pi});  // through 0
+    EXPECT_EQ(GridOf(right),
+              Grid({"...##..", ".....#.", "......#", "......#", "......#", ".....#.", "...##.."}));
+    quarter.Circle(3, 3, 3, black, ArcAngles{pi, 1.5 * pi});
+    EXPECT_EQ(GridOf(quarter),
+              Grid({".......", ".......", ".......", "#......", "#......", ".#.....", "..##..."}));
+}
+
+TEST_F(ArcTest, AnEndOfZeroIsAFullTurn) {
+    EXPECT_EQ(Drawn(15, ArcAngles{0, 0}), Drawn(15, {}));
+    EXPECT_EQ(Drawn(15, ArcAngles{pi, 0}), Drawn(15, ArcAngles{pi, 2 * pi}));
+    EXPECT_EQ(Drawn(15, ArcAngles{0, 2 * pi}), Drawn(15, {}));
+}
+
+TEST_F(ArcTest, EqualAnglesAreTheWholeEllipse) {
+    for (const double angle : {0.0, 1.0, -2.5, 3.14, 2 * pi, 100.0}) {
+        EXPECT_EQ(Drawn(15, ArcAngles{angle, angle}, 0.6), Drawn(15, {}, 0.6)) << angle;
+    }
+}
+
+TEST_F(ArcTest, AnglesCountModuloAFullTurn) {
+    EXPECT_EQ(Drawn(15, ArcAngles{-1, 1}), Drawn(15, ArcAngles{2 * pi - 1, 1}));
+    EXPECT_EQ(Drawn(15, ArcAngles{1 + 4 * pi, 2 - 6 * pi}), Drawn(15, ArcAngles{1, 2}));
+}
+
+/// Every pixel of the outline belongs to the arc if its angle, as seen from the centre, lies between the two.
+TEST_F(ArcTest, IsThePartOfTheOutlineBetweenItsAngles) {
+    std::mt19937 random(17);
+    std::uniform_int_distribution<int> radius(0, 30), pen(1, 6);
+    std::uniform_real_distribution<double> angle(0, 2 * pi), aspect(0.2, 3);
+    for (int i = 0; i < 400; ++i) {
+        const ArcAngles arc{angle(random), angle(random)};
+        Surface part = Blank(81, 81), whole = Blank(81, 81);
+        part.DrawWidth = whole.DrawWidth = pen(random);
+        part.FillStyle = solidFill;  // not for arcs
+        const int r = radius(random);
+        const double a = aspect(random);
+        part.Circle(40, 40, r, black, arc, a);
+        whole.Circle(40, 40, r, black, {}, a);
+        for (int y = 0; y < 81; ++y) {
+            for (int x = 0; x < 81; ++x) {
+                double direction = std::atan2(40 - y, x - 40);
+                if (direction < 0) direction += 2 * pi;
+                const bool between = arc.start <= arc.end ? direction >= arc.start && direction <= arc.end
+                                                          : direction >= arc.start || direction <= arc.end;
+                ASSERT_EQ(part.Point(x, y) == black, between && whole.Point(x, y) == black)
+                    << x << ' ' << y << " in " << arc.start << ' ' << arc.end;
+            }
+        }
+    }
+}
+
+TEST_F(ArcTest, TwoHalvesMakeTheWhole) {
+    for (const int pen : {1, 2, 5}) {
+        Surface halves = Blank(41, 41), whole = Blank(41, 41);
+        halves.DrawWidth = whole.DrawWidth = pen;
+        halves.Circle(20, 20, 15, black, ArcAngles{0, pi}, 0.8);
+        halves.Circle(20, 20, 15, black, ArcAngles{pi, 0}, 0.8);
+        whole.Circle(20, 20, 15, black, {}, 0.8);
+        EXPECT_EQ(halves.Image(), whole.Image()) << pen;
+    }
+}
+
+TEST_F(ArcTest, InvertedTwiceAnArcUndoesItself) {
+    Surface surface = Blank(41, 41);
+    surface.Line(5, 5, 25, 30, RGB(200, 100, 50), Box::Filled);
+    const Image before = surface.Image();
+    surface.DrawMode = invertPen;
+    surface.DrawWidth = 3;
+    surface.Circle(20, 20, 15, black, ArcAngles{1, 5});
+    EXPECT_NE(surface.Image(), before);
+    surface.Circle(20, 20, 15, black, ArcAngles{1, 5});
+    EXPECT_EQ(surface.Image(), before);
+}
+
+}  // namespace
+}  // namespace coinlet
