@@ -11,7 +11,7 @@
 namespace coinlet {
 namespace {
 
-constexpr int side = 500, figureCount = 1000;
+constexpr int side = 500, middle = side / 2, figureCount = 1000;
 
 struct Canvas {
     test::BlockFonts fonts;
@@ -37,7 +37,7 @@ void DrawLines(benchmark::State& state, int width, int mode, int style = solidLi
     canvas.surface.DrawMode = mode;
     canvas.surface.DrawStyle = style;
     const auto segments = RandomSegments();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const auto& s : segments)
             canvas.surface.Line(s.x1, s.y1, s.x2, s.y2);
         benchmark::ClobberMemory();
@@ -53,13 +53,13 @@ void DrawCircles(benchmark::State& state, int width, double aspect, int fillStyl
     canvas.surface.DrawWidth = width;
     canvas.surface.FillStyle = fillStyle;
     std::mt19937 random(2);
-    std::uniform_int_distribution<int> radius(1, side / 2 - 1);
+    std::uniform_int_distribution<int> radius(1, middle - 1);
     std::vector<int> radii(figureCount);
     for (auto& r : radii)
         r = radius(random);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const int r : radii)
-            canvas.surface.Circle(side / 2, side / 2, r, black, {}, aspect);
+            canvas.surface.Circle(middle, middle, r, black, {}, aspect);
         benchmark::ClobberMemory();
     }
 }
@@ -72,9 +72,9 @@ BENCHMARK_CAPTURE(DrawCircles, filled, 1, 1.0, solidFill)->Unit(benchmark::kMicr
 void DrawClippedCircles(benchmark::State& state) {
     Canvas canvas;
     const auto places = RandomSegments();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const auto& p : places)
-            canvas.surface.Circle(p.x1, p.y1, p.x2 / 2, black);
+            canvas.surface.Circle(p.x1, p.y1, p.x2 * 0.5, black);
         benchmark::ClobberMemory();
     }
 }
@@ -82,9 +82,9 @@ BENCHMARK(DrawClippedCircles)->Unit(benchmark::kMicrosecond);
 
 void DrawArcs(benchmark::State& state) {
     Canvas canvas;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (int i = 0; i < figureCount; ++i) {
-            canvas.surface.Circle(side / 2, side / 2, i % 250, black, ArcAngles{0, 3.14}, 0.8);
+            canvas.surface.Circle(middle, middle, i % middle, black, ArcAngles{0, 3.14}, 0.8);
         }
         benchmark::ClobberMemory();
     }
@@ -94,7 +94,7 @@ BENCHMARK(DrawArcs)->Unit(benchmark::kMicrosecond);
 void DrawFilledBoxes(benchmark::State& state) {
     Canvas canvas;
     const auto segments = RandomSegments();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const auto& s : segments)
             canvas.surface.Line(s.x1, s.y1, s.x2, s.y2, black, Box::Filled);
         benchmark::ClobberMemory();
@@ -106,7 +106,7 @@ void DrawRoundRects(benchmark::State& state) {
     Canvas canvas;
     canvas.surface.DrawWidth = 3;
     const auto segments = RandomSegments();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const auto& s : segments)
             RoundRect(canvas.surface.hDC(), s.x1, s.y1, s.x2, s.y2, 40, 40);
         benchmark::ClobberMemory();

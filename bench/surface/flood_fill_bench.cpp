@@ -19,7 +19,7 @@ void WholeCanvas(benchmark::State& state) {
     Surface surface(fonts, side, side);
     surface.FillStyle = solidFill;
     Colour colour = white;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         surface.FillColor = colour ^ RGB(255, 255, 0);
         ExtFloodFill(surface.hDC(), side / 2, side / 2, colour, FLOODFILLSURFACE);
         colour = surface.FillColor;
@@ -31,7 +31,7 @@ void WholeCanvasToBorder(benchmark::State& state) {
     test::BlockFonts fonts;
     Surface surface(fonts, side, side);
     surface.FillStyle = solidFill;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         surface.FillColor ^= RGB(255, 255, 0);
         FloodFill(surface.hDC(), side / 2, side / 2, RGB(1, 2, 3));
     }
@@ -45,13 +45,17 @@ void DigMaze(Surface& surface) {
     surface.SetBackColor(black);
     const DeviceContext hDC = surface.hDC();
     const auto dig = [&](int left, int top) {
-        for (const int y : {top, top + 1})
-            for (const int x : {left, left + 1})
+        for (const int y : {top, top + 1}) {
+            for (const int x : {left, left + 1}) {
                 SetPixel(hDC, x, y, white);
+            }
+        }
     };
     std::mt19937 random(7);
     std::vector<bool> seen(std::size_t{cells} * cells);
-    const auto index = [](int x, int y) { return static_cast<std::size_t>(y * cells + x); };
+    const auto index = [](int x, int y) {
+        return static_cast<std::size_t>(y) * cells + static_cast<std::size_t>(x);
+    };
     std::vector<std::pair<int, int>> walk = {{0, 0}};
     seen[0] = true;
     dig(1, 1);
@@ -81,7 +85,7 @@ void Maze(benchmark::State& state) {
     DigMaze(surface);
     surface.FillStyle = solidFill;
     Colour colour = white;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         surface.FillColor = colour ^ RGB(255, 255, 0);
         ExtFloodFill(surface.hDC(), 1, 1, colour, FLOODFILLSURFACE);
         colour = surface.FillColor;

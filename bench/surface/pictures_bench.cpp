@@ -14,7 +14,7 @@ constexpr int side = 500;
 void TakeUndoAndDraw(benchmark::State& state) {
     const test::BlockFonts fonts;
     Surface canvas(fonts, side, side), undo(fonts, side, side);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         undo.SetPicture(canvas.Image());
         canvas.PSet(1, 1);
         benchmark::ClobberMemory();
@@ -25,7 +25,7 @@ BENCHMARK(TakeUndoAndDraw)->Unit(benchmark::kMicrosecond);
 void TakeUndoAndRestore(benchmark::State& state) {
     const test::BlockFonts fonts;
     Surface canvas(fonts, side, side), undo(fonts, side, side);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         undo.SetPicture(canvas.Image());
         canvas.PSet(1, 1);
         canvas.SetPicture(undo.Image());
@@ -37,7 +37,7 @@ BENCHMARK(TakeUndoAndRestore)->Unit(benchmark::kMicrosecond);
 void ClearBare(benchmark::State& state) {
     const test::BlockFonts fonts;
     Surface canvas(fonts, side, side);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         canvas.Cls();
         benchmark::ClobberMemory();
     }
@@ -48,7 +48,7 @@ BENCHMARK(ClearBare)->Unit(benchmark::kMicrosecond);
 void ReadPoints(benchmark::State& state) {
     const test::BlockFonts fonts;
     const Surface canvas(fonts, side, side);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         long long sum = 0;
         for (int y = 0; y < side; ++y) {
             for (int x = 0; x < side; ++x)

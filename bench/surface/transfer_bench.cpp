@@ -27,28 +27,10 @@ struct Canvas {
     Canvas() { surface.PaintPicture(noise, 0, 0); }
 };
 
-void UndoSnapshot(benchmark::State& state) {
-    Canvas canvas;
-    Surface undo(canvas.fonts, side, side);
-    for (auto _ : state)
-        undo.SetPicture(canvas.surface.Image());
-}
-BENCHMARK(UndoSnapshot)->Unit(benchmark::kMicrosecond);
-
-void UndoSnapshotAndFirstStroke(benchmark::State& state) {
-    Canvas canvas;
-    Surface undo(canvas.fonts, side, side);
-    for (auto _ : state) {
-        undo.SetPicture(canvas.surface.Image());
-        SetPixel(canvas.surface.hDC(), 3, 3, white);
-    }
-}
-BENCHMARK(UndoSnapshotAndFirstStroke)->Unit(benchmark::kMicrosecond);
-
 void PaintSameSize(benchmark::State& state) {
     Canvas canvas;
     const auto op = static_cast<RasterOp>(state.range(0));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         canvas.surface.PaintPicture(canvas.noise, 0, 0, op);
 }
 BENCHMARK(PaintSameSize)
@@ -61,7 +43,7 @@ BENCHMARK(PaintSameSize)
 void PaintStretched(benchmark::State& state) {
     Canvas canvas;
     const auto size = static_cast<double>(state.range(0));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         canvas.surface.PaintPicture(canvas.noise, {0, 0, size, size});
 }
 BENCHMARK(PaintStretched)->ArgName("side")->Arg(250)->Arg(499)->Unit(benchmark::kMicrosecond);
@@ -70,28 +52,28 @@ void TransparentCopy(benchmark::State& state) {
     Canvas canvas;
     Surface source(canvas.fonts, side, side);
     source.PaintPicture(canvas.noise, 0, 0);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         TransparentBlt(canvas.surface.hDC(), 0, 0, side, side, source.hDC(), 0, 0, side, side, white);
 }
 BENCHMARK(TransparentCopy)->Unit(benchmark::kMicrosecond);
 
 void MirrorLeftToRight(benchmark::State& state) {
     Canvas canvas;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         FlipHorizontal(canvas.surface);
 }
 BENCHMARK(MirrorLeftToRight)->Unit(benchmark::kMicrosecond);
 
 void MirrorTopToBottom(benchmark::State& state) {
     Canvas canvas;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         FlipVertical(canvas.surface);
 }
 BENCHMARK(MirrorTopToBottom)->Unit(benchmark::kMicrosecond);
 
 void MirrorOntoItself(benchmark::State& state) {
     Canvas canvas;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         StretchBlt(canvas.surface.hDC(), 0, 0, side, side, canvas.surface.hDC(), side - 1, 0, -side, side,
                    SRCCOPY);
 }
@@ -101,7 +83,7 @@ void Gradient(benchmark::State& state) {
     Canvas canvas;
     const std::vector<TRIVERTEX> vertices = {{0, 0, 0xFF00, 0, 0, 0}, {side, side, 0, 0xFF00, 0x8000, 0}};
     const std::vector<GRADIENT_RECT> mesh = {{0, 1}};
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         GradientFill(canvas.surface.hDC(), vertices, mesh, static_cast<int>(state.range(0)));
 }
 BENCHMARK(Gradient)
@@ -113,7 +95,7 @@ BENCHMARK(Gradient)
 void BufferRoundTrip(benchmark::State& state) {
     Canvas canvas;
     std::vector<std::uint8_t> buffer(std::size_t{4} * side * side);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         GetDIBits(canvas.surface.hDC(), 0, side, buffer, {side, -side});
         SetDIBits(canvas.surface.hDC(), 0, side, buffer, {side, -side});
     }
@@ -123,10 +105,12 @@ BENCHMARK(BufferRoundTrip)->Unit(benchmark::kMicrosecond);
 void PixelByPixel(benchmark::State& state) {
     Canvas canvas;
     const DeviceContext hDC = canvas.surface.hDC();
-    for (auto _ : state) {
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
+    for ([[maybe_unused]] auto _ : state) {
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
                 SetPixel(hDC, x, y, GetPixel(hDC, x, y) ^ 0xFF);
+            }
+        }
     }
 }
 BENCHMARK(PixelByPixel)->Unit(benchmark::kMicrosecond);

@@ -14,7 +14,8 @@ int RoundHalfEven(double value);
 int Truncate(double value);
 
 /// The number that `text` starts with, leading blanks skipped: "12 px" -> 12, "abc" -> 0, "" -> 0.
-/// The decimal sign is a point whatever the desktop's locale. "inf" and "nan" are no numbers here.
+/// The decimal sign is a point whatever the desktop's locale. "inf", "nan" and what is beyond the range of
+/// double are no numbers here.
 double Val(std::string_view text);
 
 /// True if the whole of `text`, blanks at both ends aside, is one number; then `*value` holds it.

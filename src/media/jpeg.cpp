@@ -53,7 +53,8 @@ std::optional<Image> DecodeJpegBytes(std::span<const std::uint8_t> bytes) {
     if (width <= 0 || height <= 0 || !IsPictureSize(width, height)) return std::nullopt;
 
     const bool inks = colours == TJCS_CMYK || colours == TJCS_YCCK;
-    Bitmap bitmap(width, height);
+    // Black, for the library also stops at damage that it has warned of before and leaves the rows below.
+    Bitmap bitmap(width, height, ToPixel(black));
     if (!Decompress(codec.get(), bytes, bitmap, inks ? TJPF_CMYK : TJPF_BGRA)) return std::nullopt;
     if (inks) InksToColours(bitmap);
     return Image(std::move(bitmap));

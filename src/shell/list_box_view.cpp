@@ -1,5 +1,4 @@
 #include "controls/list_box.h"
-
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/look.h"

@@ -10,6 +10,7 @@
 #include <QEventLoop>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>

@@ -30,7 +30,7 @@ void UnpackIndices(const Header& header, const std::uint8_t* row, std::size_t co
     constexpr unsigned mask = (1U << bits) - 1;
     for (std::size_t i = 0; i < count; ++i) {
         const auto shift = static_cast<unsigned>((perByte - 1 - i % perByte) * bits);
-        out[i] = header.palette[row[i / perByte] >> shift & mask];
+        out[i] = header.palette[static_cast<unsigned>(row[i / perByte]) >> shift & mask];
     }
 }
 

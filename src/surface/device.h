@@ -105,8 +105,8 @@ constexpr unsigned DT_CALCRECT = 1024;
 /// Draws a text in `ForeColor` and the selected font (else the surface's own) with crisp edges, clipped to
 /// the rectangle, always level. CR LF breaks a line, and with DT_WORDBREAK so do the last blanks before the
 /// right edge, which are dropped; a word wider than the rectangle stands in a line of its own, unbroken.
-/// DT_CENTER centres each line. With DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges move
-/// to where the text ends. Returns the height of all lines; an empty text is one line.
+/// DT_CENTER centres each line. With DT_CALCRECT nothing is drawn: the rectangle's right and bottom edges
+/// move to where the text ends. Returns the height of all lines; an empty text is one line.
 int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigned flags);
 
 /// Sets the colour of device text, which is the surface's `ForeColor`. Returns the former one.

@@ -126,7 +126,8 @@ public:
     // --- Background, pictures --------------------------------------------------------------------------
 
     Colour BackColor() const { return backColor_; }
-    /// A new background colour wipes what was drawn, as `Cls` does, but leaves the graphics cursor.
+    /// Setting the background colour, the same one too, wipes what was drawn, as `Cls` does, but leaves the
+    /// graphics cursor.
     void SetBackColor(Colour colour);
 
     /// The stored picture, to which `Cls` returns; empty if there is none.
@@ -142,7 +143,9 @@ public:
 
     // --- Drawing ---------------------------------------------------------------------------------------
 
-    /// Sets one point: a pixel, or with a wider pen a round dot. Every call of these four moves the cursor.
+    /// Sets one point: a pixel, or with a wider pen a round dot. Every call of `PSet`, `Line`, `LineTo` and
+    /// `Circle` moves the cursor to its (last) point, whether anything is drawn or not; a NaN leaves it where
+    /// it is.
     void PSet(double x, double y, std::optional<Colour> colour = {});
     /// The colour of the pixel, or -1 outside the surface.
     Colour Point(double x, double y) const;

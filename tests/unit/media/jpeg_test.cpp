@@ -3,6 +3,7 @@
 
 #include <turbojpeg.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -181,6 +182,23 @@ TEST(Jpeg, CutShortAnywhereNeverCrashes) {
             EXPECT_EQ(image->Width(), 16) << size;
         }
     }
+}
+
+TEST(Jpeg, PixelsThatTheDecoderNeverReachesAreBlack) {
+    auto bytes = EncodeJpegBytes(Gradient(64, 64), 90);
+    ASSERT_TRUE(bytes);
+    // Stray bytes before the frame's header, of which the library warns, and no table of steps, at which it
+    // stops: they become comments.
+    for (std::size_t i = 0; i + 1 < bytes->size(); ++i)
+        if ((*bytes)[i] == 0xFF && (*bytes)[i + 1] == 0xDB) (*bytes)[i + 1] = 0xFE;
+    const Bytes marker{0xFF, 0xC0};
+    const auto frame = std::search(bytes->begin(), bytes->end(), marker.begin(), marker.end());
+    bytes->insert(frame, {0x12, 0x34});
+    const auto image = DecodeJpegBytes(*bytes);
+    ASSERT_TRUE(image);
+    ASSERT_EQ(image->Width(), 64);
+    for (const Pixel pixel : image->Shared()->Pixels())
+        ASSERT_EQ(pixel, ToPixel(black));
 }
 
 TEST(Jpeg, RefusesSizesAboveTheLimit) {

@@ -34,7 +34,7 @@ TEST(GetDIBits, GivesBlueGreenRedSpare) {
 TEST(GetDIBits, ANegativeHeightPutsTheTopRowFirst) {
     Surface surface(fonts, 2, 3);
     DrawSample(surface);
-    Buffer buffer(2 * 3 * 4);
+    Buffer buffer(std::size_t{2} * 3 * 4);
     EXPECT_EQ(GetDIBits(surface.hDC(), 0, 3, buffer, {2, -3}), 3);
     EXPECT_EQ(buffer, (Buffer{0,   0,   255, 255, 255, 255, 255, 255,    // R.
                               0,   255, 0,   255, 0,   0,   0,   255,    // G#
@@ -84,14 +84,14 @@ TEST(SetDIBits, WhatWasReadIsTheSamePicture) {
         Surface from(fonts, 13, 7), to(fonts, 13, 7);
         for (Pixel& pixel : from.WriteAll().Pixels())
             pixel = spareByte | static_cast<Pixel>(random());
-        Buffer buffer(13 * 7 * 4);
+        Buffer buffer(std::size_t{13} * 7 * 4);
         const BITMAPINFO info = {13, sign * 7};
         EXPECT_EQ(GetDIBits(from.hDC(), 0, 7, buffer, info), 7);
         EXPECT_EQ(SetDIBits(to.hDC(), 0, 7, buffer, info), 7);
         EXPECT_EQ(from.Image(), to.Image());
         // Row by row it is the same.
         to.Cls();
-        Buffer row(13 * 4);
+        Buffer row(std::size_t{13} * 4);
         for (int i = 0; i < 7; ++i) {
             EXPECT_EQ(GetDIBits(from.hDC(), i, 1, row, info), 1);
             EXPECT_EQ(SetDIBits(to.hDC(), i, 1, row, info), 1);

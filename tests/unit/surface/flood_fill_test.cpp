@@ -35,7 +35,8 @@ void Scatter(Surface& surface, std::mt19937& random, std::size_t colours, std::s
 template <class Inside>
 std::vector<std::pair<int, int>> Reached(const Image& picture, int x, int y, Inside inside) {
     std::vector<std::pair<int, int>> reached;
-    std::vector<bool> seen(static_cast<std::size_t>(picture.Width() * picture.Height()));
+    std::vector<bool> seen(static_cast<std::size_t>(picture.Width()) *
+                           static_cast<std::size_t>(picture.Height()));
     std::queue<std::pair<int, int>> waiting;
     waiting.emplace(x, y);
     while (!waiting.empty()) {
@@ -43,7 +44,8 @@ std::vector<std::pair<int, int>> Reached(const Image& picture, int x, int y, Ins
         waiting.pop();
         const Colour colour = picture.At(cx, cy);
         if (colour == -1 || !inside(colour)) continue;
-        const auto index = static_cast<std::size_t>(cy * picture.Width() + cx);
+        const auto index = static_cast<std::size_t>(cy) * static_cast<std::size_t>(picture.Width()) +
+                           static_cast<std::size_t>(cx);
         if (seen[index]) continue;
         seen[index] = true;
         reached.emplace_back(cx, cy);
@@ -61,11 +63,13 @@ void ExpectFilled(const Image& before, const Surface& after, int x, int y, Colou
     expected.SetPicture(before);
     for (const auto& [px, py] : Reached(before, x, y, inside))
         SetPixel(expected.hDC(), px, py, fill);
-    for (int row = 0; row < before.Height(); ++row)
-        for (int column = 0; column < before.Width(); ++column)
+    for (int row = 0; row < before.Height(); ++row) {
+        for (int column = 0; column < before.Width(); ++column) {
             ASSERT_EQ(after.Pixels().Row(row)[column], expected.Pixels().Row(row)[column])
                 << before.Width() << "x" << before.Height() << " from " << x << ", " << y << " at " << column
                 << ", " << row;
+        }
+    }
 }
 
 TEST(ExtFloodFill, IsTheBreadthFirstSearch) {

@@ -61,9 +61,11 @@ TEST(GradientFill, DropsTheLowByte) {
 TEST(GradientFill, ColumnsAlike) {
     Surface surface(fonts, 4, 2);
     Fill(surface, Vertex(0, 0, 0, 0, 0), Vertex(4, 2, 0, 200, 0), GRADIENT_FILL_RECT_H);
-    for (int y = 0; y < 2; ++y)
-        for (int x = 0; x < 4; ++x)
+    for (int y = 0; y < 2; ++y) {
+        for (int x = 0; x < 4; ++x) {
             EXPECT_EQ(GetPixel(surface.hDC(), x, y), RGB(0, 50 * x, 0));
+        }
+    }
 }
 
 TEST(GradientFill, ChannelsAbove127AreNoNegatives) {

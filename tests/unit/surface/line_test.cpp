@@ -129,8 +129,8 @@ TEST_F(LineTest, ALongLineKeepsItsPixelsExactly) {
     Surface expected = Blank(300, 300);
     for (long long x = 0; x < 300; ++x) {
         const long long i = x - startX;
-        expected.PSet(static_cast<double>(x),
-                      static_cast<double>(startY + (2 * i * rise + length - 1) / (2 * length)));
+        const long long row = startY + (2 * i * rise + length - 1) / (2 * length);
+        expected.PSet(static_cast<double>(x), static_cast<double>(row));
     }
     EXPECT_EQ(surface.Image(), expected.Image());
 }
@@ -235,7 +235,8 @@ TEST_F(LineTest, APenBelowOneCountsAsOne) {
 
 /// The rule itself, pixel by pixel: the centre is within half the pen's width of the line, whose points lie
 /// half a pixel up and left for even widths. In whole numbers, all lengths doubled.
-bool LiesOnWideLine(int x, int y, int x1, int y1, int x2, int y2, int width) {
+bool LiesOnWideLine(long long x, long long y, long long x1, long long y1, long long x2, long long y2,
+                    long long width) {
     const long long shift = width % 2 == 0 ? 1 : 0;
     const long long px = 2 * x - (2 * x1 - shift), py = 2 * y - (2 * y1 - shift);
     const long long dx = 2 * (x2 - x1), dy = 2 * (y2 - y1);

@@ -72,9 +72,11 @@ Colour Joined(RasterOp op, Colour target, Colour source) {
 void ExpectSame(const Image& actual, const Image& expected, const char* what) {
     ASSERT_EQ(actual.Width(), expected.Width());
     ASSERT_EQ(actual.Height(), expected.Height());
-    for (int y = 0; y < actual.Height(); ++y)
-        for (int x = 0; x < actual.Width(); ++x)
+    for (int y = 0; y < actual.Height(); ++y) {
+        for (int x = 0; x < actual.Width(); ++x) {
             ASSERT_EQ(actual.Row(y)[x], expected.Row(y)[x]) << what << " at " << x << ", " << y;
+        }
+    }
 }
 
 TransferBox RandomBox(std::mt19937& random, int reach) {
@@ -173,13 +175,17 @@ TEST(Flip, TwiceGivesBackThePicture) {
             const Image before = RandomPicture(random, width, height);
             Show(surface, before);
             FlipHorizontal(surface);
-            for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x)
+            for (int y = 0; y < height; ++y) {
+                for (int x = 0; x < width; ++x) {
                     ASSERT_EQ(GetPixel(surface.hDC(), width - 1 - x, y), before.At(x, y));
+                }
+            }
             FlipVertical(surface);
-            for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x)
+            for (int y = 0; y < height; ++y) {
+                for (int x = 0; x < width; ++x) {
                     ASSERT_EQ(GetPixel(surface.hDC(), width - 1 - x, height - 1 - y), before.At(x, y));
+                }
+            }
             FlipHorizontal(surface);
             FlipVertical(surface);
             ExpectSame(surface.Image(), before, "flipped twice");
@@ -220,16 +226,20 @@ TEST(Mirror, HalvesMeetAtTheMiddle) {
         Show(surface, before);
         for (int i = -1; i <= side; ++i)  // also columns outside the left half
             MirrorColumnToRight(surface, i);
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
                 ASSERT_EQ(GetPixel(surface.hDC(), x, y), before.At(std::min(x, side - 1 - x), y));
+            }
+        }
 
         Show(surface, before);
         for (int i = -1; i <= side; ++i)
             MirrorRowToBottom(surface, i);
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
                 ASSERT_EQ(GetPixel(surface.hDC(), x, y), before.At(x, std::min(y, side - 1 - y)));
+            }
+        }
     }
 }
 
@@ -241,16 +251,20 @@ TEST(Mirror, OneColumnOrRowChangesNoOther) {
     surface.ForgetChanges();
     MirrorColumnToRight(surface, 1);
     EXPECT_EQ(surface.Changed(), (PixelRect{4, 0, 5, 4}));
-    for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 6; ++x)
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 6; ++x) {
             EXPECT_EQ(GetPixel(surface.hDC(), x, y), before.At(x == 4 ? 1 : x, y));
+        }
+    }
     Show(surface, before);
     surface.ForgetChanges();
     MirrorRowToBottom(surface, 0);
     EXPECT_EQ(surface.Changed(), (PixelRect{0, 3, 6, 4}));
-    for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 6; ++x)
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 6; ++x) {
             EXPECT_EQ(GetPixel(surface.hDC(), x, y), before.At(x, y == 3 ? 0 : y));
+        }
+    }
 }
 
 // --- The axis map at the ends of the number range ------------------------------------------------------

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coinlet::player {
+
+/// What the caller asks for.
+struct Options {
+    std::filesystem::path folder;              ///< The application folder to run in.
+    std::optional<std::filesystem::path> out;  ///< Takes what scripts make; else it is thrown away.
+    std::vector<std::filesystem::path> scripts;
+};
+
+constexpr std::string_view usage =
+    "coinlet-play --folder APPFOLDER [--out OUTFOLDER] SCRIPT...\n"
+    "  APPFOLDER  the application folder to run in; scripts change it, so hand in a copy\n"
+    "  OUTFOLDER  takes what the scripts save; without it that is thrown away\n";
+
+/// The options that the words behind the program's name mean; nothing if they make no sense.
+std::optional<Options> ReadCommandLine(const std::vector<std::string>& words);
+
+}  // namespace coinlet::player

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "player/answers.h"
+#include "player/desk.h"
+#include "player/places.h"
+#include "player/player_platform.h"
+#include "player/printer_record.h"
+#include "player/program.h"
+#include "player/virtual_clock.h"
+
+#include <vector>
+
+namespace coinlet::player {
+
+/// What the player is made with, once for all scripts.
+struct Libraries {
+    const FontEngine& fonts;
+    const PictureCodecs& codecs;
+    ProgramMaker makeProgram;
+};
+
+/// The world around the program, as one script finds and changes it. It outlives the program when that is
+/// started again.
+struct World {
+    Places places;
+    VirtualClock clock;
+    OwnClipboard clipboard;
+    Answers answers;
+    ScreenState screen;  ///< What the next start finds.
+};
+
+/// One life of the program, from its start to its end, with all that it leaves behind for the script to ask
+/// about.
+struct Life {
+    Life(ScriptReader& reader, World& world, const Libraries& libraries)
+        : desktop(world.places),
+          platform(reader, world.clock, world.answers),
+          services{world.places.Application(),
+                   platform,
+                   libraries.fonts,
+                   libraries.codecs,
+                   world.clock,
+                   desktop,
+                   world.clipboard,
+                   printer,
+                   grab} {
+        platform.Screen = world.screen;
+        program = libraries.makeProgram(services);
+    }
+
+    RecordingDesktop desktop;
+    PrinterRecord printer;
+    PlayerPlatform platform;
+    PictureGrab grab{platform.pointer};
+    Services services;
+    /// The control on which a button of the pointer went down and hasn't gone up.
+    const Control* draggedFrom = nullptr;
+    std::unique_ptr<Program> program;
+};
+
+}  // namespace coinlet::player

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controls/platform.h"
+#include "player/answers.h"
+#include "player/pointer_place.h"
+#include "player/record.h"
+#include "player/virtual_clock.h"
+
+namespace coinlet::player {
+
+/// Who reads the script: the platform asks it to go on wherever a user would act.
+class ScriptReader {
+public:
+    virtual ~ScriptReader() = default;
+    /// Does the next line. At the end of the script it throws and so ends whatever is still open.
+    virtual void RunNextLine() = 0;
+    /// Does what is to happen while the program serves events.
+    virtual void ServeInterrupts() = 0;
+};
+
+/// A message box, question or input box that was shown.
+struct ShownMessage {
+    std::string prompt;
+    std::string title;
+};
+
+/// The platform without windows. While a dialog is open the script goes on with its next lines; boxes take
+/// the queued answers.
+class PlayerPlatform : public Platform {
+public:
+    PlayerPlatform(ScriptReader& reader, VirtualClock& clock, Answers& answers)
+        : reader_(reader), clock_(clock), answers_(answers) {}
+
+    void PopupMenu(MenuItem& menu) override;
+    bool IsPointerOver(const Control& control) const override { return pointer.IsOver(control); }
+
+    PointerPlace pointer{*this};
+    Record<ShownMessage> messages;
+    /// The menu last popped up, as in an address; empty before the first.
+    const std::string& Popup() const { return popup_; }
+
+protected:
+    void RunModal(Form& dialog) override;
+    void FormLoaded(Form&) override {}
+    void FormUnloaded(Form&) override {}
+    void ServeEvents() override { reader_.ServeInterrupts(); }
+    void ServeEventsFor(double seconds) override;
+    Answer AskMessage(const Message& message) override;
+    std::string AskText(const std::string& prompt, const std::string& title,
+                        const std::string& standard) override;
+    std::string AskFolder(const std::string& title) override;
+    void ProgramEnding() override {}
+
+private:
+    ScriptReader& reader_;
+    VirtualClock& clock_;
+    Answers& answers_;
+    std::string popup_;
+};
+
+}  // namespace coinlet::player

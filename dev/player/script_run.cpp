@@ -1,0 +1,113 @@
+#include "player/script_run.h"
+
+#include "controls/control.h"
+#include "player/failure.h"
+
+#include <algorithm>
+#include <exception>
+#include <ostream>
+
+namespace coinlet::player {
+
+ScriptRun::ScriptRun(const Script& script, const Places& places, const Libraries& libraries,
+                     std::ostream& out)
+    : script_(script), libraries_(libraries), out_(out), world_{places, {}, {}, {}, {}} {}
+
+bool ScriptRun::Play() {
+    do {
+        const bool again = stop_ == Stop::Restart;
+        stop_.reset();
+        try {
+            if (again) Guard([this] { StartProgram(); });
+            while (true)
+                RunNextLine();
+        } catch (const Unwinding&) {  // stop_ says why
+        }
+        if (life_) {
+            world_.screen = life_->platform.Screen;
+            world_.screen.MousePointer = defaultPointer;
+            life_.reset();
+        }
+        interrupts_.clear();
+    } while (stop_ == Stop::Restart);
+    return stop_ == Stop::ScriptEnded;
+}
+
+void ScriptRun::RunNextLine() {
+    if (stop_) throw Unwinding{};
+    std::vector<Word> words;
+    Guard([&] {
+        while (words.empty()) {
+            if (next_ == script_.lines.size()) Unwind(Stop::ScriptEnded);
+            line_ = script_.lines[next_].number;
+            words = SplitWords(script_.lines[next_].text);
+            if (words.empty()) ++next_;
+        }
+        const Call call = ParseCall(words);
+        if (!life_ && NeedsOf(call) != Needs::NoProgram) {
+            StartProgram();  // the line itself is the next one still
+            return;
+        }
+        ++next_;
+        Perform(call);
+    });
+}
+
+void ScriptRun::ServeInterrupts() {
+    if (stop_) throw Unwinding{};
+    for (PendingInterrupt& interrupt : interrupts_)
+        --interrupt.count;
+    const auto due = std::ranges::stable_partition(
+        interrupts_, [](const PendingInterrupt& interrupt) { return interrupt.count > 0; });
+    const std::vector<PendingInterrupt> calls(due.begin(), due.end());
+    interrupts_.erase(due.begin(), due.end());
+    const int line = line_;
+    for (const PendingInterrupt& interrupt : calls) {
+        line_ = interrupt.line;
+        Guard([&] { Perform(interrupt.call); });
+    }
+    line_ = line;
+}
+
+void ScriptRun::StartProgram() {
+    life_.emplace(static_cast<ScriptReader&>(*this), world_, libraries_);
+    life_->program->Start();
+}
+
+void ScriptRun::Perform(const Call& call) {
+    if (NeedsOf(call) == Needs::RunningProgram && life_->platform.Ended())
+        Fail("expected a running program for " + std::string(call.command->name) + ", found it ended");
+    call.command->run(*this, call.GetArguments());
+}
+
+void ScriptRun::Guard(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const ProgramEnded&) {  // where events enter the program; the platform knows that it has ended
+    } catch (const ScriptFailure& failure) {
+        ReportFailure(failure.reason);
+        Unwind(Stop::Failed);
+    } catch (const std::exception& fault) {
+        ReportFailure(std::string("the program threw ") + fault.what());
+        Unwind(Stop::Failed);
+    }
+}
+
+void ScriptRun::ReportFailure(const std::string& reason) {
+    out_ << script_.name << ':' << line_ << ": " << reason << '\n';
+}
+
+void ScriptRun::Interrupt(int count, Call call) {
+    interrupts_.push_back({count, line_, std::move(call)});
+}
+
+void ScriptRun::Restart() {
+    Unwind(Stop::Restart);
+}
+
+void ScriptRun::Unwind(Stop stop) {
+    stop_ = stop;
+    throw Unwinding{};
+}
+
+}  // namespace coinlet::player

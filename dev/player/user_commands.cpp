@@ -1,0 +1,240 @@
+// What a user does with pointer and keys. All of it fails on what a user couldn't get at.
+
+#include "base/text.h"
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/menu.h"
+#include "controls/text_box.h"
+#include "player/commands.h"
+#include "player/failure.h"
+#include "player/keys.h"
+#include "player/lookup.h"
+#include "player/reach.h"
+#include "player/script_run.h"
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet::player {
+
+namespace {
+
+constexpr int noButton = 0;
+constexpr int leftButton = 1;
+constexpr int noShift = 0;
+
+// --- Pointer ----------------------------------------------------------------------------------------------
+
+Control& ReachControl(Life& life, const Address& address) {
+    Control& control = FindControl(life, address);
+    RequireReach(life, control);
+    return control;
+}
+
+void Click(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    const Address address = arguments.Address(0);
+    if (auto* const entry = dynamic_cast<MenuItem*>(&FindElement(life, address))) {
+        RequireChoice(life, *entry);
+        entry->Click();
+        return;
+    }
+    Control& control = ReachControl(life, address);
+    life.platform.pointer.PutInMiddleOf(control);
+    // A button looks different under the pointer, and goes on watching it.
+    if (control.Kind() == ControlKind::Button) {
+        control.PointerMoved(noButton, noShift, static_cast<float>(life.platform.pointer.PixelX()),
+                             static_cast<float>(life.platform.pointer.PixelY()));
+    }
+    control.PointerClicked();
+}
+
+int ReadButton(const Arguments& arguments) {
+    const int button = arguments.Whole(1);
+    if (button < 0 || button > 2)
+        Fail("expected button 0 (none), 1 (left) or 2 (right), found " + std::to_string(button));
+    return button;
+}
+
+/// A step of a gesture: the control, and the place to which the pointer is put.
+struct PointerStep {
+    Control& control;
+    int button;
+    float x, y;
+};
+
+/// Reads "ADDR BUTTON X Y". While a button is held down on the control the pointer may leave it.
+PointerStep ReadPointerStep(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    Control& control = ReachControl(life, arguments.Address(0));
+    const double x = arguments.Number(2), y = arguments.Number(3);
+    if (life.draggedFrom != &control) RequireInside(control, x, y);
+    const int button = ReadButton(arguments);
+    life.platform.pointer.PutOn(control, x, y);
+    return {control, button, static_cast<float>(x), static_cast<float>(y)};
+}
+
+void Press(ScriptRun& run, const Arguments& arguments) {
+    const PointerStep step = ReadPointerStep(run, arguments);
+    run.TheLife().draggedFrom = &step.control;
+    step.control.PointerPressed(step.button, noShift, step.x, step.y);
+}
+
+void Move(ScriptRun& run, const Arguments& arguments) {
+    const PointerStep step = ReadPointerStep(run, arguments);
+    step.control.PointerMoved(step.button, noShift, step.x, step.y);
+}
+
+void Release(ScriptRun& run, const Arguments& arguments) {
+    const PointerStep step = ReadPointerStep(run, arguments);
+    run.TheLife().draggedFrom = nullptr;
+    step.control.PointerReleased(step.button, noShift, step.x, step.y);
+}
+
+void Drag(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    Control& control = ReachControl(life, arguments.Address(0));
+    const double x1 = arguments.Number(1), y1 = arguments.Number(2);
+    const double x2 = arguments.Number(3), y2 = arguments.Number(4);
+    RequireInside(control, x1, y1);
+    const auto endX = static_cast<float>(x2), endY = static_cast<float>(y2);
+    life.platform.pointer.PutOn(control, x1, y1);
+    control.PointerPressed(leftButton, noShift, static_cast<float>(x1), static_cast<float>(y1));
+    life.platform.pointer.PutOn(control, x2, y2);
+    control.PointerMoved(leftButton, noShift, endX, endY);
+    control.PointerReleased(leftButton, noShift, endX, endY);
+}
+
+void PutPointer(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    if (arguments.Text(0) == "away") {
+        if (arguments.Count() != 1) Fail("pointer away takes no place");
+        life.platform.pointer.PutAway();
+        return;
+    }
+    if (arguments.Count() != 3) Fail("pointer takes ADDR X Y, or away");
+    const Control& control = FindControl(life, arguments.Address(0));
+    life.platform.pointer.PutOn(control, arguments.Number(1), arguments.Number(2));
+}
+
+// --- Keys -------------------------------------------------------------------------------------------------
+
+/// Whom a key goes to: a control, or the form's control with the focus.
+struct KeyTarget {
+    Form& form;
+    Control* control;
+    int code;
+
+    /// What a key did may have closed the form; the rest of the keystroke is lost then.
+    bool IsThere(const Life& life) const { return life.platform.FrontForm() == &form; }
+};
+
+KeyTarget ReadKeyTarget(Life& life, const Arguments& arguments) {
+    const Address address = arguments.Address(0);
+    const int code = arguments.Whole(1);
+    const Target target = FindTarget(life, address);
+    RequireFront(life, *target.form);
+    if (!target.element) return {*target.form, nullptr, code};
+    return {*target.form, &ReachControl(life, address), code};
+}
+
+void SendKeyDown(const Life& life, const KeyTarget& key) {
+    key.form.KeyDown(key.control, key.code, noShift);
+    const auto character = CharacterOfKey(key.code);
+    if (character && key.IsThere(life)) key.form.KeyTyped(key.control, *character);
+}
+
+void KeyDown(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    SendKeyDown(life, ReadKeyTarget(life, arguments));
+}
+
+void KeyUp(ScriptRun& run, const Arguments& arguments) {
+    const KeyTarget key = ReadKeyTarget(run.TheLife(), arguments);
+    key.form.KeyUp(key.control, key.code, noShift);
+}
+
+void Key(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    const KeyTarget key = ReadKeyTarget(life, arguments);
+    SendKeyDown(life, key);
+    if (key.IsThere(life)) key.form.KeyUp(key.control, key.code, noShift);
+}
+
+/// Types each character of a text into a box, which has the focus meanwhile.
+template <class Box>
+void TypeInto(Box& box, const std::string& text) {
+    box.SetFocus();
+    for (const std::string& character : Characters(text)) {
+        box.OwnerForm().KeyTyped(&box, CodeOfCharacter(character));
+        box.UserTypes(character);
+    }
+}
+
+void Type(ScriptRun& run, const Arguments& arguments) {
+    Control& control = ReachControl(run.TheLife(), arguments.Address(0));
+    const std::string text = arguments.Text(1);
+    if (auto* const box = dynamic_cast<TextBox*>(&control))
+        TypeInto(*box, text);
+    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+        TypeInto(*combo, text);
+    else
+        Fail(arguments.Text(0) + " takes no text");
+}
+
+void Focus(ScriptRun& run, const Arguments& arguments) {
+    Control& control = ReachControl(run.TheLife(), arguments.Address(0));
+    if (!control.CanFocus()) Fail(arguments.Text(0) + " takes no focus");
+    control.SetFocus();
+}
+
+// --- Lists and windows ------------------------------------------------------------------------------------
+
+template <class List>
+void PickRow(List& list, int row) {
+    if (!list.Rows().Contains(row))
+        Fail("expected a row below " + std::to_string(list.ListCount()) + ", found " + std::to_string(row));
+    list.SetFocus();
+    list.UserPicks(row);
+}
+
+void Pick(ScriptRun& run, const Arguments& arguments) {
+    Control& control = ReachControl(run.TheLife(), arguments.Address(0));
+    const int row = arguments.Whole(1);
+    if (auto* const list = dynamic_cast<ListBox*>(&control))
+        PickRow(*list, row);
+    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+        PickRow(*combo, row);
+    else
+        Fail(arguments.Text(0) + " has no rows");
+}
+
+void Close(ScriptRun& run, const Arguments& arguments) {
+    Form& form = FindForm(run.TheLife(), arguments.Text(0));
+    RequireFront(run.TheLife(), form);
+    form.Unload();
+}
+
+constexpr Command commands[] = {
+    {"click", "ADDR", Needs::RunningProgram, Click},
+    {"press", "ADDR BUTTON X Y", Needs::RunningProgram, Press},
+    {"move", "ADDR BUTTON X Y", Needs::RunningProgram, Move},
+    {"release", "ADDR BUTTON X Y", Needs::RunningProgram, Release},
+    {"drag", "ADDR X1 Y1 X2 Y2", Needs::RunningProgram, Drag},
+    {"pointer", "ADDR [X] [Y]", Needs::RunningProgram, PutPointer},
+    {"key", "ADDR CODE", Needs::RunningProgram, Key},
+    {"keydown", "ADDR CODE", Needs::RunningProgram, KeyDown},
+    {"keyup", "ADDR CODE", Needs::RunningProgram, KeyUp},
+    {"type", "ADDR TEXT", Needs::RunningProgram, Type},
+    {"focus", "ADDR", Needs::RunningProgram, Focus},
+    {"pick", "ADDR ROW", Needs::RunningProgram, Pick},
+    {"close", "FORM", Needs::RunningProgram, Close},
+};
+
+}  // namespace
+
+std::span<const Command> UserCommands() {
+    return commands;
+}
+
+}  // namespace coinlet::player
