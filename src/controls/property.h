@@ -16,8 +16,12 @@
 
 namespace coinlet {
 
+// The compiler takes a scoped name for one that hides the type of that name.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow"
 /// What a property's text form looks like.
 enum class PropertyKind { Flag, Number, Colour, Text };
+#pragma GCC diagnostic pop
 
 using PropertyValue = std::variant<bool, double, std::string>;
 

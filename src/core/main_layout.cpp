@@ -1,6 +1,7 @@
 #include "core/main_layout.h"
 
 #include "core/main_form.h"
+#include "core/stock_pictures.h"
 
 #include <array>
 #include <string_view>
@@ -133,6 +134,7 @@ void LayOutCanvas(MainForm& main) {
 
 struct ToolButton {
     std::string_view caption, toolTip;
+    float points = 7.5F;
 };
 constexpr std::array<ToolButton, 16> toolButtons{{
     {"Draw", " Draw freehand "},
@@ -142,7 +144,8 @@ constexpr std::array<ToolButton, 16> toolButtons{{
     {"Arc / Pie", " Draw arc, pie, curved lines, etc. "},
     {"Fill", " Fill areas "},
     {"Erase", " Erase in back and fillcolor "},
-    {"Curved Text", " Draw curves text "},
+    // The longest caption: a button shows one line beside its icon, and at 7.5 points this one would wrap.
+    {"Curved Text", " Draw curves text ", 6.75F},
     {"Text", " Draw hor. and vert. text "},
     {"Get PMS", " Get Pms-color "},
     {"Remove", " Remove colors "},
@@ -153,6 +156,9 @@ constexpr std::array<ToolButton, 16> toolButtons{{
     {"About", " About Coinlet Design "},
 }};
 constexpr int buttonsInAColumn = 7;
+/// Twips. The right one has the long captions.
+constexpr std::array<double, 2> columnWidths{1050, 1170};
+constexpr int toolIconFrames = 3;
 
 struct Slider {
     ScrollBar MainForm::*bar;
@@ -187,21 +193,24 @@ void LayOutTools(MainForm& main) {
         const bool apart = i >= 2 * buttonsInAColumn;
         const int column = apart ? i - 2 * buttonsInAColumn : i / buttonsInAColumn;
         const int row = i % buttonsInAColumn;
-        button.Move(150 + column * 1080, apart ? 3600 : 240 + row * 450, 1050, 420);
+        button.Move(150 + column * 1080, apart ? 3600 : 240 + row * 450,
+                    columnWidths[static_cast<std::size_t>(column)], 420);
         button.SetCaption(std::string(told.caption));
         button.ToolTipText = told.toolTip;
         FontProperties font;
-        font.FontSize = 7.5F;
+        font.FontSize = told.points;
         button.SetFont(font);
+        button.LoadPictures(toolIconFrames);
+        button.SetPicture(ToolIconStrip(i));
     }
 
     main.Label6.Caption = "Fillcolor";
-    Place(main.Label6, 10, 276, 146, 14);
+    Place(main.Label6, 10, 276, 150, 14);
     main.ColorLabel.Transparent = false;
     main.ColorLabel.Border = true;
     main.ColorLabel.BackColor = RGB(255, 252, 13);
     main.ColorLabel.ToolTipText = " Click to change Colors ";
-    Place(main.ColorLabel, 10, 292, 146, 24);
+    Place(main.ColorLabel, 10, 292, 150, 24);
 
     for (const Slider& slider : sliders) {
         ScrollBar& bar = main.*slider.bar;

@@ -1,5 +1,4 @@
 #include "controls/vista_button.h"
-
 #include "shell/control_view.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_image.h"

@@ -24,7 +24,8 @@ constexpr int captionLeft = markSize + 5;
 void PaintTick(QPainter& painter, const QRectF& box) {
     painter.setPen(QPen(painter.pen().color(), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF corner = box.topLeft();
-    painter.drawPolyline(QPolygonF{corner + QPointF(3, 6.5), corner + QPointF(5.5, 9), corner + QPointF(10, 3.5)});
+    painter.drawPolyline(
+        QPolygonF{corner + QPointF(3, 6.5), corner + QPointF(5.5, 9), corner + QPointF(10, 3.5)});
 }
 
 void PaintDot(QPainter& painter, const QRectF& box) {
@@ -107,12 +108,13 @@ private:
 }  // namespace
 
 ControlView* MakeCheckBoxView(Control& control, QWidget& parent, EventGate& gate) {
-    return new ChoiceView<CheckBox>(static_cast<CheckBox&>(control), *new PaintedWidget(&parent), gate, false);
+    return new ChoiceView<CheckBox>(static_cast<CheckBox&>(control), *new PaintedWidget(&parent), gate,
+                                    false);
 }
 
 ControlView* MakeOptionButtonView(Control& control, QWidget& parent, EventGate& gate) {
-    return new ChoiceView<OptionButton>(static_cast<OptionButton&>(control), *new PaintedWidget(&parent), gate,
-                                        true);
+    return new ChoiceView<OptionButton>(static_cast<OptionButton&>(control), *new PaintedWidget(&parent),
+                                        gate, true);
 }
 
 }  // namespace coinlet

@@ -1,5 +1,4 @@
 #include "controls/combo_box.h"
-
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
@@ -25,7 +24,9 @@ namespace {
 class ComboBoxView : public ViewOf<ComboBox> {
 public:
     ComboBoxView(ComboBox& combo, QComboBox& widget, EventGate& gate)
-        : ViewOf(combo, widget, gate, Handling::WidgetToo, Handling::WidgetToo), combo_(widget) {
+        : ViewOf(combo, widget, gate, Handling::WidgetToo, Handling::WidgetToo),
+          combo_(widget),
+          rows_(*new RowModel(&widget)) {
         constexpr int rowsAtOnce = 16;
         widget.setEditable(true);
         widget.setCompleter(nullptr);
@@ -39,7 +40,6 @@ public:
         connect(&widget, &QComboBox::activated, this, [this](int index) { Pick(index); });
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Edit(text); });
     }
-    ~ComboBoxView() override { combo_.disconnect(this); }
 
     void Detach() override {
         rows_.Clear();
@@ -85,7 +85,7 @@ private:
     }
 
     QComboBox& combo_;
-    RowModel rows_;
+    RowModel& rows_;
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;
     int chosen_ = -1;

@@ -154,7 +154,8 @@ bool ControlView::HandlePointer(QObject* watched, const QMouseEvent& event) {
 
 bool ControlView::HandleKey(const QKeyEvent& event) {
     const bool usedUp = PressKey(control_->OwnerForm(), gate_, event);
-    return usedUp || keys_ == Handling::Program || !control_ || KeyCode(event.key()) == keyReturn;
+    const bool returnIsSpent = KeyCode(event.key()) == keyReturn && !EditsReturn();
+    return usedUp || returnIsSpent || keys_ == Handling::Program || !control_;
 }
 
 /// Keys that the control wants for itself are no shortcuts of a menu. A field tells that itself.

@@ -29,7 +29,8 @@ public:
 
     /// Makes the widget equal to the control.
     void Mirror();
-    /// The form is unloaded: the view lets go of the control, which still lives, and hides the widget for good.
+    /// The form is unloaded: the view lets go of the control, which still lives, and hides the widget for
+    /// good.
     virtual void Detach();
     /// The same after the control has ended; it isn't touched any more.
     void Abandon();
@@ -48,7 +49,11 @@ protected:
     virtual void MirrorContent() = 0;
     /// What an assistive tool reads out, if there is such a text on the control.
     virtual std::string_view CaptionText() const { return {}; }
+    /// False if the control has the size that it had when it was last asked; for sizes that take long to
+    /// tell.
     virtual bool SizeIsStale() { return true; }
+    /// True for a field in which the Enter key starts a new line.
+    virtual bool EditsReturn() const { return false; }
 
     /// A press of a button that the program alone handles.
     virtual void Press(int button, int shift, float x, float y, bool again);

@@ -168,6 +168,7 @@ void FormWindow::MirrorFocus() {
 }
 
 void FormWindow::Detach() {
+    hide();
     SyncElements();
     for (ControlView* view : views_)
         view->Detach();
@@ -176,7 +177,6 @@ void FormWindow::Detach() {
     menus_.Detach();
     timers_.Detach();
     form_ = nullptr;
-    hide();
     gate_.Retire(*this);
 }
 

@@ -1,5 +1,4 @@
 #include "controls/frame.h"
-
 #include "shell/control_view.h"
 #include "shell/look.h"
 #include "shell/outlines.h"

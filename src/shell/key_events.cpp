@@ -19,14 +19,12 @@ struct NamedKey {
 
 // By rising toolkit key.
 constexpr NamedKey namedKeys[] = {
-    {Qt::Key_Escape, keyEscape}, {Qt::Key_Tab, 9},         {Qt::Key_Backtab, 9},
-    {Qt::Key_Backspace, 8},      {Qt::Key_Return, 13},     {Qt::Key_Enter, 13},
-    {Qt::Key_Insert, 45},        {Qt::Key_Delete, 46},     {Qt::Key_Pause, 19},
-    {Qt::Key_Print, 44},         {Qt::Key_Home, keyHome},  {Qt::Key_End, keyEnd},
-    {Qt::Key_Left, keyLeft},     {Qt::Key_Up, keyUp},      {Qt::Key_Right, keyRight},
-    {Qt::Key_Down, keyDown},     {Qt::Key_PageUp, 33},     {Qt::Key_PageDown, 34},
-    {Qt::Key_Shift, 16},         {Qt::Key_Control, 17},    {Qt::Key_Alt, 18},
-    {Qt::Key_CapsLock, 20},
+    {Qt::Key_Escape, keyEscape}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},      {Qt::Key_Backspace, 8},
+    {Qt::Key_Return, 13},        {Qt::Key_Enter, 13},    {Qt::Key_Insert, 45},      {Qt::Key_Delete, 46},
+    {Qt::Key_Pause, 19},         {Qt::Key_Print, 44},    {Qt::Key_Home, keyHome},   {Qt::Key_End, keyEnd},
+    {Qt::Key_Left, keyLeft},     {Qt::Key_Up, keyUp},    {Qt::Key_Right, keyRight}, {Qt::Key_Down, keyDown},
+    {Qt::Key_PageUp, 33},        {Qt::Key_PageDown, 34}, {Qt::Key_Shift, 16},       {Qt::Key_Control, 17},
+    {Qt::Key_Alt, 18},           {Qt::Key_CapsLock, 20},
 };
 
 constexpr int firstFunctionCode = 112;
@@ -52,8 +50,7 @@ int ShiftState(Qt::KeyboardModifiers modifiers) {
 
 bool PressKey(Form& form, EventGate& gate, const QKeyEvent& event) {
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
-        const bool backward =
-            event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier);
+        const bool backward = event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier);
         gate.Enter([&] { form.MoveFocusByTab(backward); });
         return true;
     }
@@ -62,7 +59,8 @@ bool PressKey(Form& form, EventGate& gate, const QKeyEvent& event) {
     const QString text = event.text();
     gate.Enter([&] {
         if (code != 0) form.KeyDown(nullptr, code, shift);
-        if (form.Loaded() && !text.isEmpty()) form.KeyTyped(nullptr, static_cast<int>(text.toUcs4().constFirst()));
+        if (form.Loaded() && !text.isEmpty())
+            form.KeyTyped(nullptr, static_cast<int>(text.toUcs4().constFirst()));
     });
     return code == keyEscape || !form.Loaded();
 }

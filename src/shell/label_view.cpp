@@ -1,5 +1,4 @@
 #include "controls/label.h"
-
 #include "shell/control_view.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"

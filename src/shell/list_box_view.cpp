@@ -1,5 +1,4 @@
 #include "controls/list_box.h"
-
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/look.h"
@@ -15,7 +14,7 @@ namespace {
 class ListBoxView : public ViewOf<ListBox> {
 public:
     ListBoxView(ListBox& list, QListView& widget, EventGate& gate)
-        : ViewOf(list, widget, gate), list_(widget) {
+        : ViewOf(list, widget, gate), list_(widget), rows_(*new RowModel(&widget)) {
         widget.setModel(&rows_);
         widget.setUniformItemSizes(true);
         widget.setSelectionMode(QAbstractItemView::SingleSelection);
@@ -27,7 +26,6 @@ public:
         widget.setContextMenuPolicy(Qt::NoContextMenu);
         Watch(*widget.viewport());
     }
-    ~ListBoxView() override { list_.setModel(nullptr); }
 
     void Detach() override {
         rows_.Clear();
@@ -64,7 +62,7 @@ protected:
 
 private:
     QListView& list_;
-    RowModel rows_;
+    RowModel& rows_;
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;
     int chosen_ = -1;

@@ -1,6 +1,5 @@
 #include "shell/look.h"
 
-#include "controls/control.h"
 #include "shell/qt_text.h"
 
 #include <QApplication>
@@ -31,8 +30,9 @@ QPalette FormPalette() {
         palette.setColor(group, QPalette::ButtonText, letters);
         palette.setColor(group, QPalette::Base, ToQColor(fieldColour));
         palette.setColor(group, QPalette::AlternateBase, ToQColor(RGB(15, 15, 70)));
-        palette.setColor(group, QPalette::Text,
-                         group == QPalette::Disabled ? ToQColor(RGB(140, 140, 170)) : ToQColor(fieldTextColour));
+        palette.setColor(
+            group, QPalette::Text,
+            group == QPalette::Disabled ? ToQColor(RGB(140, 140, 170)) : ToQColor(fieldTextColour));
         palette.setColor(group, QPalette::BrightText, Qt::white);
         palette.setColor(group, QPalette::Highlight, ToQColor(highlightColour));
         palette.setColor(group, QPalette::HighlightedText, Qt::white);
@@ -68,7 +68,7 @@ QCursor MakePencil() {
     painter.setBrush(Qt::black);
     painter.drawPolygon(QPolygonF{{2.2, 19.2}, {3.8, 20.8}, {1, 22}});
     painter.end();
-    return {picture, 1, 22};
+    return QCursor(picture, 1, 22);
 }
 
 }  // namespace
@@ -77,6 +77,8 @@ QFont ToQFont(const FontProperties& font) {
     const double points = font.FontSize > 0 ? std::min(static_cast<double>(font.FontSize), 1000.0) : 8.25;
     QFont result(ToQString(font.FontName));
     result.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 96 / 72))));
+    // Whole-pixel advances, as the program measures its texts.
+    result.setHintingPreference(QFont::PreferFullHinting);
     result.setBold(font.FontBold);
     result.setItalic(font.FontItalic);
     result.setUnderline(font.FontUnderline);

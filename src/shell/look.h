@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/control.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 

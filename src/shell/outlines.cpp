@@ -13,7 +13,8 @@
 namespace coinlet {
 
 QRect Outlines::Look::Bounds() const {
-    const QRect bounds(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
+    const QRect bounds(QPoint(std::min(x1, x2), std::min(y1, y2)),
+                       QPoint(std::max(x1, x2), std::max(y1, y2)));
     return bounds.adjusted(-width, -width, width, width);
 }
 
@@ -25,9 +26,8 @@ void Outlines::Gather(const Container& container, QWidget& widget) {
                                         [child](const Item& item) { return item.control == child; });
         items.push_back({child, known == items_.end() ? Look{} : known->look});
     }
-    const bool same =
-        std::equal(items.begin(), items.end(), items_.begin(), items_.end(),
-                   [](const Item& a, const Item& b) { return a.control == b.control; });
+    const bool same = std::equal(items.begin(), items.end(), items_.begin(), items_.end(),
+                                 [](const Item& a, const Item& b) { return a.control == b.control; });
     if (!same) widget.update();
     items_ = std::move(items);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/container.h"
+#include "controls/control.h"
 #include "surface/colour.h"
 
 #include <QRect>
@@ -11,8 +11,6 @@ class QPainter;
 class QWidget;
 
 namespace coinlet {
-
-class Control;
 
 /// The shapes and lines of one container. They are no widgets: the container's widget paints them over what
 /// it shows itself, and where one moves, repaints the places it leaves and comes to.

@@ -1,5 +1,4 @@
 #include "controls/picture_box.h"
-
 #include "shell/control_view.h"
 #include "shell/frame_pace.h"
 #include "shell/look.h"

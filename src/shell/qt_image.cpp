@@ -41,7 +41,8 @@ Image FromQImage(const QImage& picture) {
     Bitmap bitmap(opaque.width(), opaque.height());
     for (int y = 0; y < opaque.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(opaque.constScanLine(y));
-        std::transform(row, row + opaque.width(), bitmap.Row(y), [](QRgb pixel) { return pixel | spareByte; });
+        std::transform(row, row + opaque.width(), bitmap.Row(y),
+                       [](QRgb pixel) { return pixel | spareByte; });
     }
     return Image(std::move(bitmap));
 }

@@ -10,6 +10,7 @@
 #include <QEventLoop>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -50,10 +51,12 @@ void QtPlatform::Run(const std::function<void()>& start) {
     gate_.Enter(start);
     if (!Ended() && !windows_.empty()) QCoreApplication::exec();
     // Newest first: a dialog's window belongs to the one behind it.
-    while (!windows_.empty()) {
-        windows_.back()->Detach();
-        windows_.pop_back();
-    }
+    gate_.Quietly([this] {
+        while (!windows_.empty()) {
+            windows_.back()->Detach();
+            windows_.pop_back();
+        }
+    });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -123,8 +126,10 @@ void QtPlatform::ServeEvents() {
     if (pace_.Due()) {
         gate_.Mirror();
     } else {
-        for (FormWindow* window : windows_)
-            window->SyncElements();
+        gate_.Quietly([this] {
+            for (FormWindow* window : windows_)
+                window->SyncElements();
+        });
     }
     QCoreApplication::processEvents();
 }

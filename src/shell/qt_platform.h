@@ -72,9 +72,9 @@ private:
     FramePace pace_;
     bool hourglass_ = false;
 
-    int ownDialogs_ = 0;          ///< Message boxes, pickers and dialogs that are open.
+    int ownDialogs_ = 0;            ///< Message boxes, pickers and dialogs that are open.
     bool focusIsOnItsWay_ = false;  ///< One of them has closed, and the window before has no focus yet.
-    bool away_ = false;           ///< The user is in another program, and went there from the main window.
+    bool away_ = false;             ///< The user is in another program, and went there from the main window.
 };
 
 }  // namespace coinlet

@@ -1,5 +1,4 @@
 #include "controls/scroll_bar.h"
-
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/views.h"
@@ -26,8 +25,9 @@ public:
 protected:
     void MirrorContent() override {
         const ScrollBar& bar = model();
-        const State state{bar.Min(),         bar.Max(),         bar.Value(), std::max(1, bar.SmallChange),
-                          std::max(1, bar.LargeChange), bar.Reversed()};
+        const State state{
+            bar.Min(),     bar.Max(), bar.Value(), std::max(1, bar.SmallChange), std::max(1, bar.LargeChange),
+            bar.Reversed()};
         if (!Differs(state_, state)) return;
         const QSignalBlocker silent(bar_);
         // An inert bar has nowhere to go.

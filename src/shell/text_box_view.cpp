@@ -1,6 +1,5 @@
-#include "controls/text_box.h"
-
 #include "controls/form.h"
+#include "controls/text_box.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/look.h"
@@ -59,7 +58,8 @@ private:
 
 class LineView : public TextBoxView {
 public:
-    LineView(TextBox& box, QLineEdit& widget, EventGate& gate) : TextBoxView(box, widget, gate), line_(widget) {
+    LineView(TextBox& box, QLineEdit& widget, EventGate& gate)
+        : TextBoxView(box, widget, gate), line_(widget) {
         connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
@@ -80,7 +80,8 @@ public:
     LinesView(TextBox& box, QPlainTextEdit& widget, EventGate& gate)
         : TextBoxView(box, widget, gate), lines_(widget) {
         widget.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        widget.setVerticalScrollBarPolicy(box.VerticalScroll ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+        widget.setVerticalScrollBarPolicy(box.VerticalScroll ? Qt::ScrollBarAlwaysOn
+                                                             : Qt::ScrollBarAlwaysOff);
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         Watch(*widget.viewport());
@@ -96,6 +97,7 @@ protected:
         lines_.setTextCursor(place);
     }
     void ShowLocked(bool locked) override { lines_.setReadOnly(locked); }
+    bool EditsReturn() const override { return true; }
 
 private:
     QPlainTextEdit& lines_;

@@ -31,13 +31,17 @@ TimerView::~TimerView() = default;
 
 void TimerView::Mirror() {
     const auto& timers = form_->Timers();
-    const auto same = [](const std::unique_ptr<Clock>& clock, const Timer* timer) { return clock->timer == timer; };
+    const auto same = [](const std::unique_ptr<Clock>& clock, const Timer* timer) {
+        return clock->timer == timer;
+    };
     if (!std::equal(clocks_.begin(), clocks_.end(), timers.begin(), timers.end(), same)) {
         std::vector<std::unique_ptr<Clock>> clocks;
         for (Timer* timer : timers) {
-            const auto known = std::find_if(clocks_.begin(), clocks_.end(),
-                                            [&](const auto& clock) { return clock && clock->timer == timer; });
-            clocks.push_back(known == clocks_.end() ? std::make_unique<Clock>(timer, gate_) : std::move(*known));
+            const auto known = std::find_if(clocks_.begin(), clocks_.end(), [&](const auto& clock) {
+                return clock && clock->timer == timer;
+            });
+            clocks.push_back(known == clocks_.end() ? std::make_unique<Clock>(timer, gate_)
+                                                    : std::move(*known));
             if (known != clocks_.end()) continue;
             const Clock* made = clocks.back().get();
             made->ticker->setTimerType(Qt::PreciseTimer);

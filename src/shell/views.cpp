@@ -15,11 +15,11 @@ struct Maker {
 };
 
 constexpr Maker makers[] = {
-    {ControlKind::Label, MakeLabelView},           {ControlKind::TextBox, MakeTextBoxView},
-    {ControlKind::CheckBox, MakeCheckBoxView},     {ControlKind::OptionButton, MakeOptionButtonView},
-    {ControlKind::ScrollBar, MakeScrollBarView},   {ControlKind::ListBox, MakeListBoxView},
-    {ControlKind::ComboBox, MakeComboBoxView},     {ControlKind::PictureBox, MakePictureBoxView},
-    {ControlKind::Frame, MakeFrameView},           {ControlKind::Button, MakeButtonView},
+    {ControlKind::Label, MakeLabelView},         {ControlKind::TextBox, MakeTextBoxView},
+    {ControlKind::CheckBox, MakeCheckBoxView},   {ControlKind::OptionButton, MakeOptionButtonView},
+    {ControlKind::ScrollBar, MakeScrollBarView}, {ControlKind::ListBox, MakeListBoxView},
+    {ControlKind::ComboBox, MakeComboBoxView},   {ControlKind::PictureBox, MakePictureBoxView},
+    {ControlKind::Frame, MakeFrameView},         {ControlKind::Button, MakeButtonView},
 };
 
 }  // namespace

@@ -1,0 +1,112 @@
+#!/usr/bin/python3
+"""Renders the drawings in this folder into the pictures that the program carries.
+
+    assets/make_pictures.py
+
+Needs Pillow (python3-pil) and rsvg-convert (librsvg2-bin). Run it after any change of a drawing and commit what
+it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
+same bytes.
+"""
+
+import io
+import pathlib
+import subprocess
+
+from PIL import Image
+
+ASSETS = pathlib.Path(__file__).resolve().parent
+SOURCE = ASSETS.parent / "src"
+CORE_STOCK = SOURCE / "core" / "stock"
+SHELL_STOCK = SOURCE / "shell" / "stock"
+
+# In the order of the tool buttons.
+TOOLS = [
+    "draw", "line", "shapes", "polygon", "arc_pie", "fill", "erase", "curved_text",
+    "text", "get_pms", "remove", "replace", "copy", "flip_image", "holes", "about",
+]
+ICON_SIDE = 14
+START_PICTURE_SIDE = 175
+
+# What a button leaves out of its picture, and from which coverage on (of 255) a pixel is ink: fainter ones
+# would stand as a speckle around the drawing.
+MASK = (0, 255, 0)
+FAINTEST = 16
+
+# A strip has no half-transparent pixels, so edges are blended into the middle of the body that the button has
+# in that state.
+BODY_NORMAL = (228, 228, 228)
+BODY_DISABLED = (244, 244, 244)
+BODY_PRESSED = (165, 211, 236)
+
+
+def render(drawing, side):
+    """A drawing of the given side in pixels, with its coverage (RGBA)."""
+    command = ["rsvg-convert", "--width", str(side), "--height", str(side), str(ASSETS / drawing)]
+    png = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
+    picture = Image.open(io.BytesIO(png)).convert("RGBA")
+    if picture.size != (side, side):
+        raise SystemExit(f"{drawing}: {picture.size} instead of {side} by {side}")
+    return picture
+
+
+def same(colour):
+    return colour
+
+
+def pale(colour):
+    """Grey between the disabled caption's and the disabled body's, so that the drawing steps back with both."""
+    red, green, blue = colour
+    light = (299 * red + 587 * green + 114 * blue) / 1000 / 255
+    return (round(158 + 88 * light),) * 3
+
+
+def deep(colour):
+    """In the shade of the finger."""
+    return tuple(round(channel * 0.88) for channel in colour)
+
+
+def frame(icon, tint, body):
+    """An icon as one opaque frame of a strip."""
+    result = Image.new("RGB", icon.size, MASK)
+    for y in range(icon.height):
+        for x in range(icon.width):
+            *colour, coverage = icon.getpixel((x, y))
+            if coverage < FAINTEST:
+                continue
+            ink = tint(tuple(colour))
+            blend = tuple((a * coverage + b * (255 - coverage) + 127) // 255 for a, b in zip(ink, body))
+            result.putpixel((x, y), blend)
+    return result
+
+
+def tool_icons():
+    """All strips below each other; a strip is the normal, the disabled and the pressed frame side by side."""
+    sheet = Image.new("RGB", (3 * ICON_SIDE, len(TOOLS) * ICON_SIDE), MASK)
+    for row, tool in enumerate(TOOLS):
+        icon = render(f"icons/{tool}.svg", ICON_SIDE)
+        frames = [frame(icon, same, BODY_NORMAL), frame(icon, pale, BODY_DISABLED), frame(icon, deep, BODY_PRESSED)]
+        for column, picture in enumerate(frames):
+            sheet.paste(picture, (column * ICON_SIDE, row * ICON_SIDE))
+    return sheet
+
+
+def on_white(picture):
+    paper = Image.new("RGBA", picture.size, (255, 255, 255, 255))
+    return Image.alpha_composite(paper, picture).convert("RGB")
+
+
+def main():
+    CORE_STOCK.mkdir(parents=True, exist_ok=True)
+    SHELL_STOCK.mkdir(parents=True, exist_ok=True)
+    tool_icons().save(CORE_STOCK / "tool_icons.bmp")
+    on_white(render("start_picture.svg", START_PICTURE_SIDE)).save(CORE_STOCK / "start_picture.bmp")
+    # The smallest icon is a drawing of its own: fewer parts, each on whole pixels.
+    render("window_icon_16.svg", 16).save(SHELL_STOCK / "window_icon_16.png")
+    for side in (32, 48, 64):
+        render("window_icon.svg", side).save(SHELL_STOCK / f"window_icon_{side}.png")
+    render("tool_pointer.svg", 32).save(SHELL_STOCK / "tool_pointer.png")
+    render("tool_pointer.svg", 64).save(SHELL_STOCK / "tool_pointer@2x.png")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,80 @@
+// A picture under the pointer: what is drawn lands on the pixel that the user points at, at every scale.
+
+#include "sample_form.h"
+#include "user.h"
+
+namespace coinlet::test {
+namespace {
+
+class Canvas : public ShellTest {
+protected:
+    SampleForm form{services};
+};
+
+TEST_F(Canvas, StrokeLandsOnThePixelsPointedAt) {
+    Run(form, [&](User& user) {
+        user.MoveTo(user.PlaceOf(form.Pic, 20, 30));
+        user.Press();
+        EXPECT_TRUE(user.Sees([&] { return form.Count("PicDown") == 1; }));
+        user.MoveTo(user.PlaceOf(form.Pic, 20, 50));
+        user.MoveTo(user.PlaceOf(form.Pic, 60, 50));
+        user.Release();
+        EXPECT_TRUE(user.Sees([&] { return form.Count("PicUp") == 1; }));
+
+        // Down from (20, 30) to (20, 50), then right to (60, 50); nothing else.
+        for (int y = 0; y < 150; ++y) {
+            for (int x = 0; x < 140; ++x) {
+                const bool ink = (x == 20 && y >= 30 && y <= 50) || (y == 50 && x >= 20 && x <= 60);
+                ASSERT_EQ(form.Pic.surface.Point(x, y), ink ? black : white) << x << ", " << y;
+            }
+        }
+        // And the screen shows it.
+        user.MoveTo(user.PlaceOf(form.Pic, 100, 100));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 20, 40)), black);
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 60, 50)), black);
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 61, 50)), white);
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 21, 49)), white);
+    });
+}
+
+TEST_F(Canvas, PointerIsCountedInTheUnitsOfThePicture) {
+    float x = 0, y = 0;
+    form.Pic.surface.SetScaleMode(twipScale);
+    form.Pic.MouseDown = [&](int, int, float atX, float atY) { x = atX, y = atY; };
+    Run(form, [&](User& user) {
+        user.Click(form.Pic, 10, 12);
+        EXPECT_TRUE(user.Sees([&] { return x == 150.0F && y == 180.0F; }));
+    });
+}
+
+TEST_F(Canvas, IsShownWhileAHandlerStillDraws) {
+    bool seen = false;
+    form.OkKnop.Click = [&] {
+        form.Pic.surface.Line(0, 0, 199, 199, RGB(0, 200, 0), Box::Filled);
+        while (!seen)
+            platform.DoEvents();
+    };
+    Run(form, [&](User& user) {
+        user.Click(form.OkKnop, 40, 14);
+        const QPoint place = user.PlaceOf(form.Pic, 100, 100);
+        while (user.ColourAt(place) != RGB(0, 200, 0)) {
+        }
+        user.Has([&] { seen = true; });
+    });
+    EXPECT_TRUE(seen);
+}
+
+TEST_F(Canvas, ShowsAFixedBitmapFromItsCorner) {
+    form.Pic.FixedBitmap = true;
+    form.Pic.surface.PSet(0, 0, RGB(255, 0, 0));
+    form.Pic.SetWidth(100 * 15);
+    Run(form, [&](User& user) {
+        EXPECT_EQ(form.Pic.surface.PixelWidth(), 200);
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 0, 0)), RGB(255, 0, 0));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 99, 5)), white);
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 101, 5)), RGB(220, 220, 190));
+    });
+}
+
+}  // namespace
+}  // namespace coinlet::test

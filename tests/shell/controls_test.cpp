@@ -1,0 +1,287 @@
+// What each kind of control looks like in a window, and what the user does to it.
+
+#include "sample_form.h"
+#include "shell/form_window.h"
+#include "user.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+
+#include <map>
+#include <memory>
+
+namespace coinlet::test {
+namespace {
+
+class Controls : public ShellTest {
+protected:
+    SampleForm form{services};
+};
+
+TEST_F(Controls, StandWhereTheFormSays) {
+    const std::map<const Control*, QRect> places{
+        {&form.Label1, {16, 16, 120, 16}},
+        {&form.Label2, {16, 40, 160, 20}},
+        // 20 letters of 4 pixels, one line of 8: the blocks of the test's font at 8.25 points.
+        {&form.Label3, {16, 68, 80, 8}},
+        {&form.Text1, {16, 92, 160, 22}},
+        {&form.Text2, {16, 120, 160, 60}},
+        {&form.Check1, {16, 188, 160, 20}},
+        {&form.Frame1, {16, 216, 160, 72}},
+        {&form.Option1, {12, 20, 120, 20}},
+        {&form.Option2, {12, 44, 120, 20}},
+        {&form.HScroll1, {16, 296, 160, 17}},
+        {&form.VScroll1, {560, 16, 17, 160}},
+        {&form.List1, {192, 16, 120, 100}},
+        {&form.Combo1, {192, 124, 120, 22}},
+        {&form.Pic, {328, 16, 200, 200}},
+        {&form.PicKnop, {8, 168, 48, 24}},
+        {&form.OkKnop, {192, 352, 80, 28}},
+        {&form.GrayKnop, {288, 352, 80, 28}},
+    };
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            for (const auto& [control, place] : places) {
+                const ControlView* view = platform.WindowOf(form)->ViewOf(*control);
+                ASSERT_NE(view, nullptr) << control->Name();
+                EXPECT_EQ(view->Widget().geometry(), place) << control->Name();
+                EXPECT_TRUE(view->Widget().isVisible()) << control->Name();
+            }
+            EXPECT_EQ(&platform.WindowOf(form)->ViewOf(form.Option1)->Widget(),
+                      platform.WindowOf(form)->ViewOf(form.Frame1)->Widget().childAt(13, 21));
+        });
+        // On the screen itself: the form, a field, a shape on the picture, a line on the form.
+        const QPoint corner = user.PlaceOf(form.Label1, 0, 0);
+        EXPECT_TRUE(user.Sees([] { return true; }));
+        EXPECT_EQ(user.ColourAt(corner - QPoint(8, 8)), RGB(220, 220, 190));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.List1, 60, 95)), RGB(0, 0, 50));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 150, 25)), RGB(200, 0, 0));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 160, 25)), white);
+        EXPECT_EQ(user.ColourAt(corner + QPoint(100, 320)), RGB(0, 0, 255));
+    });
+}
+
+TEST_F(Controls, FollowTheFormAfterEachEvent) {
+    form.OkKnop.Click = [this] {
+        form.Label1.Caption = "Changed";
+        form.Label1.Move(32 * 15, 8 * 15, 60 * 15, 12 * 15);
+        form.Check1.Visible = false;
+        form.GrayKnop.SetEnabled(true);
+        form.Shape1.SetLeft(100);
+        form.Caption = "Another title";
+    };
+    Run(form, [&](User& user) {
+        user.Click(form.OkKnop, 40, 14);
+        EXPECT_TRUE(user.Sees([&] { return form.Label1.Caption == "Changed"; }));
+        user.Has([&] {
+            const FormWindow* window = platform.WindowOf(form);
+            EXPECT_EQ(window->ViewOf(form.Label1)->Widget().geometry(), QRect(32, 8, 60, 12));
+            EXPECT_EQ(window->ViewOf(form.Label1)->Widget().accessibleName(), "Changed");
+            EXPECT_FALSE(window->ViewOf(form.Check1)->Widget().isVisible());
+            EXPECT_TRUE(window->ViewOf(form.GrayKnop)->Widget().isEnabled());
+            EXPECT_EQ(window->windowTitle(), "Another title");
+        });
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 100, 25)), RGB(200, 0, 0));
+        EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 189, 25)), white);
+        user.Click(form.GrayKnop, 40, 14);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("GrayKnop") == 1; }));
+    });
+}
+
+TEST_F(Controls, ButtonHoversPressesAndClicks) {
+    Run(form, [&](User& user) {
+        user.MoveTo(user.PlaceOf(form.OkKnop, 40, 14));
+        EXPECT_TRUE(user.Sees([&] { return form.OkKnop.State() == ButtonState::Hover; }));
+        EXPECT_TRUE(user.Sees([&] { return platform.IsPointerOver(form.OkKnop); }));
+        user.Press();
+        EXPECT_TRUE(user.Sees([&] { return form.OkKnop.State() == ButtonState::Pressed; }));
+        user.Release();
+        EXPECT_TRUE(user.Sees([&] { return form.Count("OkKnop") == 1; }));
+        user.MoveTo(user.PlaceOf(form.OkKnop, 40, -20));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("MouseOut") == 1; }));
+        EXPECT_TRUE(user.Sees([&] { return !platform.IsPointerOver(form.OkKnop); }));
+    });
+}
+
+TEST_F(Controls, ButtonLetGoOutsideDoesNotClick) {
+    Run(form, [&](User& user) {
+        user.MoveTo(user.PlaceOf(form.OkKnop, 40, 14));
+        user.Press();
+        EXPECT_TRUE(user.Sees([&] { return form.OkKnop.State() == ButtonState::Pressed; }));
+        user.MoveTo(user.PlaceOf(form.OkKnop, 40, -20));
+        user.Release();
+        // A click on another control comes after anything that the release could have done.
+        user.Click(form.Check1, 5, 10);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Check1") == 1; }));
+        EXPECT_EQ(form.Count("OkKnop"), 0);
+    });
+}
+
+TEST_F(Controls, DisabledButtonPassesNothingOn) {
+    Run(form, [&](User& user) {
+        user.Click(form.GrayKnop, 40, 14);
+        user.Click(form.PicKnop, 20, 12);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("PicKnop") == 1; }));
+        EXPECT_EQ(form.Count("GrayKnop"), 0);
+        EXPECT_EQ(form.Count("PicDown"), 0);  // The button covers the picture.
+    });
+}
+
+TEST_F(Controls, SpaceBarPressesTheFocusedButton) {
+    Run(form, [&](User& user) {
+        user.Has([&] { form.OkKnop.SetFocus(), platform.Mirror(); });
+        user.Key("space");
+        EXPECT_TRUE(user.Sees([&] { return form.Count("OkKnop") == 1; }));
+    });
+}
+
+TEST_F(Controls, TabWalksThroughThemInTheirOrder) {
+    Run(form, [&](User& user) {
+        user.Click(form.Text1, 80, 11);
+        EXPECT_TRUE(user.Sees([&] { return form.Text1.HasFocus(); }));
+        user.Key("Tab");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.HasFocus(); }));
+        user.Key("Tab");
+        EXPECT_TRUE(user.Sees([&] { return form.Check1.HasFocus(); }));
+        user.Key("shift+Tab");
+        EXPECT_TRUE(user.Sees([&] {
+            const QWidget& widget = platform.WindowOf(form)->ViewOf(form.Text2)->Widget();
+            return form.Text2.HasFocus() && widget.hasFocus();
+        }));
+    });
+}
+
+TEST_F(Controls, TypingChangesTheTextLetterByLetter) {
+    Run(form, [&](User& user) {
+        user.Click(form.Text1, 150, 11);
+        user.Type("s!");
+        EXPECT_TRUE(user.Sees([&] { return form.Text1.Text() == "Coinlets!"; }));
+        user.Key("BackSpace");
+        EXPECT_TRUE(user.Sees([&] { return form.Text1.Text() == "Coinlets"; }));
+        const std::vector<std::string> changes{"Text1 Coinlets", "Text1 Coinlets!", "Text1 Coinlets"};
+        user.Has([&] { std::erase(form.log, "Activate"); });
+        EXPECT_EQ(form.log, changes);
+
+        user.Click(form.Text2, 60, 50);
+        user.Key("ctrl+End");
+        user.Key("Return");
+        user.Type("x");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.Text() == "First line\r\nSecond line\r\nx"; }));
+    });
+}
+
+TEST_F(Controls, LockedTextStaysAsItIs) {
+    form.Text1.Locked = true;
+    Run(form, [&](User& user) {
+        user.Click(form.Text1, 150, 11);
+        user.Type("s");
+        user.Click(form.Check1, 5, 10);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Check1") == 1; }));
+        EXPECT_EQ(form.Text1.Text(), "Coinlet");
+    });
+}
+
+TEST_F(Controls, ChoicesAreTickedByPointerAndKey) {
+    Run(form, [&](User& user) {
+        user.Click(form.Check1, 60, 10);
+        EXPECT_TRUE(user.Sees([&] { return form.Check1.Value(); }));
+        user.Key("space");
+        EXPECT_TRUE(user.Sees([&] { return !form.Check1.Value(); }));
+        user.Click(form.Option2, 6, 10);
+        EXPECT_TRUE(user.Sees([&] { return form.Option2.Value(); }));
+        EXPECT_FALSE(form.Option1.Value());
+        EXPECT_EQ(form.Count("Option2"), 1);
+    });
+}
+
+TEST_F(Controls, ListRowsArePickedAndOpened) {
+    Run(form, [&](User& user) {
+        const auto row = [&](int index) {
+            QPoint place;
+            user.Has([&] {
+                const auto& list = static_cast<const QAbstractItemView&>(
+                    platform.WindowOf(form)->ViewOf(form.List1)->Widget());
+                place = list.visualRect(list.model()->index(index, 0)).center() + list.viewport()->pos();
+            });
+            return user.PlaceOf(form.List1, place.x(), place.y());
+        };
+        user.Click(row(2));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("List1 Crown") == 1; }));
+        user.Key("Down");
+        EXPECT_TRUE(user.Sees([&] { return form.Count("List1 Deer") == 1; }));
+        user.DoubleClick(row(0));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("DblClick Anchor") == 1; }));
+        EXPECT_EQ(form.Count("List1 Anchor"), 1);
+    });
+}
+
+TEST_F(Controls, ComboRowsArePickedAndTextsTyped) {
+    Run(form, [&](User& user) {
+        user.Click(form.Combo1, 50, 11);
+        user.Key("Down");
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Combo1 Courier") == 1; }));
+        user.Key("End");
+        user.Type("s");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "Couriers"; }));
+        EXPECT_EQ(form.Combo1.ListIndex(), -1);
+        EXPECT_EQ(form.Count("Combo1Change Couriers"), 1);
+        // The list drops down; its last row is two below the first.
+        user.Click(form.Combo1, 112, 11);
+        EXPECT_TRUE(user.Sees([&] { return QApplication::activePopupWidget() != nullptr; }));
+        user.Key("End");
+        user.Key("Return");
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Combo1 Times") == 1; }));
+        EXPECT_EQ(form.Combo1.Text(), "Times");
+    });
+}
+
+TEST_F(Controls, ScrollBarsStepJumpAndDrag) {
+    Run(form, [&](User& user) {
+        user.Click(form.HScroll1, 155, 8);  // The arrow at the right end.
+        EXPECT_TRUE(user.Sees([&] { return form.HScroll1.Value() == 1; }));
+        user.Click(form.HScroll1, 120, 8);  // Beside the thumb.
+        EXPECT_TRUE(user.Sees([&] { return form.HScroll1.Value() == 11; }));
+        EXPECT_EQ(form.Count("Scroll"), 0);
+        user.Key("Left");
+        EXPECT_TRUE(user.Sees([&] { return form.HScroll1.Value() == 10; }));
+
+        user.Has([&] { form.HScroll1.SetValue(0), platform.Mirror(), form.log.clear(); });
+        user.MoveTo(user.PlaceOf(form.HScroll1, 22, 8));
+        user.Press();
+        user.MoveTo(user.PlaceOf(form.HScroll1, 60, 8));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Scroll") > 0; }));
+        EXPECT_TRUE(form.log.back() == "Scroll");  // Change follows when it is let go.
+        user.MoveTo(user.PlaceOf(form.HScroll1, 150, 8));
+        user.Release();
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Change 100") == 1; }));
+
+        // The reversed bar has its high end at the top.
+        user.Click(form.VScroll1, 8, 155);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("VChange 49") == 1; }));
+    });
+}
+
+TEST_F(Controls, ComeAndGoWhileTheFormIsOpen) {
+    std::unique_ptr<Label> extra;
+    form.OkKnop.Click = [&] {
+        if (extra) {
+            extra.reset();
+        } else {
+            extra = std::make_unique<Label>(form, "Extra");
+            extra->Move(400 * 15, 300 * 15, 50 * 15, 16 * 15);
+        }
+    };
+    Run(form, [&](User& user) {
+        const auto shown = [&] {
+            const auto* face = platform.WindowOf(form)->findChild<QWidget*>("Extra");
+            return face && face->isVisible();
+        };
+        user.Click(form.OkKnop, 40, 14);
+        EXPECT_TRUE(user.Sees(shown));
+        user.Click(form.OkKnop, 40, 14);
+        EXPECT_TRUE(user.Sees([&] { return !shown(); }));
+    });
+}
+
+}  // namespace
+}  // namespace coinlet::test

@@ -1,0 +1,24 @@
+// The tests need a screen; run_under_xvfb.sh gives them one. Called with --save-clipboard FILE the program is
+// somebody else instead, who takes the picture from the clipboard.
+
+#include "shell/look.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QImage>
+
+#include <clocale>
+#include <cstring>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
+    QApplication::setDesktopSettingsAware(false);
+    const QApplication application(argc, argv);
+    if (argc == 3 && std::strcmp(argv[1], "--save-clipboard") == 0)
+        return QGuiApplication::clipboard()->image().save(QString::fromLocal8Bit(argv[2]), "PNG") ? 0 : 1;
+    QApplication::setQuitOnLastWindowClosed(false);
+    coinlet::ApplyLook();
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,28 @@
+#!/bin/sh
+# run_under_xvfb.sh PROGRAM [ARGUMENT...]
+#
+# Runs a program on a screen of its own, which nobody sees and which ends with it. The server picks a free
+# display by itself, so any number of these may run at once.
+set -eu
+
+folder=$(mktemp -d)
+server=
+cleanup() {
+    [ -z "$server" ] || kill "$server" 2>/dev/null || true
+    [ -z "$server" ] || wait "$server" 2>/dev/null || true
+    rm -rf "$folder"
+}
+trap cleanup EXIT
+trap 'exit 129' HUP
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# The server writes its number when it is ready.
+mkfifo "$folder/display"
+Xvfb -displayfd 3 -screen 0 1400x1050x24 -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/log" &
+server=$!
+read -r display <"$folder/display" || { cat "$folder/log" >&2; exit 1; }
+
+# Nothing of the desktop that the tests are started on plays a part in them.
+unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE
+DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none XDG_RUNTIME_DIR="$folder" "$@"

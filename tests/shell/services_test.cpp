@@ -1,0 +1,157 @@
+// What else the shell does for the program: clipboard, printer, screen, desktop.
+
+#include "sample_form.h"
+#include "shell/qt_clipboard.h"
+#include "shell/qt_desktop.h"
+#include "shell/qt_printer.h"
+#include "shell/qt_screen_grab.h"
+#include "support/temporary_folder.h"
+#include "user.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QImage>
+#include <QProcess>
+
+#include <fstream>
+#include <iterator>
+
+namespace coinlet::test {
+namespace {
+
+/// Every pixel another colour: red counts columns, green counts rows.
+Image Ramp(int width, int height) {
+    Bitmap bitmap(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            bitmap.Row(y)[x] = ToPixel(RGB(x, y, 77));
+    return Image(std::move(bitmap));
+}
+
+class ShellServices : public ShellTest {
+protected:
+    SampleForm form{services};
+};
+
+TEST_F(ShellServices, ClipboardHandsThePictureToAnotherProgram) {
+    const TemporaryFolder folder;
+    const auto file = folder.Path() / "taken.png";
+    Run(form, [&](User& user) {
+        user.Has([] { QtClipboard().SetImage(Ramp(60, 40)); });
+        EXPECT_EQ(QProcess::execute(QCoreApplication::applicationFilePath(),
+                                    {"--save-clipboard", QString::fromStdString(file.string())}),
+                  0);
+        user.Has([] { EXPECT_EQ(QtClipboard().GetImage(), Ramp(60, 40)); });
+    });
+    const QImage taken(QString::fromStdString(file.string()));
+    ASSERT_EQ(taken.size(), QSize(60, 40));
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 60; ++x)
+            ASSERT_EQ(taken.pixel(x, y), qRgb(x, y, 77));
+}
+
+std::string Content(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// How often a sheet is described in a PDF file.
+int Sheets(const std::string& pdf) {
+    int count = 0;
+    for (auto at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1))
+        ++count;
+    return count;
+}
+
+TEST(QtPrinterTest, PrintsToAFileWhereThereIsNoPrinter) {
+    const TemporaryFolder folder;
+    const auto pictures = folder.Path() / "Pictures";
+    QtPrinter printer(pictures);
+    ASSERT_EQ(printer.DeviceNames(), std::vector<std::string>{"PDF"});
+    EXPECT_EQ(printer.DeviceName(), "PDF");
+    printer.SelectPrinter("No such printer");
+    EXPECT_EQ(printer.DeviceName(), "PDF");
+
+    printer.Print(300, 300, {}, black, "Coinlet");
+    printer.PaintPicture(Ramp(20, 20), {300, 600, 2000, 2000});
+    printer.Box(300, 3000, 2300, 4000, black);
+    printer.NewPage();
+    printer.Print(300, 300, {}, black, "Second sheet");
+    printer.NewPage();
+    printer.EndDoc();
+
+    const std::string pdf = Content(pictures / "Coinlet.pdf");
+    EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+    EXPECT_EQ(Sheets(pdf), 2);                                     // Nothing is drawn on a third.
+    EXPECT_NE(pdf.find("/MediaBox [0 0 595"), std::string::npos);  // A4 is 595 by 842 points.
+}
+
+TEST(QtPrinterTest, EmptyJobLeavesNoFile) {
+    const TemporaryFolder folder;
+    QtPrinter printer(folder.Path());
+    printer.NewPage();
+    printer.EndDoc();
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "Coinlet.pdf"));
+}
+
+TEST(QtPrinterTest, LandscapeTurnsTheSheet) {
+    const TemporaryFolder folder;
+    QtPrinter printer(folder.Path());
+    printer.SetOrientation(PageOrientation::Landscape);
+    printer.Box(0, 0, 100, 100, black);
+    printer.EndDoc();
+    EXPECT_NE(Content(folder.Path() / "Coinlet.pdf").find("/MediaBox [0 0 842"), std::string::npos);
+}
+
+TEST(QtPrinterTest, FolderThatCannotBeMadePrintsNothing) {
+    const TemporaryFolder folder;
+    std::ofstream(folder.Path() / "file") << "in the way";
+    QtPrinter printer(folder.Path() / "file" / "Pictures");
+    printer.Print(300, 300, {}, black, "Coinlet");
+    printer.EndDoc();
+    EXPECT_EQ(Content(folder.Path() / "file"), "in the way");
+}
+
+TEST_F(ShellServices, ScreenIsSeenAroundThePointer) {
+    Run(form, [&](User& user) {
+        const QPoint place = user.PlaceOf(form.Pic, 100, 100);
+        user.MoveTo(place);
+        user.Has([&] {
+            int x = 0, y = 0;
+            QtScreenGrab().GetCursorPos(&x, &y);
+            EXPECT_EQ(QPoint(x, y), place);
+        });
+        const QPoint edge = user.PlaceOf(form.Pic, 150, 10);
+        EXPECT_EQ(user.ColourAt(edge), RGB(200, 0, 0));
+        user.Has([&] {
+            const Image seen = QtScreenGrab().Grab({edge.x() - 1, edge.y() - 1, edge.x() + 3, edge.y() + 2});
+            ASSERT_EQ(seen.Width(), 4);
+            ASSERT_EQ(seen.Height(), 3);
+            EXPECT_EQ(seen.At(0, 0), white);
+            EXPECT_EQ(seen.At(1, 1), RGB(200, 0, 0));
+            EXPECT_EQ(seen.At(1, 2), RGB(200, 0, 0));
+            EXPECT_EQ(seen.At(2, 2), white);
+        });
+    });
+}
+
+TEST_F(ShellServices, BeyondTheScreenAllIsWhite) {
+    const Image seen = QtScreenGrab().Grab({-20, -20, -10, -5});
+    ASSERT_EQ(seen.Width(), 10);
+    EXPECT_EQ(seen.At(9, 14), white);
+    EXPECT_TRUE(QtScreenGrab().Grab({5, 5, 5, 9}).Empty());
+}
+
+TEST_F(ShellServices, ScreenFactsAreThoseOfTheDisplay) {
+    EXPECT_EQ(platform.Screen.DotsPerInch, 96);
+    EXPECT_EQ(platform.Screen.Width, 1400);
+    EXPECT_EQ(platform.Screen.Height, 1050);
+}
+
+TEST(QtDesktopTest, KnowsTheUser) {
+    EXPECT_FALSE(QtDesktop().UserName().empty());
+    EXPECT_TRUE(QtDesktop().PictureFolder().is_absolute());
+}
+
+}  // namespace
+}  // namespace coinlet::test

@@ -1,0 +1,134 @@
+#include "user.h"
+
+#include "controls/menu.h"
+#include "shell/form_window.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QWindow>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+namespace coinlet::test {
+
+using namespace std::chrono_literals;
+
+void User::Has(const std::function<void()>& action) {
+    QMetaObject::invokeMethod(
+        qApp, [&] { action(); }, Qt::BlockingQueuedConnection);
+}
+
+bool User::Sees(const std::function<bool()>& condition) {
+    const auto patience = std::chrono::steady_clock::now() + 20s;
+    while (std::chrono::steady_clock::now() < patience) {
+        bool seen = false;
+        Has([&] { seen = condition(); });
+        if (seen) return true;
+        std::this_thread::sleep_for(5ms);
+    }
+    return false;
+}
+
+QPoint User::ToScreen(const QWidget& widget, const QPoint& place) {
+    // The middle of a pixel of the widget, however large the display shows it.
+    const QPointF middle = widget.mapToGlobal(QPointF(place) + QPointF(0.5, 0.5));
+    const double scale = widget.devicePixelRatioF();
+    return {static_cast<int>(middle.x() * scale), static_cast<int>(middle.y() * scale)};
+}
+
+QPoint User::PlaceOf(const Control& control, int x, int y) {
+    QPoint place;
+    Has([&] {
+        const ControlView* view = platform_.WindowOf(control.OwnerForm())->ViewOf(control);
+        place = ToScreen(view->Widget(), QPoint(x, y));
+    });
+    return place;
+}
+
+QPoint User::PlaceOf(const MenuItem& item) {
+    QPoint place;
+    Has([&] {
+        const FormWindow* window = platform_.WindowOf(item.OwnerForm());
+        const QString caption = QString::fromStdString(item.Caption);
+        if (const auto* bar = window->findChild<QMenuBar*>(); bar && !item.Parent()) {
+            for (QAction* action : bar->actions())
+                if (action->text() == caption) place = ToScreen(*bar, bar->actionGeometry(action).center());
+        } else if (const QMenu* menu = window->PopupOf(*item.Parent())) {
+            for (QAction* action : menu->actions())
+                if (action->text() == caption) place = ToScreen(*menu, menu->actionGeometry(action).center());
+        }
+    });
+    return place;
+}
+
+void User::Do(const std::vector<std::string>& arguments) {
+    QStringList list;
+    for (const auto& argument : arguments)
+        list << QString::fromStdString(argument);
+    ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), list), 0);
+}
+
+void User::MoveTo(const QPoint& place) {
+    Do({"mousemove", "--sync", std::to_string(place.x()), std::to_string(place.y())});
+}
+void User::Press() {
+    Do({"mousedown", "1"});
+}
+void User::Release() {
+    Do({"mouseup", "1"});
+}
+void User::Click(const QPoint& place) {
+    Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});
+    Do({"click", "1"});
+}
+void User::DoubleClick(const QPoint& place) {
+    Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});
+    Do({"click", "--repeat", "2", "--delay", "20", "1"});
+}
+void User::Key(const std::string& name) {
+    Do({"key", name});
+}
+void User::Type(const std::string& text) {
+    Do({"type", "--delay", "5", text});
+}
+
+int User::ColourAt(const QPoint& place) {
+    QRgb pixel = 0;
+    Has([&] { pixel = QGuiApplication::primaryScreen()->grabWindow(0).toImage().pixel(place); });
+    return ToColour(pixel);
+}
+
+void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
+    std::thread life;
+    platform.Run([&] {
+        platform.ShowMain(form);
+        life = std::thread([&] {
+            User user(platform);
+            EXPECT_TRUE(user.Sees([&] {
+                const FormWindow* window = platform.WindowOf(form);
+                return window && window->windowHandle()->isExposed() && window->isActiveWindow();
+            }));
+            work(user);
+            QMetaObject::invokeMethod(
+                qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        });
+    });
+    // Whatever the user still waits for comes true or fails while events are served.
+    std::atomic<bool> done = false;
+    std::thread waiter([&] {
+        life.join();
+        done = true;
+    });
+    while (!done)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    waiter.join();
+}
+
+}  // namespace coinlet::test

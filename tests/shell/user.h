@@ -1,0 +1,64 @@
+#pragma once
+
+#include "controls/control.h"
+#include "shell/qt_platform.h"
+#include "support/block_fonts.h"
+
+#include <QPoint>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+
+class QWidget;
+
+namespace coinlet::test {
+
+/// Somebody before the screen: moves the pointer and presses keys by the window system, and looks at what
+/// comes of it. He is a thread of his own, for the program waits for him in loops of its own.
+class User {
+public:
+    explicit User(QtPlatform& platform) : platform_(platform) {}
+
+    /// Waits until the program, asked between two events, says yes; false if it doesn't within a time that no
+    /// working program needs.
+    bool Sees(const std::function<bool()>& condition);
+    /// Has the program's thread do something between two events, and waits until it is done.
+    void Has(const std::function<void()>& action);
+
+    /// The place of a point of a control, a menu entry or a widget, in pixels of the screen.
+    QPoint PlaceOf(const Control& control, int x, int y);
+    QPoint PlaceOf(const MenuItem& item);
+
+    void MoveTo(const QPoint& place);
+    void Press();
+    void Release();
+    void Click(const QPoint& place);
+    void Click(const Control& control, int x, int y) { Click(PlaceOf(control, x, y)); }
+    /// Two clicks, as quickly as a double click takes.
+    void DoubleClick(const QPoint& place);
+    /// A key by its name in the window system: "Return", "ctrl+n".
+    void Key(const std::string& name);
+    void Type(const std::string& text);
+    /// The colour that the screen shows there.
+    int ColourAt(const QPoint& place);
+
+private:
+    static void Do(const std::vector<std::string>& arguments);
+    static QPoint ToScreen(const QWidget& widget, const QPoint& place);
+
+    QtPlatform& platform_;
+};
+
+/// A test with a platform; fonts are blocks, so that the test needs none.
+class ShellTest : public ::testing::Test {
+protected:
+    /// Shows `form` as the main window and serves events until `user` has done his work or the program ended.
+    void Run(Form& form, const std::function<void(User&)>& work);
+
+    BlockFonts fonts;
+    QtPlatform platform;
+    FormServices services{platform, fonts};
+};
+
+}  // namespace coinlet::test
