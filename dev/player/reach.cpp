@@ -32,11 +32,4 @@ void RequireChoice(const Life& life, const MenuItem& entry) {
     if (!entry.CanBeChosen()) Fail(FullNameOf(entry) + " is hidden or disabled");
 }
 
-void RequireInside(const Control& control, double x, double y) {
-    const double unit = control.PointerUnitsPerPixel();
-    if (x >= 0 && y >= 0 && x < control.PixelWidth() * unit && y < control.PixelHeight() * unit) return;
-    Fail(ShowNumber(x) + " " + ShowNumber(y) + " lies outside " + FullNameOf(control) + ", which is " +
-         ShowNumber(control.PixelWidth() * unit) + " by " + ShowNumber(control.PixelHeight() * unit));
-}
-
 }  // namespace coinlet::player
