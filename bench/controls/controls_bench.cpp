@@ -62,9 +62,11 @@ void VisitEveryProperty(benchmark::State& state) {
         }
         std::int64_t count = 0;
     } reader;
-    for (auto _ : state)
-        for (Element* element : sample.form.Elements())
+    for (auto _ : state) {
+        for (Element* element : sample.form.Elements()) {
             element->VisitProperties(reader);
+        }
+    }
     state.SetItemsProcessed(reader.count);
 }
 BENCHMARK(VisitEveryProperty)->Unit(benchmark::kMicrosecond);

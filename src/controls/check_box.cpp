@@ -38,9 +38,10 @@ void OptionButton::SetValue(bool value) {
     if (value == value_) return;
     value_ = value;
     if (!value) return;
-    for (Control* neighbour : Parent().Children())
-        if (auto* option = dynamic_cast<OptionButton*>(neighbour); option && option != this)
-            option->value_ = false;
+    for (Control* neighbour : Parent().Children()) {
+        auto* const option = dynamic_cast<OptionButton*>(neighbour);
+        if (option && option != this) option->value_ = false;
+    }
     Click();
 }
 

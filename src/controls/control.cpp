@@ -89,8 +89,8 @@ void Control::PointerReleased(int button, int shift, float x, float y) {
 
 void Control::PointerClicked() {
     const float units = PointerUnitsPerPixel();
-    const float x = static_cast<float>(PixelWidth() / 2) * units;
-    const float y = static_cast<float>(PixelHeight() / 2) * units;
+    const int column = PixelWidth() / 2, row = PixelHeight() / 2;
+    const float x = static_cast<float>(column) * units, y = static_cast<float>(row) * units;
     PointerPressed(leftButton, 0, x, y);
     PointerReleased(leftButton, 0, x, y);
 }

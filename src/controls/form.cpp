@@ -60,7 +60,7 @@ void Form::MoveFocusByTab(bool backward) {
     if (backward) std::ranges::reverse(order);
     // Round about from the one behind the focus; without a focus find gives the end, which is the start.
     const auto focused = std::ranges::find(order, Focus());
-    if (focused != order.end()) std::ranges::rotate(order, focused + 1);
+    if (focused != order.end()) std::rotate(order.begin(), focused + 1, order.end());
     const auto next =
         std::ranges::find_if(order, [](const Control* c) { return c->TabStop && c->CanFocus(); });
     if (next != order.end()) MoveFocus(*next);

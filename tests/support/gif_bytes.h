@@ -25,9 +25,10 @@ struct GifBytes {
         Bytes file{'G', 'I', 'F', '8', '9', 'a'};
         Put16(file, {width, height});
         file.insert(file.end(), {0x91, background, 0});  // a palette of 2^(1 + 1)
-        for (const auto colour : palette)
+        for (const auto colour : palette) {
             for (const int shift : {16, 8, 0})
                 file.push_back(static_cast<std::uint8_t>(colour >> shift));
+        }
         for (const Frame& frame : frames) {
             if (frame.transparent >= 0) {
                 const auto index = static_cast<std::uint8_t>(frame.transparent);

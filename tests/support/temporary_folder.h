@@ -1,9 +1,11 @@
 #pragma once
 
-#include <stdlib.h>
-
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -31,7 +33,7 @@ public:
 
     /// Makes a file with this content and returns its path.
     std::filesystem::path Write(const std::filesystem::path& name, std::string_view content) const {
-        const auto path = path_ / name;
+        auto path = path_ / name;
         std::ofstream file(path, std::ios::binary);
         file.write(content.data(), static_cast<std::streamsize>(content.size()));
         if (!file.flush()) throw std::runtime_error("cannot write " + path.string());

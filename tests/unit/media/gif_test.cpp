@@ -72,10 +72,11 @@ TEST(DecodeGif, ReadsTheWidthOfABorder) {
     ASSERT_TRUE(image);
     ASSERT_EQ(image->Width(), 2000);
     ASSERT_EQ(image->Height(), 5);
-    for (unsigned i = 0; i < 10000; ++i)
+    for (unsigned i = 0; i < 10000; ++i) {
         ASSERT_EQ(image->Row(static_cast<int>(i / 2000))[i % 2000] & 0xFFFFFF,
                   gif.palette[gif.frames[0].indices[i]])
             << i;
+    }
 }
 
 TEST(DecodeGif, ShowsWhatIsThereOfAFileCutShort) {

@@ -30,19 +30,22 @@ int LargestDifference(const Image& a, const Image& b) {
 /// Soft colours all over.
 Image Gradient(int width, int height) {
     Bitmap bitmap(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
             bitmap.Row(y)[x] =
                 ToPixel(RGB(x * 255 / width, y * 255 / height, (x + y) * 127 / (width + height)));
+        }
+    }
     return Image(std::move(bitmap));
 }
 
 /// Red and blue, pixel by pixel.
 Image Checkerboard(int side) {
     Bitmap bitmap(side, side);
-    for (int y = 0; y < side; ++y)
+    for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x)
             bitmap.Row(y)[x] = ToPixel((x + y) % 2 == 0 ? RGB(255, 0, 0) : RGB(0, 0, 255));
+    }
     return Image(std::move(bitmap));
 }
 
@@ -139,10 +142,12 @@ TEST(Jpeg, ReadsTheInksOfPrintShops) {
     // Ink c under black k leaves c k / 255 of the light: 128 * 128 / 255 = 64.25.
     constexpr Colour colours[4] = {RGB(255, 255, 255), RGB(0, 0, 0), RGB(0, 255, 255), RGB(64, 64, 64)};
     Bytes pixels;
-    for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < 32; ++x)
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 32; ++x) {
             for (const auto ink : inks[x / 8])
                 pixels.push_back(ink);
+        }
+    }
     const Bytes file = Compressed(pixels, 32, 8, TJPF_CMYK, TJSAMP_444);  // The library turns it into YCCK.
     ASSERT_FALSE(file.empty());
     const auto image = DecodeJpegBytes(file);

@@ -130,11 +130,13 @@ TEST(QtFontEngine, SymbolFontsPrintAllTheirCharacters) {
 
 TEST(QtFontEngine, CrispMasksHaveNoHalfTones) {
     const QtFontEngine fonts;
-    for (const double points : {4.0, 8.25, 20.0, 150.0, 400.0})
-        for (const double angle : {0.0, 33.0, 90.0})
+    for (const double points : {4.0, 8.25, 20.0, 150.0, 400.0}) {
+        for (const double angle : {0.0, 33.0, 90.0}) {
             EXPECT_EQ(Levels(fonts.Render(Arial(points), "S&8", Edges::Crisp, angle)),
                       (std::set<int>{0, 255}))
                 << points << " points, " << angle << " degrees";
+        }
+    }
 }
 
 TEST(QtFontEngine, SmoothMasksHaveHalfTones) {

@@ -1,9 +1,8 @@
 // The system's clock in the zone of the desktop.
 #include "media/system_clock.h"
 
-#include <stdlib.h>
-#include <time.h>
-
+#include <cstdlib>
+#include <ctime>
 #include <gtest/gtest.h>
 
 namespace coinlet {
@@ -27,9 +26,9 @@ TEST(SystemClock, TellsTheTimeOfTheZone) {
          {std::pair{"UTC0", 0}, std::pair{"XXX-3", 3}, std::pair{"YYY+5", -5}}) {
         ::setenv("TZ", zone, 1);
         ::tzset();
-        const long before = static_cast<long>(::time(nullptr));
+        const long before = static_cast<long>(std::time(nullptr));
         const DateTime now = SystemClock().Now();
-        const long after = static_cast<long>(::time(nullptr));
+        const long after = static_cast<long>(std::time(nullptr));
         const long told =
             ((DaysSinceEpoch(now) * 24 + now.hour - hoursAhead) * 60 + now.minute) * 60 + now.second;
         EXPECT_LE(before, told) << zone;

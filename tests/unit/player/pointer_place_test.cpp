@@ -17,16 +17,18 @@ public:
 
 class PointerPlaceTest : public testing::Test {
 protected:
-    PointerPlaceTest() { life_.program->Start(); }
-
     template <class T>
     T& Find(std::string_view name) {
-        return dynamic_cast<T&>(*life_.platform.FindForm("Main")->Find(name));
+        return dynamic_cast<T&>(*main_.Find(name));
+    }
+    Form& StartedMain() {
+        life_.program->Start();
+        return *life_.platform.FindForm("Main");
     }
     bool IsOver(const Control& control) const { return life_.platform.IsPointerOver(control); }
 
-    const test::BlockFonts fonts_;
-    const test::NoCodecs codecs_;
+    const test::BlockFonts fonts_{};
+    const test::NoCodecs codecs_{};
     const Libraries libraries_{fonts_, codecs_, [](const Services& services) {
                                    return std::make_unique<test::EveryControlProgram>(services);
                                }};
@@ -34,6 +36,7 @@ protected:
     test::TemporaryFolder folder_;
     World world_{Places(folder_.Path(), folder_.Path(), folder_.Path()), {}, {}, {}, {}};
     Life life_{reader_, world_, libraries_};
+    Form& main_ = StartedMain();
     PictureBox& pic_ = Find<PictureBox>("Pic");      // 20 by 10 pixels at 200, 0
     PictureBox& cover_ = Find<PictureBox>("Cover");  // 10 by 10 pixels at 210, 0, hidden
     PointerPlace& pointer_ = life_.platform.pointer;
@@ -70,8 +73,7 @@ TEST_F(PointerPlaceTest, OutlinesCoverNothing) {
 }
 
 TEST_F(PointerPlaceTest, CountsThePlacesOfContainers) {
-    Form& main = *life_.platform.FindForm("Main");
-    auto& first = dynamic_cast<OptionButton&>(*main.Find("Option", 0));
+    auto& first = dynamic_cast<OptionButton&>(*main_.Find("Option", 0));
     auto& frame = Find<Frame>("Frame1");
     // The option lies one pixel from the frame's corner.
     pointer_.PutOn(frame, 1, 1);

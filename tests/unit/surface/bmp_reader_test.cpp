@@ -248,10 +248,12 @@ TEST(DecodeBmp, RefusesSizesThatCannotBe) {
     const std::pair<std::int32_t, std::int32_t> sizes[] = {
         {0, 1},     {1, 0},     {-1, 1},        {INT_MIN, 1},       {1, INT_MIN},        {INT_MIN, INT_MIN},
         {16385, 1}, {1, 16385}, {65535, 65535}, {INT_MAX, INT_MAX}, {INT_MAX, -INT_MAX}, {16384, 4097}};
-    for (const auto& [width, height] : sizes)
-        for (const std::uint16_t bits : {std::uint16_t{1}, std::uint16_t{32}})
+    for (const auto& [width, height] : sizes) {
+        for (const std::uint16_t bits : {std::uint16_t{1}, std::uint16_t{32}}) {
             EXPECT_FALSE(DecodeBmp(BmpBytes{.width = width, .height = height, .bits = bits}.File()))
                 << width << " x " << height;
+        }
+    }
     EXPECT_FALSE(DecodeBmp(BmpBytes{.headerSize = 12, .width = 65535, .height = 65535}.File()));
 }
 
@@ -264,10 +266,11 @@ TEST(DecodeBmp, RefusesCodingsThatCannotBe) {
     };
     for (const auto& [bits, compression] :
          {Coding{24, 1}, Coding{4, 1}, Coding{8, 2}, Coding{24, 3}, Coding{8, 3}, Coding{24, 4},
-          Coding{24, 5}, Coding{32, 7}, Coding{8, 0xFFFFFFFF}})
+          Coding{24, 5}, Coding{32, 7}, Coding{8, 0xFFFFFFFF}}) {
         EXPECT_FALSE(
             DecodeBmp(BmpBytes{.bits = bits, .compression = compression, .pixels = Bytes(64)}.File()))
             << bits << " bits, compression " << compression;
+    }
     // In the second OS/2 header the number 3 stands for another coding.
     EXPECT_FALSE(DecodeBmp(BmpBytes{
         .headerSize = 64, .bits = 32, .compression = 3, .masks = {0xFF, 0xFF, 0xFF}, .pixels = Bytes(64)}
@@ -326,7 +329,7 @@ TEST(DecodeBmp, SkippedPixelsAreBlack) {
 
 TEST(DecodeBmp, RunsEndAtTheRightEdge) {
     for (const Bytes& pixels : {Bytes{255, 1, 0, 0, 1, 2}, Bytes{0, 5, 1, 1, 1, 1, 1, 0, 0, 0, 1, 2},
-                                Bytes{3, 1, 200, 2, 0, 2, 255, 0, 9, 2, 0, 0, 1, 2}})
+                                Bytes{3, 1, 200, 2, 0, 2, 255, 0, 9, 2, 0, 0, 1, 2}}) {
         EXPECT_EQ(Decoded({.width = 3,
                            .height = 2,
                            .bits = 8,
@@ -334,6 +337,7 @@ TEST(DecodeBmp, RunsEndAtTheRightEdge) {
                            .palette = {0, red, green},
                            .pixels = pixels}),
                   (Rows{{green, 0, 0}, {red, red, red}}));
+    }
 }
 
 TEST(DecodeBmp, RunsEndAtTheLastRow) {

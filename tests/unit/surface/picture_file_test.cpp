@@ -55,8 +55,9 @@ TEST(LoadPicture, GivesNothingForWhatIsNoPicture) {
     fs::create_symlink("gone", folder / "broken.bmp");
     ASSERT_EQ(::mkfifo((folder / "pipe.bmp").c_str(), 0600), 0);
     for (const char* name :
-         {"text.bmp", "empty.bmp", "folder.bmp", "broken.bmp", "pipe.bmp", "missing.bmp", ""})
+         {"text.bmp", "empty.bmp", "folder.bmp", "broken.bmp", "pipe.bmp", "missing.bmp", ""}) {
         EXPECT_FALSE(LoadPicture(folder / name, codecs)) << name;
+    }
 }
 
 TEST(SavePicture, WritesWhatLoadPictureReads) {
