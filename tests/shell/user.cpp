@@ -132,6 +132,8 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
     while (!done)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     waiter.join();
+    // His farewell must not end the next test.
+    QCoreApplication::processEvents();
 }
 
 }  // namespace coinlet::test
