@@ -66,6 +66,20 @@ QCursor MakePencil() {
     return QCursor(fine, pointX, pointY);
 }
 
+/// Menus are of the forms' colour, not of the fields'. The style gives disabled letters a light edge, which
+/// is made to vanish.
+QPalette MenuPalette() {
+    QPalette palette = FormPalette();
+    const QColor ground = ToQColor(RGB(236, 236, 216));
+    for (const auto group : allGroups) {
+        palette.setColor(group, QPalette::Window, ground);
+        palette.setColor(group, QPalette::Base, ground);
+        palette.setColor(group, QPalette::Light, ground);
+        palette.setColor(group, QPalette::Text, palette.color(group, QPalette::WindowText));
+    }
+    return palette;
+}
+
 }  // namespace
 
 QFont ToQFont(const FontProperties& font) {
@@ -85,6 +99,7 @@ void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette palette = FormPalette();
     QApplication::setPalette(palette);
+    QApplication::setPalette(MenuPalette(), "QMenu");
     QToolTip::setPalette(palette);
     const QFont font = ToQFont({});
     QApplication::setFont(font);
@@ -101,6 +116,7 @@ QPalette FieldPalette(Colour text, Colour ground) {
                       (letters.blue() + paper.blue()) / 2);
     QPalette palette = QApplication::palette();
     for (const auto group : allGroups) {
+        palette.setColor(group, QPalette::WindowText, ToQColor(edgeColour));  // The frame around it.
         palette.setColor(group, QPalette::Base, paper);
         palette.setColor(group, QPalette::Text, group == QPalette::Disabled ? pale : letters);
     }
