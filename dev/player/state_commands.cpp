@@ -119,13 +119,13 @@ void Tick(ScriptRun& run, const Arguments& arguments) {
     Element& element = FindElement(run.TheLife(), address);
     if (const auto* const button = dynamic_cast<const VistaButton*>(&element)) {
         Timer* const hover = button->HoverTimer();
-        if (!hover) Fail("expected a hover timer of " + address.text + ", found none");
+        if (!hover) Refuse("expected a hover timer of " + address.text + ", found none");
         hover->Tick();
         return;
     }
     auto* const timer = dynamic_cast<Timer*>(&element);
     if (!timer) Fail(address.text + " is no timer and has none");
-    if (!timer->Enabled || timer->Interval <= 0) Fail("expected " + address.text + " to run, found it off");
+    if (!timer->Enabled || timer->Interval <= 0) Refuse("expected " + address.text + " to run, found it off");
     timer->Tick();
 }
 
@@ -135,6 +135,13 @@ void Interrupt(ScriptRun& run, const Arguments& arguments) {
     const int count = arguments.Whole(0);
     if (count < 1) Fail("expected a count from 1 on, found " + std::to_string(count));
     run.Interrupt(count, ParseCall(arguments.From(1)));
+}
+
+void Try(ScriptRun& run, const Arguments& arguments) {
+    try {
+        run.Perform(ParseCall(arguments.From(0)));
+    } catch (const Refusal&) {  // then nothing was done, which is what the script allows
+    }
 }
 
 void Restart(ScriptRun& run, const Arguments&) {
@@ -149,6 +156,7 @@ constexpr Command commands[] = {
     {"raise", "ADDR.EVENT [ARG...]", Needs::RunningProgram, Raise},
     {"tick", "ADDR", Needs::RunningProgram, Tick},
     {"interrupt", "N COMMAND...", Needs::RunningProgram, Interrupt},
+    {"try", "COMMAND...", Needs::RunningProgram, Try},
     {"restart", "", Needs::StartedProgram, Restart},
 };
 
