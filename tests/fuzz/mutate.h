@@ -51,7 +51,9 @@ private:
     void FlipBit(Bytes& bytes, const Bytes&) {
         bytes[Place(bytes)] ^= static_cast<std::uint8_t>(1U << Below(8));
     }
-    void SetByte(Bytes& bytes, const Bytes&) { bytes[Place(bytes)] = static_cast<std::uint8_t>(dice_.Next()); }
+    void SetByte(Bytes& bytes, const Bytes&) {
+        bytes[Place(bytes)] = static_cast<std::uint8_t>(dice_.Next());
+    }
 
     /// A number of 8, 16 or 32 bits in either byte order becomes one at the edge of what fits.
     void SetField(Bytes& bytes, const Bytes&) {
