@@ -40,6 +40,13 @@ T* PickOf(const Chance& chance, const std::vector<T*>& list) {
     return list.empty() ? nullptr : chance.dice.Pick(list);
 }
 
+/// There is a place in it; assignments make controls of any size.
+bool HasPixels(const Control& control) {
+    constexpr int large = 1 << 20;
+    return control.PixelWidth() > 0 && control.PixelHeight() > 0 && control.PixelWidth() < large &&
+           control.PixelHeight() < large;
+}
+
 /// A place in the control, in the units of its pointer events, that is inside by a hair at its ends.
 std::string PlaceIn(const Chance& chance, const Control& control) {
     const int unit = static_cast<int>(control.PointerUnitsPerPixel());
@@ -58,10 +65,6 @@ std::string PlaceAbout(const Chance& chance, const Control& control) {
     if (dice.OneIn(4)) return " " + AnyNumber(dice) + " " + AnyNumber(dice);
     return " " + std::to_string(dice.Between(-about, control.PixelWidth() + about)) + " " +
            std::to_string(dice.Between(-about, control.PixelHeight() + about));
-}
-
-bool HasPixels(const Control& control) {
-    return control.PixelWidth() > 0 && control.PixelHeight() > 0;
 }
 
 /// The pictures are where gestures mean most.
@@ -131,7 +134,7 @@ std::string Drag(const Chance& chance) {
 
 std::string PutPointer(const Chance& chance) {
     if (chance.dice.OneIn(4)) return "pointer away";
-    const Control* const control = PickOf(chance, Reachable<Control>(chance));
+    const Control* const control = PickOf(chance, Reachable<Control>(chance, HasPixels));
     return control ? "pointer " + FullNameOf(*control) + PlaceAbout(chance, *control) : "";
 }
 
