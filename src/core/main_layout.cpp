@@ -185,6 +185,7 @@ void LayOutTools(MainForm& main) {
     Place(main.Frame5, 928, 32, 166, 36);
     Place(main.CoorLabel, 10, 10, 146, 16);
     main.CoorLabel.Alignment = Alignment::Center;
+    main.CoorLabel.Caption = "X : 0 / Y : 0";
 
     Place(main.Frame4, 928, 72, 166, 508);
     for (int i = 0; i <= main.Knop.Last(); ++i) {

@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include <concepts>
+#include <exception>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -28,7 +29,7 @@ public:
         if (mirroring_ || platform_.Ended()) return;
         ++depth_;
         try {
-            handler();
+            EndAtFault(handler);
             Mirror();
         } catch (const ProgramEnded&) {
             // The windows are hidden by now, and every event loop is on its way out.
@@ -59,6 +60,16 @@ public:
     }
 
 private:
+    /// A fault in a handler, an index outside an array or no memory for a picture, ends that handler and no
+    /// more: the user keeps the program, and the design in it.
+    template <std::invocable Handler>
+    static void EndAtFault(Handler& handler) {
+        try {
+            handler();
+        } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): nobody is told.
+        }
+    }
+
     void EndRetired() {
         for (const auto& object : std::exchange(retired_, {}))
             if (object) object->deleteLater();

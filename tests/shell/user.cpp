@@ -38,9 +38,9 @@ bool User::Sees(const std::function<bool()>& condition) {
 
 QPoint User::ToScreen(const QWidget& widget, const QPoint& place) {
     // The middle of a pixel of the widget, however large the display shows it.
-    const QPointF middle = widget.mapToGlobal(QPointF(place) + QPointF(0.5, 0.5));
     const double scale = widget.devicePixelRatioF();
-    return {static_cast<int>(middle.x() * scale), static_cast<int>(middle.y() * scale)};
+    const QPoint corner = widget.mapToGlobal(place);
+    return {static_cast<int>((corner.x() + 0.5) * scale), static_cast<int>((corner.y() + 0.5) * scale)};
 }
 
 QPoint User::PlaceOf(const Control& control, int x, int y) {
@@ -112,8 +112,11 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
         life = std::thread([&] {
             User user(platform);
             EXPECT_TRUE(user.Sees([&] {
-                const FormWindow* window = platform.WindowOf(form);
-                return window && window->windowHandle()->isExposed() && window->isActiveWindow();
+                FormWindow* window = platform.WindowOf(form);
+                if (!window || !window->windowHandle()->isExposed()) return false;
+                // No window manager is there that would bring it to the front.
+                if (!window->isActiveWindow()) window->activateWindow();
+                return window->isActiveWindow();
             }));
             work(user);
             QMetaObject::invokeMethod(
@@ -129,6 +132,8 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
     while (!done)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     waiter.join();
+    // His farewell must not end the next test.
+    QCoreApplication::processEvents();
 }
 
 }  // namespace coinlet::test

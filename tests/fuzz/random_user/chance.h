@@ -12,6 +12,7 @@ namespace coinlet::test {
 struct Chance {
     Dice& dice;
     player::Life& life;
+    std::string& pressed;  ///< The control on which a button of the pointer went down last.
 
     Form& Front() const { return *life.platform.FrontForm(); }
     bool Reaches(const Control& control) const {

@@ -116,7 +116,7 @@ std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
 std::string RandomUser::MakeLine(player::Life* life) {
     if (prepared_.empty()) {
         if (life->platform.Ended() || step_ % stepsOfALife == 0) return "restart";
-        const Chance chance{dice_, *life};
+        const Chance chance{dice_, *life, pressed_};
         constexpr std::size_t oneInInterrupts = 12;
         for (std::string& line : AnswerLines(dice_, life->answers))
             prepared_.push_back(std::move(line));

@@ -40,6 +40,7 @@ private:
     const player::Places& places_;
     std::ostream& script_;
     std::deque<std::string> prepared_;  ///< Lines to be given before others are made up.
+    std::string pressed_;
     std::size_t step_ = 0;
     std::optional<Files> filesAtEnd_;
 };

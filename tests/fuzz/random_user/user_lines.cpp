@@ -103,18 +103,19 @@ std::string ChooseEntry(const Chance& chance) {
 std::string Press(const Chance& chance) {
     const Control* const control = PointerTarget(chance);
     if (!control) return "";
-    return "press " + FullNameOf(*control) + AnyButton(chance.dice) + PlaceIn(chance, *control);
+    chance.pressed = FullNameOf(*control);
+    return "press " + chance.pressed + AnyButton(chance.dice) + PlaceIn(chance, *control);
 }
 
-/// Moves and releases while a button is held down; it may leave the control meanwhile, and its form may have
-/// gone.
+/// Moves and releases after a press; the pointer may leave the control meanwhile, and its form may have gone.
 std::string GoOn(const Chance& chance) {
-    for (const Control* const control : Reachable<Control>(chance)) {
-        if (control != chance.life.draggedFrom) continue;
-        const std::string command = chance.dice.OneIn(4) ? "release " : "move ";
-        return command + FullNameOf(*control) + AnyButton(chance.dice) + PlaceAbout(chance, *control);
-    }
-    return "";
+    const auto pressed = Reachable<Control>(
+        chance, [&](const Control& control) { return FullNameOf(control) == chance.pressed; });
+    if (pressed.empty() || !HasPixels(*pressed.front())) return "";
+    const bool isEnd = chance.dice.OneIn(4);
+    if (isEnd) chance.pressed.clear();
+    return (isEnd ? "release " : "move ") + FullNameOf(*pressed.front()) + AnyButton(chance.dice) +
+           PlaceAbout(chance, *pressed.front());
 }
 
 /// Without a press before it.
