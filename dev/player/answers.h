@@ -25,6 +25,7 @@ using QueuedAnswer = std::variant<Answer, TextAnswer, FolderAnswer>;
 class Answers {
 public:
     void Add(QueuedAnswer answer) { queue_.push_back(std::move(answer)); }
+    const std::deque<QueuedAnswer>& Waiting() const { return queue_; }
 
     /// Yes or No; cancelling is No. Nothing if no reaction fits; so with the others.
     std::optional<Answer> TakeForQuestion();

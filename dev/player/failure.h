@@ -10,6 +10,13 @@ struct ScriptFailure {
     std::string reason;
 };
 
+/// The line asks for what isn't there or can't be got at now: it fails before it did anything.
+struct Refusal : ScriptFailure {};
+
+[[noreturn]] inline void Refuse(std::string reason) {
+    throw Refusal{{std::move(reason)}};
+}
+
 [[noreturn]] inline void Fail(std::string reason) {
     throw ScriptFailure{std::move(reason)};
 }

@@ -33,7 +33,8 @@ struct World {
 /// about.
 struct Life {
     Life(ScriptReader& reader, World& world, const Libraries& libraries)
-        : desktop(world.places),
+        : answers(world.answers),
+          desktop(world.places),
           platform(reader, world.clock, world.answers),
           services{world.places.Application(),
                    platform,
@@ -48,6 +49,7 @@ struct Life {
         program = libraries.makeProgram(services);
     }
 
+    const Answers& answers;  ///< Those of the world.
     RecordingDesktop desktop;
     PrinterRecord printer;
     PlayerPlatform platform;

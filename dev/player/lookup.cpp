@@ -103,9 +103,9 @@ std::vector<int> IndexesOf(const Form& form, const std::string& name) {
     const auto indexes = IndexesOf(form, part.name);
     if (!indexes.empty()) {
         const auto [least, most] = std::ranges::minmax(indexes);
-        Fail(what + ": the array goes from " + std::to_string(least) + " to " + std::to_string(most));
+        Refuse(what + ": the array goes from " + std::to_string(least) + " to " + std::to_string(most));
     }
-    Fail(form.Find(part.name) ? what + ": it is in no array" : what);
+    Refuse(form.Find(part.name) ? what + ": it is in no array" : what);
 }
 
 bool IsFormProperty(const Address& address) {
@@ -120,7 +120,7 @@ Form& FindForm(Life& life, const std::string& name) {
     std::vector<std::string> open;
     for (const Form* const form : life.platform.Forms())
         open.emplace_back(form->Name());
-    Fail("no form " + name + " is open, only " + (open.empty() ? "none" : Listed(open)));
+    Refuse("no form " + name + " is open, only " + (open.empty() ? "none" : Listed(open)));
 }
 
 Target FindTarget(Life& life, const Address& address) {

@@ -48,7 +48,8 @@ bool PlayScript(const fs::path& file, const Options& options, const fs::path& ou
         out << file.string() << ": can't be read\n";
         return false;
     }
-    return ScriptRun(*script, Places(options.folder, outFolder, script->folder), libraries, out).Play();
+    ScriptLines lines(*script);
+    return ScriptRun(script->name, lines, Places(options.folder, outFolder, script->folder), libraries, out).Play();
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ public:
     virtual void RunNextLine() = 0;
     /// Does what is to happen while the program serves events.
     virtual void ServeInterrupts() = 0;
+    virtual void ProgramEnding() {}
 };
 
 /// A message box, question or input box that was shown.
@@ -49,7 +50,7 @@ protected:
     std::string AskText(const std::string& prompt, const std::string& title,
                         const std::string& standard) override;
     std::string AskFolder(const std::string& title) override;
-    void ProgramEnding() override {}
+    void ProgramEnding() override { reader_.ProgramEnding(); }
 
 private:
     ScriptReader& reader_;

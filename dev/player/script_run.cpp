@@ -9,9 +9,13 @@
 
 namespace coinlet::player {
 
-ScriptRun::ScriptRun(const Script& script, const Places& places, const Libraries& libraries,
+ScriptRun::ScriptRun(std::string name, LineSource& lines, const Places& places, const Libraries& libraries,
                      std::ostream& out)
-    : script_(script), libraries_(libraries), out_(out), world_{places, {}, {}, {}, {}} {}
+    : name_(std::move(name)),
+      lines_(lines),
+      libraries_(libraries),
+      out_(out),
+      world_{places, {}, {}, {}, {}} {}
 
 bool ScriptRun::Play() {
     do {
@@ -38,17 +42,18 @@ void ScriptRun::RunNextLine() {
     std::vector<Word> words;
     Guard([&] {
         while (words.empty()) {
-            if (next_ == script_.lines.size()) Unwind(Stop::ScriptEnded);
-            line_ = script_.lines[next_].number;
-            words = SplitWords(script_.lines[next_].text);
-            if (words.empty()) ++next_;
+            if (!next_) next_ = lines_.NextLine(LifeIfStarted());
+            if (!next_) Unwind(Stop::ScriptEnded);
+            line_ = next_->number;
+            words = SplitWords(next_->text);
+            if (words.empty()) next_.reset();
         }
         const Call call = ParseCall(words);
         if (!life_ && NeedsOf(call) != Needs::NoProgram) {
             StartProgram();  // the line itself is the next one still
             return;
         }
-        ++next_;
+        next_.reset();
         Perform(call);
     });
 }
@@ -64,6 +69,7 @@ void ScriptRun::ServeInterrupts() {
     interrupts_.erase(due, interrupts_.end());
     const int line = line_;
     for (const PendingInterrupt& interrupt : calls) {
+        if (life_->platform.Ended()) break;
         line_ = interrupt.line;
         Guard([&] { Perform(interrupt.call); });
     }
@@ -95,7 +101,7 @@ void ScriptRun::Guard(const std::function<void()>& action) {
 }
 
 void ScriptRun::ReportFailure(const std::string& reason) {
-    out_ << script_.name << ':' << line_ << ": " << reason << '\n';
+    out_ << name_ << ':' << line_ << ": " << reason << '\n';
 }
 
 void ScriptRun::Interrupt(int count, Call call) {

@@ -2,6 +2,7 @@
 
 #include "player/commands.h"
 #include "player/life.h"
+#include "player/line_source.h"
 
 #include <functional>
 #include <iosfwd>
@@ -9,14 +10,15 @@
 
 namespace coinlet::player {
 
-/// One script from its first line to its last, with a world of its own. The commands are handed it: they act
-/// on its world and on the life of the program.
+/// The lines of one source from the first to the last, in a world of their own. The commands are handed the
+/// run: they act on its world and on the life of the program.
 class ScriptRun : private ScriptReader {
 public:
-    /// `out` takes what the script prints, and why it failed.
-    ScriptRun(const Script& script, const Places& places, const Libraries& libraries, std::ostream& out);
+    /// `name` is what messages call the script; `out` takes what it prints, and why it failed.
+    ScriptRun(std::string name, LineSource& lines, const Places& places, const Libraries& libraries,
+              std::ostream& out);
 
-    /// Plays the script; true if no line failed. To be called once.
+    /// Plays all lines; true if no line failed. To be called once.
     bool Play();
 
     // --- For the commands ------------------------------------------------------------------------------
@@ -31,6 +33,8 @@ public:
 
     /// The call is made while the program serves events for the `count`th time from now on.
     void Interrupt(int count, Call call);
+    /// Does the call now, inside the command that is under way. A refusal is the caller's to take.
+    void Perform(const Call& call);
     /// Ends the program on the spot and starts it again. Does not return.
     [[noreturn]] void Restart();
 
@@ -48,21 +52,22 @@ private:
 
     void RunNextLine() override;
     void ServeInterrupts() override;
+    void ProgramEnding() override { lines_.ProgramEnding(); }
 
     void StartProgram();
-    void Perform(const Call& call);
     /// Does `action`; a failure in it is one of the line that was begun last, and ends the script.
     void Guard(const std::function<void()>& action);
     void ReportFailure(const std::string& reason);
     [[noreturn]] void Unwind(Stop stop);
 
-    const Script& script_;
+    std::string name_;
+    LineSource& lines_;
     const Libraries& libraries_;
     std::ostream& out_;
     World world_;
     std::optional<Life> life_;
-    std::size_t next_ = 0;  ///< The line to be done next.
-    int line_ = 0;          ///< The number of the line that was begun last.
+    std::optional<ScriptLine> next_;  ///< The line to be done next, if it was fetched already.
+    int line_ = 0;                    ///< The number of the line that was begun last.
     std::vector<PendingInterrupt> interrupts_;
     std::optional<Stop> stop_;
 };

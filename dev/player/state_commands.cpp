@@ -136,6 +136,13 @@ void Interrupt(ScriptRun& run, const Arguments& arguments) {
     run.Interrupt(count, ParseCall(arguments.From(1)));
 }
 
+void Try(ScriptRun& run, const Arguments& arguments) {
+    try {
+        run.Perform(ParseCall(arguments.From(0)));
+    } catch (const Refusal&) {  // then nothing was done, which is what the script allows
+    }
+}
+
 void Restart(ScriptRun& run, const Arguments&) {
     run.Restart();
 }
@@ -148,6 +155,7 @@ constexpr Command commands[] = {
     {"raise", "ADDR.EVENT [ARG...]", Needs::RunningProgram, Raise},
     {"tick", "ADDR", Needs::RunningProgram, Tick},
     {"interrupt", "N COMMAND...", Needs::RunningProgram, Interrupt},
+    {"try", "COMMAND...", Needs::RunningProgram, Try},
     {"restart", "", Needs::StartedProgram, Restart},
 };
 

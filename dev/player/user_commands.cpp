@@ -4,6 +4,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/menu.h"
+#include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "player/commands.h"
 #include "player/failure.h"
@@ -182,7 +183,7 @@ void Type(ScriptRun& run, const Arguments& arguments) {
 
 void Focus(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
-    if (!control.CanFocus()) Fail(arguments.Text(0) + " takes no focus");
+    if (!control.CanFocus()) Refuse(arguments.Text(0) + " takes no focus");
     control.SetFocus();
 }
 
@@ -191,7 +192,7 @@ void Focus(ScriptRun& run, const Arguments& arguments) {
 template <class List>
 void PickRow(List& list, int row) {
     if (!list.Rows().Contains(row))
-        Fail("expected a row below " + std::to_string(list.ListCount()) + ", found " + std::to_string(row));
+        Refuse("expected a row below " + std::to_string(list.ListCount()) + ", found " + std::to_string(row));
     list.SetFocus();
     list.UserPicks(row);
 }
@@ -206,6 +207,17 @@ void Pick(ScriptRun& run, const Arguments& arguments) {
     } else {
         Fail(arguments.Text(0) + " has no rows");
     }
+}
+
+void Slide(ScriptRun& run, const Arguments& arguments) {
+    auto* const bar = dynamic_cast<ScrollBar*>(&ReachControl(run.TheLife(), arguments.Address(0)));
+    if (!bar) Fail(arguments.Text(0) + " is no scroll bar");
+    std::vector<int> values;
+    for (std::size_t i = 1; i < arguments.Count(); ++i)
+        values.push_back(arguments.Whole(i));
+    for (const int value : values)
+        bar->UserDrags(value);
+    bar->UserReleases();
 }
 
 void Close(ScriptRun& run, const Arguments& arguments) {
@@ -227,6 +239,7 @@ constexpr Command commands[] = {
     {"type", "ADDR TEXT", Needs::RunningProgram, Type},
     {"focus", "ADDR", Needs::RunningProgram, Focus},
     {"pick", "ADDR ROW", Needs::RunningProgram, Pick},
+    {"slide", "ADDR VALUE...", Needs::RunningProgram, Slide},
     {"close", "FORM", Needs::RunningProgram, Close},
 };
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/files.h"
+#include "fuzz/dice.h"
 
 #include <algorithm>
 #include <array>
-#include <random>
 
 namespace coinlet::test {
 
@@ -12,7 +12,7 @@ namespace coinlet::test {
 /// machine and with every library.
 class Mutator {
 public:
-    explicit Mutator(std::uint32_t seed) : random_(seed) {}
+    explicit Mutator(std::uint32_t seed) : dice_(seed) {}
 
     /// One of the files, damaged in one place or several.
     Bytes Damaged(const std::vector<Bytes>& files) {
@@ -24,8 +24,7 @@ public:
     }
 
 private:
-    /// A number below `limit`, which is above 0. (The standard's distributions differ between libraries.)
-    std::size_t Below(std::size_t limit) { return random_() % limit; }
+    std::size_t Below(std::size_t limit) { return dice_.Below(limit); }
 
     void DamageOnce(Bytes& bytes, const Bytes& other) {
         using Damage = void (Mutator::*)(Bytes&, const Bytes&);
@@ -52,7 +51,9 @@ private:
     void FlipBit(Bytes& bytes, const Bytes&) {
         bytes[Place(bytes)] ^= static_cast<std::uint8_t>(1U << Below(8));
     }
-    void SetByte(Bytes& bytes, const Bytes&) { bytes[Place(bytes)] = static_cast<std::uint8_t>(random_()); }
+    void SetByte(Bytes& bytes, const Bytes&) {
+        bytes[Place(bytes)] = static_cast<std::uint8_t>(dice_.Next());
+    }
 
     /// A number of 8, 16 or 32 bits in either byte order becomes one at the edge of what fits.
     void SetField(Bytes& bytes, const Bytes&) {
@@ -83,7 +84,7 @@ private:
         bytes.insert(bytes.end(), other.begin() + static_cast<std::ptrdiff_t>(Place(other)), other.end());
     }
 
-    std::mt19937 random_;
+    Dice dice_;
 };
 
 }  // namespace coinlet::test

@@ -102,6 +102,21 @@ TEST_F(Play, AnInterruptThatFailsTellsItsOwnLine) {
     Fails("interrupt 1 nonsense\n", "1: no such command: nonsense");
 }
 
+TEST_F(Play, WhatIsTriedMayBeOutOfReach) {
+    Passes(
+        "try click AskForm.OkKnop\ntry pick Main.List1 99\ntry close AskForm\n"
+        "interrupt 1 try click AskForm.OkKnop\ninterrupt 2 try set Main.Log.Caption two;\n"
+        "click Main.Knop(2)\nexpect Main.Log.Caption two;end;\n");
+    Fails("try nonsense\n", "1: no such command: nonsense");
+    Fails("try set Main.Timer1.Enabled perhaps\n", "1: neither true nor false: \"perhaps\"");
+}
+
+TEST_F(Play, InterruptsBehindTheOneThatEndsTheProgramAreForgotten) {
+    Passes(
+        "answer yes\ninterrupt 1 close Main\ninterrupt 1 set Main.Log.Caption late\nclick Main.Knop(2)\n"
+        "expect Program.Ended true\n");
+}
+
 TEST_F(Play, ARestartInsideAnInterruptEndsTheHandler) {
     Passes("interrupt 1 restart\nclick Main.Knop(2)\nexpect Main.Log.Caption Activate;\n");
 }
@@ -115,6 +130,13 @@ TEST_F(Play, GesturesRaiseTheEventsOfThePointer) {
         "pixel Main.Pic 2 3 255,0,0\npixel Main.Pic 3 3 16777215\npixel Main.Pic 20 0 -1\n");
     Passes("drag Main.Pic 1 1 30 30\nexpect Main.Log.Caption Activate;Down1;Move1;Up1;\n");
     Passes("move Main.Pic 0 1 1\nclick Main.Pic\nexpect Main.Log.Caption Activate;Move0;Down1;Up1;\n");
+}
+
+TEST_F(Play, SlidingChangesAScrollBarOnceAtItsEnd) {
+    Passes(
+        "slide Main.HScroll1 10 500 40\nexpect Main.HScroll1.Value 40\n"
+        "expect Main.Log.Caption Activate;HScroll1_Change;\n");
+    Fails("slide Main.Pic 1\n", "1: Main.Pic is no scroll bar");
 }
 
 TEST_F(Play, GesturesMayLeaveTheControl) {

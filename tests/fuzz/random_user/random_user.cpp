@@ -1,0 +1,157 @@
+#include "fuzz/random_user/random_user.h"
+
+#include "base/files.h"
+#include "fuzz/random_user/chance.h"
+#include "fuzz/random_user/extremes.h"
+#include "fuzz/random_user/invariants.h"
+#include "player/failure.h"
+#include "support/bmp_bytes.h"
+#include "support/gif_bytes.h"
+
+#include <algorithm>
+#include <numeric>
+#include <ostream>
+
+namespace coinlet::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// So that what was hidden or disabled by an assignment comes back before long.
+constexpr std::size_t stepsOfALife = 400;
+/// More than one handler asks for.
+constexpr std::ptrdiff_t answersReady = 12;
+
+std::string WriteFileLine(const std::string& path, const Bytes& bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string line = "write-file " + path + " \"";
+    for (const std::uint8_t byte : bytes)
+        line += {'\\', 'x', digits[byte / 16U], digits[byte % 16U]};
+    return line + '"';
+}
+
+/// Pictures for the image browser, a damaged one among them.
+std::vector<std::string> FirstLines() {
+    Bytes pixels(48 * 31 * 3);
+    std::iota(pixels.begin(), pixels.end(), std::uint8_t{0});
+    const Bytes bitmap = BmpBytes{.width = 48, .height = 31, .bits = 24, .pixels = pixels}.File();
+    const std::vector<std::uint8_t> indices{0, 1, 2, 3, 3, 2, 1, 0, 1};
+    return {WriteFileLine("Images/bitmap.bmp", bitmap),
+            WriteFileLine("Images/cut.bmp", Bytes(bitmap.begin(), bitmap.begin() + 99)),
+            WriteFileLine("Images/small.gif",
+                          GifBytes{.width = 3, .height = 3, .frames = {{0, 0, 3, 3, indices}}}.File()),
+            "expect Program.Ended false"};
+}
+
+/// Lines that queue answers of a kind that is running out.
+std::vector<std::string> AnswerLines(Dice& dice, const player::Answers& answers) {
+    const auto& waiting = answers.Waiting();
+    const auto isQuestion = [](const player::QueuedAnswer& queued) {
+        const Answer* const answer = std::get_if<Answer>(&queued);
+        return answer && *answer != Answer::Ok;
+    };
+    const auto isText = [](const player::QueuedAnswer& queued) {
+        return std::holds_alternative<player::TextAnswer>(queued);
+    };
+    const auto isFolder = [](const player::QueuedAnswer& queued) {
+        return std::holds_alternative<player::FolderAnswer>(queued);
+    };
+    constexpr const char* choices[] = {"answer yes", "answer no", "answer cancel"};
+    constexpr const char* folders[] = {"answer-folder Images", "answer-folder \"\"", "answer-folder nowhere",
+                                       "answer-folder @out/Pictures"};
+    std::vector<std::string> lines;
+    for (auto count = std::ranges::count_if(waiting, isQuestion); count < answersReady; ++count)
+        lines.emplace_back(dice.Pick(choices));
+    for (auto count = std::ranges::count_if(waiting, isText); count < answersReady; ++count)
+        lines.push_back("answer-text " + AnyText(dice));
+    for (auto count = std::ranges::count_if(waiting, isFolder); count < answersReady; ++count)
+        lines.emplace_back(dice.Pick(folders));
+    return lines;
+}
+
+std::string AnyUserOrStateLine(const Chance& chance) {
+    constexpr std::size_t oneInState = 5;
+    return AnyLine(chance, chance.dice.OneIn(oneInState) ? StateLines() : UserLines());
+}
+
+/// Something that comes in the midst of something else.
+std::string InterruptLine(const Chance& chance) {
+    return "interrupt " + std::to_string(chance.dice.Between(1, 3)) + " try " + AnyUserOrStateLine(chance);
+}
+
+}  // namespace
+
+std::string AnyLine(const Chance& chance, std::span<const WeightedMaker> makers) {
+    const std::size_t all = std::accumulate(makers.begin(), makers.end(), std::size_t{0},
+                                            [](std::size_t sum, auto& maker) { return sum + maker.weight; });
+    while (true) {
+        std::size_t chosen = chance.dice.Below(all);
+        auto maker = makers.begin();
+        for (; chosen >= maker->weight; ++maker)
+            chosen -= maker->weight;
+        if (std::string line = maker->make(chance); !line.empty()) return line;
+    }
+}
+
+RandomUser::RandomUser(std::uint32_t seed, std::size_t steps, const player::Places& places,
+                       std::ostream& script)
+    : dice_(seed), steps_(steps), places_(places), script_(script) {
+    for (std::string& line : FirstLines())
+        prepared_.push_back(std::move(line));
+}
+
+std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
+    if (life) {
+        if (const std::string fault = FindFault(*life); !fault.empty()) player::Fail(fault);
+        if (life->platform.Ended()) CheckFilesAfterEnd();
+    }
+    if (step_ == steps_) return std::nullopt;
+    ++step_;
+    std::string line = MakeLine(life);
+    script_ << line << std::endl;  // A crash must not take it away.
+    return player::ScriptLine{static_cast<int>(step_), std::move(line)};
+}
+
+std::string RandomUser::MakeLine(player::Life* life) {
+    if (prepared_.empty()) {
+        if (life->platform.Ended() || step_ % stepsOfALife == 0) return "restart";
+        const Chance chance{dice_, *life, pressed_};
+        constexpr std::size_t oneInInterrupts = 12;
+        for (std::string& line : AnswerLines(dice_, life->answers))
+            prepared_.push_back(std::move(line));
+        prepared_.push_back(dice_.OneIn(oneInInterrupts) ? InterruptLine(chance)
+                                                         : AnyUserOrStateLine(chance));
+    }
+    std::string line = std::move(prepared_.front());
+    prepared_.pop_front();
+    return line;
+}
+
+void RandomUser::ProgramEnding() {
+    filesAtEnd_ = ReadFiles();
+}
+
+void RandomUser::CheckFilesAfterEnd() {
+    if (!filesAtEnd_) return;
+    const Files files = ReadFiles();
+    const auto [before, after] = std::ranges::mismatch(*filesAtEnd_, files);
+    if (after != files.end())
+        player::Fail("after the end of the program " + after->first.string() + " was written");
+    if (before != filesAtEnd_->end())
+        player::Fail("after the end of the program " + before->first.string() + " was deleted");
+    filesAtEnd_.reset();
+}
+
+RandomUser::Files RandomUser::ReadFiles() const {
+    Files files;
+    for (const fs::path& folder : {places_.Application(), places_.Out(), fs::current_path()}) {
+        for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+            const auto bytes = entry.is_regular_file() ? ReadFile(entry.path()) : std::nullopt;
+            if (bytes) files[entry.path()] = std::string(bytes->begin(), bytes->end());
+        }
+    }
+    return files;
+}
+
+}  // namespace coinlet::test

@@ -1,0 +1,217 @@
+// What a user can do to the form in front.
+
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/menu.h"
+#include "controls/scroll_bar.h"
+#include "controls/text_box.h"
+#include "controls/timer.h"
+#include "controls/vista_button.h"
+#include "fuzz/random_user/chance.h"
+#include "fuzz/random_user/extremes.h"
+#include "player/names.h"
+
+#include <vector>
+
+namespace coinlet::test {
+
+namespace {
+
+using player::FullNameOf;
+
+/// The reachable controls of one type, or those that also satisfy a condition.
+template <class T, class Condition>
+std::vector<T*> Reachable(const Chance& chance, Condition condition) {
+    std::vector<T*> found;
+    for (Element* const element : chance.Front().Elements()) {
+        auto* const control = dynamic_cast<T*>(element);
+        if (control && chance.Reaches(*control) && condition(*control)) found.push_back(control);
+    }
+    return found;
+}
+template <class T>
+std::vector<T*> Reachable(const Chance& chance) {
+    return Reachable<T>(chance, [](const T&) { return true; });
+}
+
+/// A pick of the list, or nullptr from an empty one.
+template <class T>
+T* PickOf(const Chance& chance, const std::vector<T*>& list) {
+    return list.empty() ? nullptr : chance.dice.Pick(list);
+}
+
+/// There is a place in it; assignments make controls of any size.
+bool HasPixels(const Control& control) {
+    constexpr int large = 1 << 20;
+    return control.PixelWidth() > 0 && control.PixelHeight() > 0 && control.PixelWidth() < large &&
+           control.PixelHeight() < large;
+}
+
+/// A place in the control, in the units of its pointer events, that is inside by a hair at its ends.
+std::string PlaceIn(const Chance& chance, const Control& control) {
+    const int unit = static_cast<int>(control.PointerUnitsPerPixel());
+    const int right = (control.PixelWidth() - 1) * unit, bottom = (control.PixelHeight() - 1) * unit;
+    Dice& dice = chance.dice;
+    const int x = dice.OneIn(8) ? (dice.OneIn(2) ? 0 : right) : dice.Between(0, right);
+    const int y = dice.OneIn(8) ? (dice.OneIn(2) ? 0 : bottom) : dice.Between(0, bottom);
+    return " " + std::to_string(x) + " " + std::to_string(y);
+}
+
+/// A place near the control, or anywhere.
+std::string PlaceAbout(const Chance& chance, const Control& control) {
+    constexpr int about = 60;
+    Dice& dice = chance.dice;
+    if (dice.OneIn(2)) return PlaceIn(chance, control);
+    if (dice.OneIn(4)) return " " + AnyNumber(dice) + " " + AnyNumber(dice);
+    return " " + std::to_string(dice.Between(-about, control.PixelWidth() + about)) + " " +
+           std::to_string(dice.Between(-about, control.PixelHeight() + about));
+}
+
+/// The pictures are where gestures mean most.
+Control* PointerTarget(const Chance& chance) {
+    if (chance.dice.OneIn(3)) return PickOf(chance, Reachable<Control>(chance, HasPixels));
+    const auto pictures = Reachable<Control>(chance, [](const Control& control) {
+        return control.Kind() == ControlKind::PictureBox && HasPixels(control);
+    });
+    return PickOf(chance, pictures);
+}
+
+std::string AnyButton(Dice& dice) {
+    return dice.OneIn(4) ? " 2" : " 1";
+}
+
+std::string Click(const Chance& chance) {
+    const Control* const control = PickOf(chance, Reachable<Control>(chance));
+    return control ? "click " + FullNameOf(*control) : "";
+}
+
+std::string ClickButton(const Chance& chance) {
+    const Control* const button = PickOf(chance, Reachable<VistaButton>(chance));
+    return button ? "click " + FullNameOf(*button) : "";
+}
+
+std::string ChooseEntry(const Chance& chance) {
+    std::vector<MenuItem*> entries;
+    for (Element* const element : chance.Front().Elements()) {
+        auto* const entry = dynamic_cast<MenuItem*>(element);
+        if (entry && entry->CanBeChosen() && entry->Entries().empty()) entries.push_back(entry);
+    }
+    const MenuItem* const entry = PickOf(chance, entries);
+    return entry ? "click " + FullNameOf(*entry) : "";
+}
+
+std::string Press(const Chance& chance) {
+    const Control* const control = PointerTarget(chance);
+    if (!control) return "";
+    chance.pressed = FullNameOf(*control);
+    return "press " + chance.pressed + AnyButton(chance.dice) + PlaceIn(chance, *control);
+}
+
+/// Moves and releases after a press; the pointer may leave the control meanwhile, and its form may have gone.
+std::string GoOn(const Chance& chance) {
+    const auto pressed = Reachable<Control>(
+        chance, [&](const Control& control) { return FullNameOf(control) == chance.pressed; });
+    if (pressed.empty() || !HasPixels(*pressed.front())) return "";
+    const bool isEnd = chance.dice.OneIn(4);
+    if (isEnd) chance.pressed.clear();
+    return (isEnd ? "release " : "move ") + FullNameOf(*pressed.front()) + AnyButton(chance.dice) +
+           PlaceAbout(chance, *pressed.front());
+}
+
+/// Without a press before it.
+std::string Hover(const Chance& chance) {
+    const Control* const control = PointerTarget(chance);
+    if (!control) return "";
+    const std::string command = chance.dice.OneIn(8) ? "release " : "move ";
+    const std::string button = chance.dice.OneIn(4) ? AnyButton(chance.dice) : " 0";
+    return command + FullNameOf(*control) + button + PlaceIn(chance, *control);
+}
+
+std::string Drag(const Chance& chance) {
+    const Control* const control = PointerTarget(chance);
+    if (!control) return "";
+    return "drag " + FullNameOf(*control) + PlaceIn(chance, *control) + PlaceAbout(chance, *control);
+}
+
+std::string PutPointer(const Chance& chance) {
+    if (chance.dice.OneIn(4)) return "pointer away";
+    const Control* const control = PickOf(chance, Reachable<Control>(chance, HasPixels));
+    return control ? "pointer " + FullNameOf(*control) + PlaceAbout(chance, *control) : "";
+}
+
+std::string Key(const Chance& chance) {
+    constexpr int keys[] = {0, 8, 9, 13, 27, 32, 33, 34, 35, 36, 37, 38, 39, 40, 46, 48, 65, 90, 112, 255};
+    constexpr const char* commands[] = {"key ", "key ", "keydown ", "keyup "};
+    const Control* const control = PickOf(chance, Reachable<Control>(chance));
+    const bool toForm = !control || chance.dice.OneIn(3);
+    const std::string address = toForm ? std::string(chance.Front().Name()) : FullNameOf(*control);
+    const std::string code =
+        chance.dice.OneIn(16) ? AnyWhole(chance.dice) : std::to_string(chance.dice.Pick(keys));
+    return chance.dice.Pick(commands) + address + " " + code;
+}
+
+std::string Type(const Chance& chance) {
+    std::vector<Control*> fields = Reachable<Control>(chance, [](const Control& control) {
+        return control.Kind() == ControlKind::TextBox || control.Kind() == ControlKind::ComboBox;
+    });
+    const Control* const field = PickOf(chance, fields);
+    return field ? "type " + FullNameOf(*field) + " " + AnyText(chance.dice) : "";
+}
+
+std::string PickRow(const Chance& chance) {
+    std::vector<std::pair<const Control*, int>> lists;
+    for (const auto* const list : Reachable<ListBox>(chance))
+        if (list->ListCount() > 0) lists.emplace_back(list, list->ListCount());
+    for (const auto* const combo : Reachable<ComboBox>(chance))
+        if (combo->ListCount() > 0) lists.emplace_back(combo, combo->ListCount());
+    if (lists.empty()) return "";
+    const auto [list, count] = chance.dice.Pick(lists);
+    return "pick " + FullNameOf(*list) + " " + std::to_string(chance.dice.Between(0, count - 1));
+}
+
+std::string Slide(const Chance& chance) {
+    const auto* const bar = PickOf(chance, Reachable<ScrollBar>(chance));
+    if (!bar) return "";
+    std::string line = "slide " + FullNameOf(*bar);
+    for (std::size_t i = 0; i <= chance.dice.Below(3); ++i)
+        line += " " + AnyWhole(chance.dice);
+    return line;
+}
+
+std::string Focus(const Chance& chance) {
+    const Control* const control =
+        PickOf(chance, Reachable<Control>(chance, [](const Control& one) { return one.CanFocus(); }));
+    return control ? "focus " + FullNameOf(*control) : "";
+}
+
+std::string Tick(const Chance& chance) {
+    std::vector<Element*> ticking;
+    for (Element* const element : chance.Front().Elements()) {
+        const auto* const timer = dynamic_cast<Timer*>(element);
+        const auto* const button = dynamic_cast<VistaButton*>(element);
+        // A button's own timer has no address; it is ticked by the button's.
+        if ((timer && !timer->Owner() && timer->Enabled && timer->Interval > 0) ||
+            (button && button->HoverTimer()))
+            ticking.push_back(element);
+    }
+    const Element* const element = PickOf(chance, ticking);
+    return element ? "tick " + FullNameOf(*element) : "";
+}
+
+std::string Close(const Chance& chance) {
+    return "close " + std::string(chance.Front().Name());
+}
+
+constexpr WeightedMaker makers[] = {
+    {20, GoOn}, {12, ClickButton}, {10, ChooseEntry}, {8, Press}, {8, Drag},
+    {6, Hover}, {5, Key},          {4, Click},        {4, Slide}, {4, PickRow},
+    {3, Type},  {3, Tick},         {2, PutPointer},   {2, Focus}, {1, Close},
+};
+
+}  // namespace
+
+std::span<const WeightedMaker> UserLines() {
+    return makers;
+}
+
+}  // namespace coinlet::test
