@@ -95,6 +95,11 @@ QFont ToQFont(const FontProperties& font) {
     return result;
 }
 
+void PrepareToolkit() {
+    QApplication::setDesktopSettingsAware(false);
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+}
+
 void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette palette = FormPalette();

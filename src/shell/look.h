@@ -30,6 +30,11 @@ inline QColor ToQColor(Colour colour) {
 /// A font with letters of `FontSize` points at 96 dots an inch, whatever the desktop is set to.
 QFont ToQFont(const FontProperties& font);
 
+/// What the toolkit must know before it starts: its look is our own, so it needn't ask the desktop, and no
+/// move of the pointer is dropped, or quick strokes would lose their bends. To be called before the
+/// application object is made.
+void PrepareToolkit();
+
 /// Gives the application its fixed look: one style, colours that a dark desktop doesn't change, and letters
 /// of 11 pixels. To be called once, after the application object is made.
 void ApplyLook();

@@ -18,8 +18,7 @@ namespace {
 
 /// The toolkit is told how to behave before it starts.
 QApplication* MakeApplication(int& argc, char** argv) {
-    // Colours and letters are fixed, so the desktop needn't be asked for its own.
-    QApplication::setDesktopSettingsAware(false);
+    PrepareToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Coinlet Designer"));
     auto* application = new QApplication(argc, argv);
     // Numbers in files have a point whatever the desktop's language.

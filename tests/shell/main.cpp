@@ -23,7 +23,7 @@ extern "C" const char* __lsan_default_suppressions() {
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
-    QApplication::setDesktopSettingsAware(false);
+    coinlet::PrepareToolkit();
     const QApplication application(argc, argv);
     if (argc == 3 && std::strcmp(argv[1], "--save-clipboard") == 0)
         return QGuiApplication::clipboard()->image().save(QString::fromLocal8Bit(argv[2]), "PNG") ? 0 : 1;
