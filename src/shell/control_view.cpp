@@ -105,14 +105,14 @@ void ControlView::Press(int button, int shift, float x, float y, bool) {
     Gate().Enter([&] { control_->PointerPressed(button, shift, x, y); });
 }
 
-bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+bool ControlView::eventFilter(QObject*, QEvent* event) {
     if (!control_) return false;
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseMove:
-            return HandlePointer(watched, static_cast<const QMouseEvent&>(*event));
+            return HandlePointer(static_cast<const QMouseEvent&>(*event));
         case QEvent::KeyPress:
             return HandleKey(static_cast<const QKeyEvent&>(*event));
         case QEvent::KeyRelease:
@@ -129,15 +129,16 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-bool ControlView::HandlePointer(QObject* watched, const QMouseEvent& event) {
+bool ControlView::HandlePointer(const QMouseEvent& event) {
     if (!control_->Reachable()) return true;
     const bool move = event.type() == QEvent::MouseMove;
     const int button = move ? HeldButton(event.buttons()) : ButtonNumber(event.button());
     if (!move && button == 0) return true;
     const int shift = ShiftState(event.modifiers());
 
-    const auto* part = static_cast<const QWidget*>(watched);
-    const QPointF place = part == widget_ ? event.position() : part->mapTo(widget_, event.position());
+    // The toolkit rounds places in a widget, which would move the right half of an enlarged pixel to the next
+    // one; places in the window it leaves as they are.
+    const QPointF place = event.scenePosition() - widget_->mapTo(widget_->window(), QPoint(0, 0));
     const float unit = control_->PointerUnitsPerPixel();
     const float x = static_cast<float>(std::floor(place.x())) * unit;
     const float y = static_cast<float>(std::floor(place.y())) * unit;

@@ -67,7 +67,7 @@ protected:
 
 private:
     void MirrorPlace();
-    bool HandlePointer(QObject* watched, const QMouseEvent& event);
+    bool HandlePointer(const QMouseEvent& event);
     bool HandleKey(const QKeyEvent& event);
     bool KeepsKey(const QKeyEvent& event) const;
     void TakeToolkitFocus();

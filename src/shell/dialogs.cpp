@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 #include <iterator>
@@ -46,6 +47,12 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Small pictures on the buttons would be of another family than the program's own.
+void TakeIconsOff(QDialog& dialog) {
+    for (auto* button : dialog.findChildren<QPushButton*>())
+        button->setIcon({});
+}
+
 }  // namespace
 
 Answer ShowMessageBox(QWidget* parent, const Message& message) {
@@ -57,6 +64,7 @@ Answer ShowMessageBox(QWidget* parent, const Message& message) {
     box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
     const bool toldNo = question && message.standard == Answer::No;
     box.setDefaultButton(ButtonOf(toldNo ? Answer::No : question ? Answer::Yes : Answer::Ok));
+    TakeIconsOff(box);
     const int pressed = box.exec();
     const auto* found = std::find_if(std::begin(answers), std::end(answers),
                                      [=](const NamedAnswer& entry) { return entry.button == pressed; });
@@ -69,6 +77,7 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box.setTextValue(ToQString(standard));
+    TakeIconsOff(box);
     return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }
 
@@ -76,6 +85,7 @@ std::string ShowFolderPicker(QWidget* parent, const std::string& title) {
     QFileDialog picker(parent, ToQString(title));
     picker.setFileMode(QFileDialog::Directory);
     picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
+    TakeIconsOff(picker);
     if (picker.exec() != QDialog::Accepted || picker.selectedFiles().isEmpty()) return {};
     return ToUtf8(picker.selectedFiles().constFirst());
 }

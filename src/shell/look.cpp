@@ -1,16 +1,17 @@
 #include "shell/look.h"
 
 #include "shell/qt_text.h"
+#include "shell/stock_bytes.h"
 
 #include <QApplication>
-#include <QPainter>
 #include <QPixmap>
-#include <QPolygonF>
 #include <QStyleFactory>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <span>
 
 namespace coinlet {
 
@@ -49,26 +50,34 @@ QPalette FormPalette() {
     return palette;
 }
 
-/// A pencil that writes with its lower left end; its point is the hot spot.
+QPixmap StockPixmap(std::span<const std::uint8_t> bytes) {
+    QPixmap picture;
+    picture.loadFromData(bytes.data(), static_cast<uint>(bytes.size()), "PNG");
+    return picture;
+}
+
+/// The pencil of the tools; its point, at the lower left, is the hot spot.
 QCursor MakePencil() {
-    constexpr int size = 24;
-    constexpr qreal pixelsADot = 2;  // Drawn finer than it is shown, so that it stays sharp when enlarged.
-    QPixmap picture(static_cast<int>(size * pixelsADot), static_cast<int>(size * pixelsADot));
-    picture.setDevicePixelRatio(pixelsADot);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(QColor(250, 205, 60));
-    painter.drawPolygon(QPolygonF{{5, 14}, {16, 3}, {20, 7}, {9, 18}});
-    painter.setBrush(QColor(225, 120, 120));
-    painter.drawPolygon(QPolygonF{{16, 3}, {18, 1}, {22, 5}, {20, 7}});
-    painter.setBrush(QColor(245, 225, 190));
-    painter.drawPolygon(QPolygonF{{5, 14}, {9, 18}, {1, 22}});
-    painter.setBrush(Qt::black);
-    painter.drawPolygon(QPolygonF{{2.2, 19.2}, {3.8, 20.8}, {1, 22}});
-    painter.end();
-    return QCursor(picture, 1, 22);
+    constexpr int pointX = 1, pointY = 30;
+    if (qGuiApp->devicePixelRatio() <= 1)
+        return QCursor(StockPixmap(stock_bytes::ToolPointer()), pointX, pointY);
+    QPixmap fine = StockPixmap(stock_bytes::ToolPointer2x());
+    fine.setDevicePixelRatio(2);
+    return QCursor(fine, pointX, pointY);
+}
+
+/// Menus are of the forms' colour, not of the fields'. The style gives disabled letters a light edge, which
+/// is made to vanish.
+QPalette MenuPalette() {
+    QPalette palette = FormPalette();
+    const QColor ground = ToQColor(RGB(236, 236, 216));
+    for (const auto group : allGroups) {
+        palette.setColor(group, QPalette::Window, ground);
+        palette.setColor(group, QPalette::Base, ground);
+        palette.setColor(group, QPalette::Light, ground);
+        palette.setColor(group, QPalette::Text, palette.color(group, QPalette::WindowText));
+    }
+    return palette;
 }
 
 }  // namespace
@@ -90,6 +99,7 @@ void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette palette = FormPalette();
     QApplication::setPalette(palette);
+    QApplication::setPalette(MenuPalette(), "QMenu");
     QToolTip::setPalette(palette);
     const QFont font = ToQFont({});
     QApplication::setFont(font);
@@ -106,6 +116,7 @@ QPalette FieldPalette(Colour text, Colour ground) {
                       (letters.blue() + paper.blue()) / 2);
     QPalette palette = QApplication::palette();
     for (const auto group : allGroups) {
+        palette.setColor(group, QPalette::WindowText, ToQColor(edgeColour));  // The frame around it.
         palette.setColor(group, QPalette::Base, paper);
         palette.setColor(group, QPalette::Text, group == QPalette::Disabled ? pale : letters);
     }
@@ -128,23 +139,11 @@ std::optional<QCursor> PointerShape(int number) {
 }
 
 QIcon ProgramIcon() {
-    constexpr int size = 48;
-    QPixmap picture(size, size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient metal(8, 4, 40, 44);
-    metal.setColorAt(0, QColor(255, 246, 190));
-    metal.setColorAt(0.5, QColor(225, 180, 60));
-    metal.setColorAt(1, QColor(150, 105, 20));
-    painter.setPen(QPen(QColor(70, 50, 10), 2));
-    painter.setBrush(metal);
-    painter.drawEllipse(QRectF(3, 3, 42, 42));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QRectF(10, 10, 28, 28));
-    painter.setBrush(QColor(70, 50, 10));
-    painter.drawEllipse(QRectF(21, 4.5, 6, 6));
-    return QIcon(picture);
+    QIcon icon;
+    for (const auto bytes : {stock_bytes::WindowIcon16(), stock_bytes::WindowIcon32(),
+                             stock_bytes::WindowIcon48(), stock_bytes::WindowIcon64()})
+        icon.addPixmap(StockPixmap(bytes));
+    return icon;
 }
 
 }  // namespace coinlet

@@ -41,7 +41,7 @@ QPalette FieldPalette(Colour text, Colour ground);
 /// The pointer shape of that number, or nothing for the shape of what lies behind.
 std::optional<QCursor> PointerShape(int number);
 
-/// The program's mark in the title bar: a coin.
+/// The program's mark in the title bar, in several sizes.
 QIcon ProgramIcon();
 
 }  // namespace coinlet

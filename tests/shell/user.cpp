@@ -38,9 +38,9 @@ bool User::Sees(const std::function<bool()>& condition) {
 
 QPoint User::ToScreen(const QWidget& widget, const QPoint& place) {
     // The middle of a pixel of the widget, however large the display shows it.
-    const QPointF middle = widget.mapToGlobal(QPointF(place) + QPointF(0.5, 0.5));
     const double scale = widget.devicePixelRatioF();
-    return {static_cast<int>(middle.x() * scale), static_cast<int>(middle.y() * scale)};
+    const QPoint corner = widget.mapToGlobal(place);
+    return {static_cast<int>((corner.x() + 0.5) * scale), static_cast<int>((corner.y() + 0.5) * scale)};
 }
 
 QPoint User::PlaceOf(const Control& control, int x, int y) {
