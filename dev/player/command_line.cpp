@@ -8,10 +8,11 @@ std::optional<Options> ReadCommandLine(const std::vector<std::string>& words) {
         const bool isFolder = *word == "--folder", isOut = *word == "--out";
         if (isFolder || isOut) {
             if (++word == words.end()) return std::nullopt;
-            if (isFolder)
+            if (isFolder) {
                 options.folder = *word;
-            else
+            } else {
                 options.out = *word;
+            }
         } else if (word->starts_with("--")) {
             return std::nullopt;
         } else {

@@ -53,8 +53,6 @@ struct Life {
     PlayerPlatform platform;
     PictureGrab grab{platform.pointer};
     Services services;
-    /// The control on which a button of the pointer went down and hasn't gone up.
-    const Control* draggedFrom = nullptr;
     std::unique_ptr<Program> program;
 };
 

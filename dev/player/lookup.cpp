@@ -177,10 +177,11 @@ NamedEvent FindEvent(Life& life, const Address& address) {
     if (address.parts.size() < 2) Fail("expected an event, found " + address.text);
     const Target target = FindTarget(life, WithoutLast(address));
     EventCollector events;
-    if (target.element)
+    if (target.element) {
         target.element->VisitEvents(events);
-    else
+    } else {
         target.form->VisitEvents(events);
+    }
     const auto event = std::ranges::find(events.found, Show(address.parts.back()), &NamedEvent::name);
     if (event == events.found.end()) {
         Fail("no event " + Show(address.parts.back()) + " of " + WithoutLast(address).text + ", only " +

@@ -27,10 +27,11 @@ Image FindPicture(ScriptRun& run, const Address& address) {
 }
 
 void SetPicture(ScriptRun& run, const Address& address, const Image& image) {
-    if (IsClipboard(address))
+    if (IsClipboard(address)) {
         run.TheWorld().clipboard.SetImage(image);
-    else if (!SetPictureOf(FindElement(run.TheLife(), address), image))
+    } else if (!SetPictureOf(FindElement(run.TheLife(), address), image)) {
         Fail(address.text + " can't have a picture");
+    }
 }
 
 Image ReadPicture(const ScriptRun& run, const fs::path& file) {

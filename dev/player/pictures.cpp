@@ -29,14 +29,15 @@ std::optional<Image> PictureOf(const Element& element) {
 }
 
 bool SetPictureOf(Element& element, const Image& image) {
-    if (auto* const box = dynamic_cast<PictureBox*>(&element))
+    if (auto* const box = dynamic_cast<PictureBox*>(&element)) {
         box->surface.SetPicture(image);
-    else if (auto* const button = dynamic_cast<VistaButton*>(&element))
+    } else if (auto* const button = dynamic_cast<VistaButton*>(&element)) {
         button->SetPicture(image);
-    else if (auto* const stock = dynamic_cast<StockPicture*>(&element))
+    } else if (auto* const stock = dynamic_cast<StockPicture*>(&element)) {
         stock->Picture = image;
-    else
+    } else {
         return false;
+    }
     return true;
 }
 

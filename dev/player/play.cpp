@@ -2,8 +2,7 @@
 
 #include "player/script_run.h"
 
-#include <stdlib.h>
-
+#include <cstdlib>
 #include <ostream>
 
 namespace coinlet::player {

@@ -32,17 +32,18 @@ bool TakesPointer(const Control& control) {
 
 /// The control in front at a point, which is in pixels from the container's corner; nullptr if there is none.
 const Control* FrontControl(const Container& container, Point point) {
-    const auto& children = container.Children();
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        const Control& control = **child;
+    const auto inside = [point](const Control& control) {
         const Point corner = CornerInContainer(control);
-        const Point inside{point.x - corner.x, point.y - corner.y};
-        if (!control.Visible || !TakesPointer(control) || !Contains(control, inside)) continue;
-        const auto* const inner = dynamic_cast<const Container*>(&control);
-        const Control* const front = inner ? FrontControl(*inner, inside) : nullptr;
-        return front ? front : &control;
-    }
-    return nullptr;
+        return Point{point.x - corner.x, point.y - corner.y};
+    };
+    const auto& children = container.Children();
+    const auto front = std::find_if(children.rbegin(), children.rend(), [&](const Control* child) {
+        return child->Visible && TakesPointer(*child) && Contains(*child, inside(*child));
+    });
+    if (front == children.rend()) return nullptr;
+    const auto* const inner = dynamic_cast<const Container*>(*front);
+    const Control* const deeper = inner ? FrontControl(*inner, inside(**front)) : nullptr;
+    return deeper ? deeper : *front;
 }
 
 /// From a control's own corner to the corner of its form.
@@ -63,9 +64,10 @@ void PointerPlace::PutOn(const Control& control, double x, double y) {
 }
 
 void PointerPlace::PutInMiddleOf(const Control& control) {
+    const int column = control.PixelWidth() / 2, row = control.PixelHeight() / 2;
     control_ = &control;
-    x_ = control.PixelWidth() / 2;
-    y_ = control.PixelHeight() / 2;
+    x_ = column;
+    y_ = row;
 }
 
 const Control* PointerPlace::PlacedOn() const {

@@ -11,9 +11,10 @@ namespace coinlet::player {
 void RequireFront(const Life& life, const Form& form) {
     if (!form.Loaded()) Fail(std::string(form.Name()) + " isn't open");
     const Form* const front = life.platform.FrontForm();
-    if (front != &form)
+    if (front != &form) {
         Fail(std::string(form.Name()) + " is blocked by " + std::string(front->Name()) +
              ", which is in front");
+    }
 }
 
 void RequireReach(const Life& life, const Control& control) {
@@ -29,13 +30,6 @@ void RequireChoice(const Life& life, const MenuItem& entry) {
     if (entry.IsSeparator()) Fail(FullNameOf(entry) + " is a separator");
     if (!entry.Entries().empty()) Fail(FullNameOf(entry) + " is a menu, not an entry of one");
     if (!entry.CanBeChosen()) Fail(FullNameOf(entry) + " is hidden or disabled");
-}
-
-void RequireInside(const Control& control, double x, double y) {
-    const double unit = control.PointerUnitsPerPixel();
-    if (x >= 0 && y >= 0 && x < control.PixelWidth() * unit && y < control.PixelHeight() * unit) return;
-    Fail(ShowNumber(x) + " " + ShowNumber(y) + " lies outside " + FullNameOf(control) + ", which is " +
-         ShowNumber(control.PixelWidth() * unit) + " by " + ShowNumber(control.PixelHeight() * unit));
 }
 
 }  // namespace coinlet::player

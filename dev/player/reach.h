@@ -16,7 +16,5 @@ void RequireFront(const Life& life, const Form& form);
 void RequireReach(const Life& life, const Control& control);
 /// The entry can be chosen, and its form is in front.
 void RequireChoice(const Life& life, const MenuItem& entry);
-/// The place, in the units of pointer events, lies in the control.
-void RequireInside(const Control& control, double x, double y);
 
 }  // namespace coinlet::player

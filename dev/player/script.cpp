@@ -88,10 +88,11 @@ std::string TextOf(const Word& word) {
     if (!word.quoted) return word.source;
     std::string text;
     for (std::size_t at = 0; at < word.source.size();) {
-        if (word.source[at] == '\\')
+        if (word.source[at] == '\\') {
             text += ReadEscape(word.source, &at);
-        else
+        } else {
             text += word.source[at++];
+        }
     }
     return text;
 }

@@ -57,10 +57,11 @@ void ScriptRun::ServeInterrupts() {
     if (stop_) throw Unwinding{};
     for (PendingInterrupt& interrupt : interrupts_)
         --interrupt.count;
-    const auto due = std::ranges::stable_partition(
-        interrupts_, [](const PendingInterrupt& interrupt) { return interrupt.count > 0; });
-    const std::vector<PendingInterrupt> calls(due.begin(), due.end());
-    interrupts_.erase(due.begin(), due.end());
+    const auto due =
+        std::stable_partition(interrupts_.begin(), interrupts_.end(),
+                              [](const PendingInterrupt& interrupt) { return interrupt.count > 0; });
+    const std::vector<PendingInterrupt> calls(due, interrupts_.end());
+    interrupts_.erase(due, interrupts_.end());
     const int line = line_;
     for (const PendingInterrupt& interrupt : calls) {
         line_ = interrupt.line;

@@ -63,12 +63,12 @@ struct PointerStep {
     float x, y;
 };
 
-/// Reads "ADDR BUTTON X Y". While a button is held down on the control the pointer may leave it.
+/// Reads "ADDR BUTTON X Y". The place may lie outside the control: windows hand on the moves and the release
+/// of a drag from wherever it got to, and scripts set in where a drag begins elsewhere.
 PointerStep ReadPointerStep(ScriptRun& run, const Arguments& arguments) {
     Life& life = run.TheLife();
     Control& control = ReachControl(life, arguments.Address(0));
     const double x = arguments.Number(2), y = arguments.Number(3);
-    if (life.draggedFrom != &control) RequireInside(control, x, y);
     const int button = ReadButton(arguments);
     life.platform.pointer.PutOn(control, x, y);
     return {control, button, static_cast<float>(x), static_cast<float>(y)};
@@ -76,7 +76,6 @@ PointerStep ReadPointerStep(ScriptRun& run, const Arguments& arguments) {
 
 void Press(ScriptRun& run, const Arguments& arguments) {
     const PointerStep step = ReadPointerStep(run, arguments);
-    run.TheLife().draggedFrom = &step.control;
     step.control.PointerPressed(step.button, noShift, step.x, step.y);
 }
 
@@ -87,7 +86,6 @@ void Move(ScriptRun& run, const Arguments& arguments) {
 
 void Release(ScriptRun& run, const Arguments& arguments) {
     const PointerStep step = ReadPointerStep(run, arguments);
-    run.TheLife().draggedFrom = nullptr;
     step.control.PointerReleased(step.button, noShift, step.x, step.y);
 }
 
@@ -96,7 +94,6 @@ void Drag(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(life, arguments.Address(0));
     const double x1 = arguments.Number(1), y1 = arguments.Number(2);
     const double x2 = arguments.Number(3), y2 = arguments.Number(4);
-    RequireInside(control, x1, y1);
     const auto endX = static_cast<float>(x2), endY = static_cast<float>(y2);
     life.platform.pointer.PutOn(control, x1, y1);
     control.PointerPressed(leftButton, noShift, static_cast<float>(x1), static_cast<float>(y1));
@@ -174,12 +171,13 @@ void TypeInto(Box& box, const std::string& text) {
 void Type(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
     const std::string text = arguments.Text(1);
-    if (auto* const box = dynamic_cast<TextBox*>(&control))
+    if (auto* const box = dynamic_cast<TextBox*>(&control)) {
         TypeInto(*box, text);
-    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+    } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         TypeInto(*combo, text);
-    else
+    } else {
         Fail(arguments.Text(0) + " takes no text");
+    }
 }
 
 void Focus(ScriptRun& run, const Arguments& arguments) {
@@ -201,12 +199,13 @@ void PickRow(List& list, int row) {
 void Pick(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
     const int row = arguments.Whole(1);
-    if (auto* const list = dynamic_cast<ListBox*>(&control))
+    if (auto* const list = dynamic_cast<ListBox*>(&control)) {
         PickRow(*list, row);
-    else if (auto* const combo = dynamic_cast<ComboBox*>(&control))
+    } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         PickRow(*combo, row);
-    else
+    } else {
         Fail(arguments.Text(0) + " has no rows");
+    }
 }
 
 void Close(ScriptRun& run, const Arguments& arguments) {

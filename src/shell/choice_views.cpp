@@ -65,7 +65,8 @@ private:
     void Paint(QPainter& painter) const {
         const QWidget& widget = this->Widget();
         painter.fillRect(widget.rect(), ToQColor(look_.back));
-        PaintMark(painter, QRectF(0.5, (widget.height() - markSize) / 2 + 0.5, markSize - 1, markSize - 1));
+        const int top = (widget.height() - markSize) / 2;
+        PaintMark(painter, QRectF(0.5, top + 0.5, markSize - 1, markSize - 1));
 
         painter.setFont(letters_);
         painter.setPen(ToQColor(widget.isEnabled() ? look_.fore : disabledTextColour));

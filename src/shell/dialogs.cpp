@@ -2,6 +2,7 @@
 
 #include "shell/qt_text.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -82,7 +83,7 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
 }
 
 std::string ShowFolderPicker(QWidget* parent, const std::string& title) {
-    QFileDialog picker(parent, ToQString(title));
+    QFileDialog picker(parent, ToQString(title), QDir::homePath());
     picker.setFileMode(QFileDialog::Directory);
     picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     TakeIconsOff(picker);

@@ -200,7 +200,7 @@ void QtPlatform::StateChanged(Qt::ApplicationState state) {
     }
     ReadScreen();
     Form* front = FrontForm();
-    if (!away_ || !front || loops_.size() > 0) return;
+    if (!away_ || !front || !loops_.empty()) return;
     away_ = false;
     gate_.Enter([front] { front->Form_Activate(); });
 }

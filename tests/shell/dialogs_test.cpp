@@ -9,6 +9,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 
 namespace coinlet::test {
@@ -123,6 +124,37 @@ TEST_F(Windows, DialogHoldsItsCallerUntilItCloses) {
         EXPECT_EQ(form.Count("Check1"), 0);
         EXPECT_EQ(form.Count("Activate"), 2);
         EXPECT_TRUE(user.Sees([&] { return platform.WindowOf(form)->isActiveWindow(); }));
+    });
+}
+
+TEST_F(Windows, ReturnFromAnotherProgramActivatesTheMainForm) {
+    form.OkKnop.Click = [&] { platform.ShowMessage({.prompt = "Done."}); };
+    Run(form, [&](User& user) {
+        const auto away = [] { return QGuiApplication::applicationState() == Qt::ApplicationInactive; };
+        const auto comeBack = [&] {
+            platform.WindowOf(form)->activateWindow();
+            return platform.WindowOf(form)->isActiveWindow();
+        };
+        EXPECT_EQ(form.Count("Activate"), 1);
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), {"--in-front"});
+        EXPECT_TRUE(user.Sees(away));
+        other.kill();
+        other.waitForFinished();
+        EXPECT_TRUE(user.Sees(comeBack));
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Activate") == 2; }));
+
+        // The end of a message box is no return.
+        user.Click(form.OkKnop, 40, 14);
+        EXPECT_TRUE(user.Sees([] {
+            return QApplication::activeModalWidget() && QApplication::activeModalWidget()->isActiveWindow();
+        }));
+        user.Key("Return");
+        EXPECT_TRUE(user.Sees([] { return !QApplication::activeModalWidget(); }));
+        EXPECT_TRUE(user.Sees(comeBack));
+        user.Click(form.Check1, 5, 10);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("Check1") == 1; }));
+        EXPECT_EQ(form.Count("Activate"), 2);
     });
 }
 

@@ -112,8 +112,11 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
         life = std::thread([&] {
             User user(platform);
             EXPECT_TRUE(user.Sees([&] {
-                const FormWindow* window = platform.WindowOf(form);
-                return window && window->windowHandle()->isExposed() && window->isActiveWindow();
+                FormWindow* window = platform.WindowOf(form);
+                if (!window || !window->windowHandle()->isExposed()) return false;
+                // No window manager is there that would bring it to the front.
+                if (!window->isActiveWindow()) window->activateWindow();
+                return window->isActiveWindow();
             }));
             work(user);
             QMetaObject::invokeMethod(
@@ -129,6 +132,8 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
     while (!done)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     waiter.join();
+    // His farewell must not end the next test.
+    QCoreApplication::processEvents();
 }
 
 }  // namespace coinlet::test
