@@ -4,7 +4,7 @@
 set -euo pipefail
 
 run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
-test_packages=(libgtest-dev libbenchmark-dev xvfb xauth xdotool clang-format clang-tidy)
+test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
 
 packages=("${run_packages[@]}")
 if [ "${1:-run}" = test ]; then packages+=("${test_packages[@]}"); fi

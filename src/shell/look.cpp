@@ -4,6 +4,8 @@
 #include "shell/stock_bytes.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QImageReader>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -51,9 +53,13 @@ QPalette FormPalette() {
 }
 
 QPixmap StockPixmap(std::span<const std::uint8_t> bytes) {
-    QPixmap picture;
-    picture.loadFromData(bytes.data(), static_cast<uint>(bytes.size()), "PNG");
-    return picture;
+    QByteArray data(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+    QBuffer file(&data);
+    QImageReader reader(&file, "png");
+    // Without looking closer at the bytes the toolkit needs none of its plugins for further formats, which
+    // would be loaded while the user waits for the first window.
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
 }
 
 /// The pencil of the tools; its point, at the lower left, is the hot spot.

@@ -78,7 +78,8 @@ bool MenuView::Mirror() {
         changed = true;
         if (captionChanged) {
             entry.action->setSeparator(item.IsSeparator());
-            entry.action->setText(ToQString(entry.caption));
+            // The style would write a rule's text over the rule.
+            entry.action->setText(item.IsSeparator() ? QString() : ToQString(entry.caption));
         }
         if (shortcutChanged)
             entry.action->setShortcut(QKeySequence(ToQString(entry.shortcut), QKeySequence::PortableText));

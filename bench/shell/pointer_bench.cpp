@@ -1,0 +1,136 @@
+// What the ways of a pointer event through the main window cost: from the toolkit's event to the handler, and
+// to all widgets being equal to their controls again. Painting them isn't part of it.
+
+#include "app/application.h"
+#include "core/context.h"
+#include "core/main_form.h"
+#include "media/media_codecs.h"
+#include "media/qt_font_engine.h"
+#include "media/system_clock.h"
+#include "shell/qt_platform.h"
+#include "shell/shell.h"
+#include "support/temporary_folder.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+
+namespace coinlet {
+namespace {
+
+/// The started program and the widget of its canvas.
+struct Program {
+    QtPlatform& platform;
+    QWidget& canvas;
+
+    void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, const QPointF& place) const {
+        const QPointF inWindow = canvas.mapTo(canvas.window(), place);
+        QMouseEvent event(type, place, inWindow, canvas.mapToGlobal(place), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&canvas, &event);
+    }
+    void Press(const QPointF& place) const {
+        Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, place);
+    }
+    void Drag(const QPointF& place) const { Send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, place); }
+    void Release(const QPointF& place) const {
+        Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton, place);
+    }
+};
+
+/// A zigzag over the canvas in steps of a quick hand.
+QPointF Place(int step) {
+    constexpr int pitch = 7, room = 480;
+    return {static_cast<double>(step * pitch % room) + 10, static_cast<double>(step * pitch / 3 % room) + 10};
+}
+
+void FreeHandMove(benchmark::State& state, const Program& program) {
+    int step = 0;
+    program.Press(Place(step));
+    for ([[maybe_unused]] auto _ : state)
+        program.Drag(Place(++step));
+    program.Release(Place(step));
+}
+
+void PointerMoveWithoutPress(benchmark::State& state, const Program& program) {
+    int step = 0;
+    for ([[maybe_unused]] auto _ : state)
+        program.Send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton, Place(++step));
+}
+
+/// The canvas is kept for Undo by the press, and copied when something is first drawn after it.
+void PressWithFirstStroke(benchmark::State& state, const Program& program) {
+    int step = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        program.Press(Place(step));
+        program.Drag(Place(++step));
+        state.PauseTiming();
+        program.Release(Place(step));
+        state.ResumeTiming();
+    }
+}
+
+void IdlePass(benchmark::State& state, const Program& program) {
+    for ([[maybe_unused]] auto _ : state) {
+        program.platform.Mirror();
+        QCoreApplication::processEvents();
+    }
+}
+
+void Measure(const Program& program) {
+    struct Case {
+        const char* name;
+        void (*measure)(benchmark::State& state, const Program& program);
+    };
+    for (const Case& each :
+         {Case{"FreeHandMove", FreeHandMove}, Case{"PointerMoveWithoutPress", PointerMoveWithoutPress},
+          Case{"PressWithFirstStroke", PressWithFirstStroke}, Case{"IdlePass", IdlePass}}) {
+        benchmark::RegisterBenchmark(each.name, each.measure, program)->Unit(benchmark::kMicrosecond);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+}
+
+}  // namespace
+}  // namespace coinlet
+
+int main(int argc, char** argv) {
+    using namespace coinlet;
+
+    // No display is needed where nothing is painted.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    // The program writes into its folder, so it gets one that nobody uses.
+    const test::TemporaryFolder folder;
+    std::filesystem::copy(COINLET_DATA, folder.Path(), std::filesystem::copy_options::recursive);
+
+    Shell shell(argc, argv);
+    const QtFontEngine fonts;
+    const MediaCodecs codecs;
+    const SystemClock clock;
+    const Services services{.applicationFolder = folder.Path(),
+                            .platform = shell.GetPlatform(),
+                            .fonts = fonts,
+                            .codecs = codecs,
+                            .clock = clock,
+                            .desktop = shell.GetDesktop(),
+                            .clipboard = shell.GetClipboard(),
+                            .printer = shell.GetPrinter(),
+                            .screenGrab = shell.GetScreenGrab()};
+    Application application(services);
+    auto& platform = dynamic_cast<QtPlatform&>(shell.GetPlatform());
+    // The form is shown first; measuring begins when the program waits for its user.
+    QTimer::singleShot(0, [&] {
+        constexpr int freeHand = 0;
+        MainForm& main = application.GetContext().main;
+        main.Knop[freeHand].Click();
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* canvas = window->findChild<QWidget*>(QStringLiteral("Pic")))
+                Measure({platform, *canvas});
+        }
+        QCoreApplication::exit();
+    });
+    return shell.Run([&] { application.Start(); });
+}
