@@ -47,10 +47,11 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed) {
     const player::Libraries libraries{fonts, codecs, MakeCoinlet};
     const player::Places places(folder / "app", folder / "out", folder.Path());
     std::ofstream lines(script);
+    std::cout << "seed " << seed << ", steps in " << script.string() << std::endl;  // Before any crash.
     test::RandomUser user(seed, rounds, places, lines);
     const bool isSound = player::ScriptRun(script.string(), user, places, libraries, std::cout).Play();
     fs::current_path(fs::temp_directory_path());
-    std::cout << "seed " << seed << ": " << user.Steps() << " steps\n";
+    std::cout << user.Steps() << " steps\n";
     return isSound && user.Steps() == rounds;
 }
 
