@@ -6,6 +6,7 @@
 #include "core/main_life.h"
 #include "core/plaatjes.h"
 #include "tools/gesture_engine.h"
+#include "tools/image_browser.h"
 #include "tools/line_tools.h"
 #include "tools/tool_strip.h"
 
@@ -31,6 +32,7 @@ struct Application::House {
     MainLife life{context};
     HelpMenu help{context};
     ToolStrip strip{context};
+    ImageBrowser browser{context};
     GestureEngine gestures{context};
 };
 

@@ -8,53 +8,52 @@
 
 namespace coinlet {
 
-/// A box with a tick. Set to another value, by the user or in code, it raises `Click`.
-class CheckBox : public Control, public FontProperties {
+/// What a check box and an option button share: a caption beside a mark that is set or not.
+class ToggleControl : public Control, public FontProperties {
 public:
-    CheckBox(Container& container, std::string_view name, int index = noIndex);
-
     std::string Caption;
     Colour ForeColor = black;
     Colour BackColor = RGB(220, 220, 190);
 
     bool Value() const { return value_; }
-    void SetValue(bool value);
+    virtual void SetValue(bool value) = 0;
 
-    /// The space bar ticks it.
+    /// The space bar acts as a click.
     void KeyReleased(int code, int shift) override;
-    /// The user's click, however he makes it.
-    void Toggle() { SetValue(!value_); }
     void VisitProperties(PropertyVisitor& visitor) override;
 
 protected:
-    void Clicked() override { Toggle(); }
+    ToggleControl(Container& container, std::string_view name, int index, ControlKind kind);
+    /// Sets the mark without an event. True if that changes it.
+    bool Mark(bool value);
 
 private:
     bool value_ = false;
 };
 
+/// A box with a tick. Set to another value, by the user or in code, it raises `Click`.
+class CheckBox : public ToggleControl {
+public:
+    CheckBox(Container& container, std::string_view name, int index = noIndex);
+
+    void SetValue(bool value) override;
+    /// The user's click, however he makes it.
+    void Toggle() { SetValue(!Value()); }
+
+protected:
+    void Clicked() override { Toggle(); }
+};
+
 /// One of several choices: of the option buttons that lie in one container at most one is chosen. Becoming
 /// chosen, by the user or in code, raises its `Click`; becoming unchosen raises nothing.
-class OptionButton : public Control, public FontProperties {
+class OptionButton : public ToggleControl {
 public:
     OptionButton(Container& container, std::string_view name, int index = noIndex);
 
-    std::string Caption;
-    Colour ForeColor = black;
-    Colour BackColor = RGB(220, 220, 190);
-
-    bool Value() const { return value_; }
-    void SetValue(bool value);
-
-    /// The space bar chooses it.
-    void KeyReleased(int code, int shift) override;
-    void VisitProperties(PropertyVisitor& visitor) override;
+    void SetValue(bool value) override;
 
 protected:
     void Clicked() override { SetValue(true); }
-
-private:
-    bool value_ = false;
 };
 
 }  // namespace coinlet

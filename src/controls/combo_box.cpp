@@ -9,40 +9,26 @@ ComboBox::ComboBox(Container& container, std::string_view name, int index)
     MakeFocusable();
 }
 
-void ComboBox::AddItem(const std::string& row) {
-    if (rows_.Add(row) <= listIndex_) ++listIndex_;
-}
-
-void ComboBox::RemoveItem(int index) {
-    if (!rows_.Remove(index)) return;
-    if (index == listIndex_) {
-        listIndex_ = -1;
-    } else if (index < listIndex_) {
-        --listIndex_;
-    }
-}
-
 void ComboBox::Clear() {
     rows_.Clear();
-    listIndex_ = -1;
     text_.clear();
 }
 
 void ComboBox::Choose(int index) {
-    listIndex_ = index;
+    rows_.Choose(index);
     text_ = rows_.Row(index);
     Click();
 }
 
 void ComboBox::SetListIndex(int index) {
     if (index == -1) text_.clear();
-    if (index != listIndex_ && (index == -1 || rows_.Contains(index))) Choose(index);
+    if (index != ListIndex() && (index == -1 || rows_.Contains(index))) Choose(index);
 }
 
 void ComboBox::SetText(const std::string& text) {
     if (text == text_) return;
     text_ = text;
-    listIndex_ = -1;
+    rows_.Choose(-1);
     Change();
 }
 
@@ -61,8 +47,8 @@ void ComboBox::UserEdits(const std::string& text) {
 void ComboBox::KeyPressed(int code, int shift) {
     Control::KeyPressed(code, shift);
     if (!Answers() || (code != keyUp && code != keyDown)) return;
-    const int row = RowAfterKey(code, listIndex_, ListCount());
-    if (row != listIndex_) UserPicks(row);
+    const int row = RowAfterKey(code, ListIndex(), ListCount());
+    if (row != ListIndex()) UserPicks(row);
 }
 
 void ComboBox::VisitProperties(PropertyVisitor& visitor) {
@@ -70,7 +56,7 @@ void ComboBox::VisitProperties(PropertyVisitor& visitor) {
     VisitColour(visitor, "ForeColor", ForeColor);
     VisitColour(visitor, "BackColor", BackColor);
     VisitProperty(
-        visitor, "ListIndex", PropertyKind::Number, [this] { return listIndex_; },
+        visitor, "ListIndex", PropertyKind::Number, [this] { return ListIndex(); },
         [this](int index) { SetListIndex(index); });
     VisitProperty(
         visitor, "Text", PropertyKind::Text, [this] { return text_; },

@@ -17,12 +17,12 @@ public:
 
     int ListCount() const { return rows_.Count(); }
     const std::string& List(int index) const { return rows_.Row(index); }
-    void AddItem(const std::string& row);
+    void AddItem(const std::string& row) { rows_.Add(row); }
     /// The text stays, also when its row goes.
-    void RemoveItem(int index);
+    void RemoveItem(int index) { rows_.Remove(index); }
     /// Empties the list and the text, without an event.
     void Clear();
-    int ListIndex() const { return listIndex_; }
+    int ListIndex() const { return rows_.Chosen(); }
     /// Another index raises `Click`. -1 chooses none and empties the text. An index outside the list is
     /// passed over.
     void SetListIndex(int index);
@@ -53,7 +53,6 @@ private:
     void Choose(int index);
 
     RowList rows_;
-    int listIndex_ = -1;
     std::string text_;
 };
 

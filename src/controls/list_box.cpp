@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <utility>
 
 namespace coinlet {
 
@@ -12,33 +13,41 @@ const std::string& RowList::Row(int index) const {
     return Contains(index) ? rows_[static_cast<std::size_t>(index)] : none;
 }
 
-int RowList::Add(const std::string& row) {
+void RowList::Add(const std::string& row) {
     const auto place =
         sorted_ ? std::upper_bound(rows_.begin(), rows_.end(), row, LessIgnoringCase) : rows_.end();
-    const auto index = place - rows_.begin();
+    if (place - rows_.begin() <= chosen_) ++chosen_;
     rows_.insert(place, row);
     ++revision_;
-    return static_cast<int>(index);
 }
 
-bool RowList::Replace(int index, const std::string& row) {
-    if (!Contains(index)) return false;
+void RowList::Replace(int index, const std::string& row) {
+    if (!Contains(index)) return;
     rows_[static_cast<std::size_t>(index)] = row;
     ++revision_;
-    return true;
 }
 
-bool RowList::Remove(int index) {
-    if (!Contains(index)) return false;
+void RowList::Remove(int index) {
+    if (!Contains(index)) return;
     rows_.erase(rows_.begin() + index);
+    if (index == chosen_) {
+        chosen_ = -1;
+    } else if (index < chosen_) {
+        --chosen_;
+    }
     ++revision_;
-    return true;
 }
 
 void RowList::Clear() {
+    chosen_ = -1;
     if (rows_.empty()) return;
     rows_.clear();
     ++revision_;
+}
+
+bool RowList::Choose(int index) {
+    const int row = Contains(index) ? index : -1;
+    return std::exchange(chosen_, row) != row;
 }
 
 int RowList::Find(std::string_view row) const {
@@ -97,57 +106,29 @@ ListBox::ListBox(Container& container, std::string_view name, int index)
     MakeFocusable();
 }
 
-void ListBox::SetList(int index, const std::string& row) {
-    rows_.Replace(index, row);
-}
-
-void ListBox::AddItem(const std::string& row) {
-    // The chosen row stays the chosen one, also when another is put in before it.
-    if (rows_.Add(row) <= listIndex_) ++listIndex_;
-}
-
-void ListBox::RemoveItem(int index) {
-    if (!rows_.Remove(index)) return;
-    if (index == listIndex_) {
-        listIndex_ = -1;
-    } else if (index < listIndex_) {
-        --listIndex_;
-    }
-}
-
-void ListBox::Clear() {
-    rows_.Clear();
-    listIndex_ = -1;
-}
-
 void ListBox::RowChosen(bool) {
     Click();
 }
 
-void ListBox::Choose(int index) {
-    const bool another = index != listIndex_;
-    listIndex_ = index;
-    RowChosen(another);
-}
-
 void ListBox::SetListIndex(int index) {
-    if (index != listIndex_ && (index == -1 || rows_.Contains(index))) Choose(index);
+    if (index != -1 && !rows_.Contains(index)) return;
+    if (rows_.Choose(index)) RowChosen(true);
 }
 
 void ListBox::UserPicks(int index) {
-    if (Answers() && rows_.Contains(index)) Choose(index);
+    if (Answers() && rows_.Contains(index)) RowChosen(rows_.Choose(index));
 }
 
 void ListBox::UserActivates() {
-    if (Answers() && rows_.Contains(listIndex_)) DblClick();
+    if (Answers() && ListIndex() >= 0) DblClick();
 }
 
 void ListBox::KeyPressed(int code, int shift) {
     Control::KeyPressed(code, shift);
     if (!Answers()) return;
     if (code == keyReturn) return UserActivates();
-    const int row = RowAfterKey(code, listIndex_, ListCount());
-    if (row != listIndex_) UserPicks(row);
+    const int row = RowAfterKey(code, ListIndex(), ListCount());
+    if (row != ListIndex()) UserPicks(row);
 }
 
 void ListBox::VisitProperties(PropertyVisitor& visitor) {
@@ -155,7 +136,7 @@ void ListBox::VisitProperties(PropertyVisitor& visitor) {
     VisitColour(visitor, "ForeColor", ForeColor);
     VisitColour(visitor, "BackColor", BackColor);
     VisitProperty(
-        visitor, "ListIndex", PropertyKind::Number, [this] { return listIndex_; },
+        visitor, "ListIndex", PropertyKind::Number, [this] { return ListIndex(); },
         [this](int index) { SetListIndex(index); });
     VisitProperty(
         visitor, "Text", PropertyKind::Text, [this] { return Text(); },

@@ -20,14 +20,20 @@ public:
     /// Row `index`, or an empty text outside the list.
     const std::string& Row(int index) const;
     bool Contains(int index) const { return index >= 0 && index < Count(); }
-    /// Appends a row, or puts it in its place in a sorted list; returns where it stands.
-    int Add(const std::string& row);
-    /// Replaces (where it stands, sorted list or not) or removes a row; false for an index outside the list.
-    bool Replace(int index, const std::string& row);
-    bool Remove(int index);
+    /// Appends a row, or puts it in its place in a sorted list. The chosen row stays the chosen one.
+    void Add(const std::string& row);
+    /// Replaces a row (where it stands, sorted list or not); an index outside the list is passed over.
+    void Replace(int index, const std::string& row);
+    /// Removes a row; if it was the chosen one, none is. An index outside the list is passed over.
+    void Remove(int index);
     void Clear();
     /// The first row with exactly that text, or -1.
     int Find(std::string_view row) const;
+
+    /// The index of the chosen row, or -1.
+    int Chosen() const { return chosen_; }
+    /// Chooses a row; -1, or an index outside the list, chooses none. True if that is another choice.
+    bool Choose(int index);
 
     bool Sorted() const { return sorted_; }
     void SetSorted(bool sorted) { sorted_ = sorted; }
@@ -37,6 +43,7 @@ public:
 private:
     std::vector<std::string> rows_;
     bool sorted_;
+    int chosen_ = -1;
     std::uint64_t revision_ = 0;
 };
 
@@ -55,15 +62,15 @@ public:
     /// Row `index`, or an empty text outside the list.
     const std::string& List(int index) const { return rows_.Row(index); }
     /// The assignments pass over an index outside the list.
-    void SetList(int index, const std::string& row);
-    void AddItem(const std::string& row);
-    void RemoveItem(int index);
-    void Clear();
-    int ListIndex() const { return listIndex_; }
+    void SetList(int index, const std::string& row) { rows_.Replace(index, row); }
+    void AddItem(const std::string& row) { rows_.Add(row); }
+    void RemoveItem(int index) { rows_.Remove(index); }
+    void Clear() { rows_.Clear(); }
+    int ListIndex() const { return rows_.Chosen(); }
     /// -1 chooses none.
     void SetListIndex(int index);
     /// The chosen row, or an empty text.
-    const std::string& Text() const { return rows_.Row(listIndex_); }
+    const std::string& Text() const { return rows_.Row(rows_.Chosen()); }
 
     /// A double click, or Enter, on the chosen row.
     Event<> DblClick;
@@ -87,13 +94,10 @@ protected:
     /// A click into the list is a choice of a row, which comes as such.
     void Clicked() override {}
     /// Puts the choice on a row, or on none, without an event.
-    void ChooseSilently(int index) { listIndex_ = index; }
+    void ChooseSilently(int index) { rows_.Choose(index); }
 
 private:
-    void Choose(int index);
-
     RowList rows_;
-    int listIndex_ = -1;
 };
 
 /// The row that a key leads to from row `current` (-1: none) of `count`; `current` for other keys.

@@ -12,9 +12,7 @@ namespace {
 // Tool buttons that open a dialog.
 constexpr std::array unfinishedTools{3, 4, 7, 10, 11};
 
-constexpr std::array<VistaButton MainForm::*, 7> unfinishedButtons{
-    &MainForm::ImgKnop,     &MainForm::MapKnop, &MainForm::HorKnop,   &MainForm::VerKnop,
-    &MainForm::RotatieKnop, &MainForm::OkKnop,  &MainForm::PlaatsKnop};
+constexpr std::array<VistaButton MainForm::*, 2> unfinishedButtons{&MainForm::OkKnop, &MainForm::PlaatsKnop};
 
 constexpr std::array<MenuItem MainForm::*, 13> unfinishedEntries{&MainForm::FileOpen,
                                                                  &MainForm::FileSave,

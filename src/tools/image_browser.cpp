@@ -1,11 +1,26 @@
 #include "tools/image_browser.h"
 
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "core/context.h"
+#include "core/folder_picker.h"
 #include "core/main_form.h"
+#include "core/plaatjes.h"
+#include "surface/codecs.h"
+#include "surface/device.h"
+#include "surface/mirror.h"
 
 #include <string>
 
 namespace coinlet {
+
+namespace {
+
+constexpr int previewSide = 175;  // pixels
+constexpr double previewSideInTwips = 2625;
+
+}  // namespace
 
 void ListImages(Context& context, std::string_view pattern) {
     MainForm& main = context.main;
@@ -18,6 +33,90 @@ void ListImages(Context& context, std::string_view pattern) {
 
 void ShowImageCount(Context& context) {
     context.main.Label8.Caption = "Images : " + std::to_string(context.main.File1.ListCount());
+}
+
+ImageBrowser::ImageBrowser(Context& context) : context_(context) {
+    MainForm& main = context.main;
+    main.List1.Click = [this] { List1_Click(); };
+    main.ImgKnop.Click = [this] { ImgKnop_Click(); };
+    main.MapKnop.Click = [this] { MapKnop_Click(); };
+    main.HorKnop.Click = [this] { HorKnop_Click(); };
+    main.VerKnop.Click = [this] { VerKnop_Click(); };
+    main.RotatieKnop.Click = [this] { RotatieKnop_Click(); };
+}
+
+void ImageBrowser::List1_Click() {
+    MainForm& main = context_.main;
+    ScreenState& screen = context_.services.platform.Screen;
+    screen.MousePointer = hourglassPointer;
+    const fs::path file = fs::path(context_.session.ImageFolder) / main.List1.Text();
+    // A file that is no picture leaves the former one.
+    if (const auto image = LoadPicture(file, context_.services.codecs))
+        main.IconPic.surface.SetPicture(*image);
+    const auto pixels = [](double twips) { return std::to_string(RoundHalfEven(twips / twipsPerPixel)); };
+    main.Label8.Caption = pixels(main.IconPic.Width()) + " x " + pixels(main.IconPic.Height()) + " Pixels";
+    ShowPicked();
+    screen.MousePointer = toolPointer;
+}
+
+void ImageBrowser::ImgKnop_Click() {
+    context_.session.ImageFolder = (context_.services.applicationFolder / "Images" / "").string();
+    ListImages(context_, "*.bmp;*.jpg;*.gif");
+    context_.main.Pic2.surface.SetPicture(context_.plaatjes.Img[0].Picture);
+}
+
+void ImageBrowser::MapKnop_Click() {
+    const std::string folder = BrowseForFolder(context_);
+    if (!TrimBlanks(folder).empty()) context_.session.ImageFolder = folder;
+    ListImages(context_, "*.jpg;*.gif;*.bmp");
+    context_.main.Pic2.surface.SetPicture({});
+    ShowImageCount(context_);
+}
+
+bool ImageBrowser::IsLarge() const {
+    const Surface& picked = context_.main.IconPic.surface;
+    return picked.PixelWidth() > previewSide || picked.PixelHeight() > previewSide;
+}
+
+void ImageBrowser::ShowPicked() {
+    MainForm& main = context_.main;
+    const Surface& picked = main.IconPic.surface;
+    if (IsLarge()) {
+        main.Pic2.SetWidth(previewSideInTwips);
+        main.Pic2.SetHeight(previewSideInTwips);
+        main.Pic2.surface.PaintPicture(picked.Image(), {0, 0, previewSide, previewSide},
+                                       {0, 0, picked.ScaleWidth(), picked.ScaleHeight()});
+    } else {
+        main.Pic2.surface.SetPicture(picked.Image());
+    }
+    main.RotatieKnop.SetEnabled(!IsLarge());
+}
+
+void ImageBrowser::HorKnop_Click() {
+    FlipHorizontal(context_.main.IconPic.surface);
+    ShowPicked();
+    if (IsLarge()) context_.services.platform.Screen.MousePointer = toolPointer;
+}
+
+void ImageBrowser::VerKnop_Click() {
+    FlipVertical(context_.main.IconPic.surface);
+    ShowPicked();
+    if (IsLarge()) context_.services.platform.Screen.MousePointer = toolPointer;
+}
+
+void ImageBrowser::RotatieKnop_Click() {
+    MainForm& main = context_.main;
+    Surface& picked = main.IconPic.surface;
+    Surface& turned = main.Pic2.surface;
+    turned.Cls();
+    main.Pic2.SetWidth(main.IconPic.Height());
+    main.Pic2.SetHeight(main.IconPic.Width());
+    // Columns become rows, so the picture is turned and mirrored at once.
+    for (int y = 0; y < picked.PixelHeight(); ++y) {
+        for (int x = 0; x < picked.PixelWidth(); ++x)
+            SetPixel(turned.hDC(), y, x, GetPixel(picked.hDC(), x, y));
+    }
+    picked.SetPicture(turned.Image());
 }
 
 }  // namespace coinlet

@@ -11,4 +11,24 @@ void ListImages(Context& context, std::string_view pattern);
 /// Shows how many there are.
 void ShowImageCount(Context& context);
 
+/// The panel at the left: lists the pictures of a folder, shows the picked one, and mirrors or turns it.
+class ImageBrowser {
+public:
+    explicit ImageBrowser(Context& context);
+
+private:
+    void List1_Click();
+    void ImgKnop_Click();
+    void MapKnop_Click();
+    void HorKnop_Click();
+    void VerKnop_Click();
+    void RotatieKnop_Click();
+
+    /// Shows the picked picture in the preview; one that doesn't fit is squeezed and can't be turned.
+    void ShowPicked();
+    bool IsLarge() const;
+
+    Context& context_;
+};
+
 }  // namespace coinlet

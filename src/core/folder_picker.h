@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace coinlet {
+
+struct Context;
+
+/// Asks the user for a folder with pictures, in the language in force. Returns its path, or an empty text if
+/// he cancels.
+std::string BrowseForFolder(Context& context);
+
+}  // namespace coinlet
