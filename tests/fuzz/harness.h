@@ -20,6 +20,7 @@ struct Reader {
     std::string name;
     std::vector<Bytes> files;  ///< Sound ones, small, that reach all of the reader's code.
     std::function<Outcome(std::span<const std::uint8_t>)> read;
+    std::size_t slow = 1;  ///< Only one of so many rounds is played.
 };
 
 /// Checks each reader with its sound files, which it may not refuse, and then with as many damaged ones as

@@ -47,17 +47,18 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed) {
     const player::Libraries libraries{fonts, codecs, MakeCoinlet};
     const player::Places places(folder / "app", folder / "out", folder.Path());
     std::ofstream lines(script);
+    std::cout << "seed " << seed << ", steps in " << script.string() << std::endl;  // Before any crash.
     test::RandomUser user(seed, rounds, places, lines);
     const bool isSound = player::ScriptRun(script.string(), user, places, libraries, std::cout).Play();
     fs::current_path(fs::temp_directory_path());
-    std::cout << "seed " << seed << ": " << user.Steps() << " steps\n";
+    std::cout << user.Steps() << " steps\n";
     return isSound && user.Steps() == rounds;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    constexpr std::size_t usualRounds = 6000;
+    constexpr std::size_t usualRounds = 12000;
     constexpr unsigned long usualSeed = 1;
     constexpr int decimal = 10;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
