@@ -7,6 +7,7 @@
 #include "core/plaatjes.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
+#include "tools/shape_tools.h"
 #include "tools/tool_strip.h"
 
 namespace coinlet {
@@ -19,6 +20,7 @@ struct Application::House {
           context{services, session, main, plaatjes} {
         gestures.Add(FreeHandTool(context));
         gestures.Add(LineTool(context));
+        gestures.Add(ShapeTools(context));
         main.Load = [this] { StartUp(context); };
     }
 
