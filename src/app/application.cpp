@@ -5,6 +5,7 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "tools/fill_tools.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
@@ -21,6 +22,9 @@ struct Application::House {
         gestures.Add(FreeHandTool(context));
         gestures.Add(LineTool(context));
         gestures.Add(ShapeTools(context));
+        gestures.Add(FillTool(context));
+        gestures.Add(EraseTool(context));
+        gestures.Add(PickTool(context));
         main.Load = [this] { StartUp(context); };
     }
 
