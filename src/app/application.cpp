@@ -7,6 +7,7 @@
 #include "core/plaatjes.h"
 #include "tools/fill_tools.h"
 #include "tools/gesture_engine.h"
+#include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
 #include "tools/tool_strip.h"
@@ -38,6 +39,7 @@ struct Application::House {
     HelpMenu help{context};
     ToolStrip strip{context};
     GestureEngine gestures{context};
+    InfoPanelRows panelRows{context};
 };
 
 Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}
