@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/start_up.h"
+#include "colour/pms_form.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
@@ -26,6 +27,10 @@ struct Application::House {
         gestures.Add(FillTool(context));
         gestures.Add(EraseTool(context));
         gestures.Add(PickTool(context));
+        strip.openColourChooser = [this] {
+            PMSForm chooser(context);
+            services.platform.ShowModal(chooser);
+        };
         main.Load = [this] { StartUp(context); };
     }
 
