@@ -5,6 +5,7 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "store/file_menu.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
 #include "tools/tool_strip.h"
@@ -30,6 +31,7 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
+    FileMenu file{context};
     ToolStrip strip{context};
     GestureEngine gestures{context};
 };
