@@ -6,6 +6,7 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "store/file_menu.h"
 #include "tools/fill_tools.h"
 #include "tools/gesture_engine.h"
 #include "tools/image_browser.h"
@@ -43,6 +44,7 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
+    FileMenu file{context};
     ToolStrip strip{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
