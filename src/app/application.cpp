@@ -6,6 +6,7 @@
 #include "core/main_life.h"
 #include "core/plaatjes.h"
 #include "store/clipboard_copy.h"
+#include "store/open_design.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
 #include "tools/tool_strip.h"
@@ -31,6 +32,7 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
+    OpenDesign open{context};
     ClipboardCopy copy{context};
     ToolStrip strip{context};
     GestureEngine gestures{context};
