@@ -6,13 +6,10 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
-<<<<<<< HEAD
-#include "store/file_menu.h"
-#include "tools/fill_tools.h"
-=======
 #include "store/clipboard_copy.h"
+#include "store/file_menu.h"
 #include "store/open_design.h"
->>>>>>> open
+#include "tools/fill_tools.h"
 #include "tools/gesture_engine.h"
 #include "tools/image_browser.h"
 #include "tools/info_panel_rows.h"
@@ -49,12 +46,9 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
-<<<<<<< HEAD
     FileMenu file{context};
-=======
     OpenDesign open{context};
     ClipboardCopy copy{context};
->>>>>>> open
     ToolStrip strip{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
