@@ -32,12 +32,12 @@ struct LabelPlace {
 constexpr int formWidth = 312, formHeight = 356;  // pixels
 constexpr int column1 = 16, column2 = 116, column3 = 212;
 constexpr std::array labels{
-    LabelPlace{&PMSForm::Label15, 0, 0, formWidth, 20},   LabelPlace{&PMSForm::Label2, column1, 40, 88, 88},
-    LabelPlace{&PMSForm::Label8, column2, 40, 180, 16},   LabelPlace{&PMSForm::Label4, column2, 60, 92, 16},
-    LabelPlace{&PMSForm::Label5, column2, 76, 84, 16},    LabelPlace{&PMSForm::Label6, column2, 92, 84, 16},
-    LabelPlace{&PMSForm::Label7, column2, 108, 84, 16},   LabelPlace{&PMSForm::Label9, column3, 60, 84, 16},
-    LabelPlace{&PMSForm::Label10, column3, 76, 84, 16},   LabelPlace{&PMSForm::Label11, column3, 92, 84, 16},
-    LabelPlace{&PMSForm::Label12, column3, 108, 84, 16},  LabelPlace{&PMSForm::Label1, column1, 144, 280, 16},
+    LabelPlace{&PMSForm::Label15, column1, 12, 280, 20},  LabelPlace{&PMSForm::Label2, column1, 40, 88, 88},
+    LabelPlace{&PMSForm::Label8, column2, 40, 180, 16},   LabelPlace{&PMSForm::Label4, column2, 64, 92, 16},
+    LabelPlace{&PMSForm::Label5, column2, 80, 84, 16},    LabelPlace{&PMSForm::Label6, column2, 96, 84, 16},
+    LabelPlace{&PMSForm::Label7, column2, 112, 84, 16},   LabelPlace{&PMSForm::Label9, column3, 64, 84, 16},
+    LabelPlace{&PMSForm::Label10, column3, 80, 84, 16},   LabelPlace{&PMSForm::Label11, column3, 96, 84, 16},
+    LabelPlace{&PMSForm::Label12, column3, 112, 84, 16},  LabelPlace{&PMSForm::Label1, column1, 144, 280, 16},
     LabelPlace{&PMSForm::Label13, column1, 196, 280, 16},
 };
 
@@ -56,11 +56,8 @@ void LayOutPmsForm(PMSForm& form) {
         Put(form.*place.label, place.left, place.top, place.width, place.height);
 
     form.Label15.Caption = formTitle;
-    form.Label15.Alignment = Alignment::Center;
-    form.Label15.Transparent = false;
-    form.Label15.BackColor = fieldColour;
-    form.Label15.ForeColor = fieldText;
     form.Label15.FontSize = 10;
+    form.Label15.FontBold = true;
     form.Label2.Transparent = false;
     form.Label2.Border = true;
     form.Label8.FontBold = true;
