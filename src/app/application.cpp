@@ -6,6 +6,7 @@
 #include "core/main_life.h"
 #include "core/plaatjes.h"
 #include "store/clipboard_copy.h"
+#include "store/file_menu.h"
 #include "store/open_design.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
@@ -32,6 +33,7 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
+    FileMenu file{context};
     OpenDesign open{context};
     ClipboardCopy copy{context};
     ToolStrip strip{context};

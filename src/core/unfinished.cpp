@@ -16,17 +16,10 @@ constexpr std::array<VistaButton MainForm::*, 7> unfinishedButtons{
     &MainForm::ImgKnop,     &MainForm::MapKnop, &MainForm::HorKnop,   &MainForm::VerKnop,
     &MainForm::RotatieKnop, &MainForm::OkKnop,  &MainForm::PlaatsKnop};
 
-constexpr std::array<MenuItem MainForm::*, 11> unfinishedEntries{&MainForm::FileSave,
-                                                                 &MainForm::FileImport,
-                                                                 &MainForm::FileExport,
-                                                                 &MainForm::FilePrint,
-                                                                 &MainForm::BewerkenInformation,
-                                                                 &MainForm::ViewMyCollection,
-                                                                 &MainForm::LibraryBorders,
-                                                                 &MainForm::LibraryBackside,
-                                                                 &MainForm::LibraryGlitter,
-                                                                 &MainForm::ClipartGroot,
-                                                                 &MainForm::Symbolen};
+constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
+    &MainForm::FileImport,     &MainForm::FilePrint,       &MainForm::ViewMyCollection,
+    &MainForm::LibraryBorders, &MainForm::LibraryBackside, &MainForm::LibraryGlitter,
+    &MainForm::ClipartGroot,   &MainForm::Symbolen};
 
 constexpr std::array<ControlArray<MenuItem> MainForm::*, 4> unfinishedMenus{
     &MainForm::Filter, &MainForm::EditContrastConvert, &MainForm::EditSwap, &MainForm::FlipPic};
