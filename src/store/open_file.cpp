@@ -1,6 +1,7 @@
 #include "store/open_file.h"
 
 #include "base/files.h"
+#include "controls/placing.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -38,11 +39,6 @@ std::string PictureOf(const Context& context, const std::string& name) {
     return usual;
 }
 
-/// Places a control by pixels on its form.
-void Place(Control& control, int left, int top, int width, int height) {
-    control.Move(left * twipsPerPixel, top * twipsPerPixel, width * twipsPerPixel, height * twipsPerPixel);
-}
-
 }  // namespace
 
 OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFile"), context_(context) {
@@ -58,13 +54,13 @@ void OpenFile::LayOut() {
     Caption = "Open Coinlet";
     Width = 304 * twipsPerPixel;
     Height = 266 * twipsPerPixel;
-    Place(Label2, 8, 8, 288, 32);
-    Place(List1, 8, 44, 176, 180);
-    Place(Label1, 192, 44, 104, 104);
-    Place(Image1, 194, 46, 100, 100);
-    Place(DelKnop, 192, 156, 104, 24);
-    Place(OkKnop, 88, 232, 100, 24);
-    Place(CancelKnop, 196, 232, 100, 24);
+    PlaceByPixels(Label2, 8, 8, 288, 32);
+    PlaceByPixels(List1, 8, 44, 176, 180);
+    PlaceByPixels(Label1, 192, 44, 104, 104);
+    PlaceByPixels(Image1, 194, 46, 100, 100);
+    PlaceByPixels(DelKnop, 192, 156, 104, 24);
+    PlaceByPixels(OkKnop, 88, 232, 100, 24);
+    PlaceByPixels(CancelKnop, 196, 232, 100, 24);
 
     List1.ForeColor = RGB(60, 60, 60);
     List1.BackColor = RGB(200, 220, 220);
