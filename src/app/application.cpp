@@ -5,6 +5,8 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "filters/filter_core.h"
+#include "filters/filter_menu.h"
 #include "tools/gesture_engine.h"
 #include "tools/line_tools.h"
 #include "tools/tool_strip.h"
@@ -27,11 +29,13 @@ struct Application::House {
     MainForm main;
     PlaatjesForm plaatjes;
     Context context;
+    FilterCore filterCore{context};
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
     ToolStrip strip{context};
     GestureEngine gestures{context};
+    FilterMenu filters{context, filterCore};
 };
 
 Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}
@@ -43,6 +47,10 @@ void Application::Start() {
 
 Context& Application::GetContext() {
     return house_->context;
+}
+
+FilterCore& Application::GetFilterCore() {
+    return house_->filterCore;
 }
 
 }  // namespace coinlet

@@ -11,7 +11,8 @@ void ShowProgress(Context& context, int value, int maximum) {
     constexpr double widthPerPercent = 1.15;  // The bar is 115 pixels wide.
     constexpr int tubeHalf = 7, edgeGreen = 130, middleGreen = 200, greenStep = 10;
     const std::int64_t percent = maximum == 0 ? 0 : std::int64_t{100} * value / maximum;
-    const double width = static_cast<double>(percent) * widthPerPercent;
+    // In the single precision of coordinates: 50 percent are 57.5, not a little less.
+    const auto width = static_cast<float>(static_cast<double>(percent) * widthPerPercent);
     Surface& bar = context.main.Bar.surface;
     for (int i = 0; i <= tubeHalf; ++i) {
         bar.Line(0, i, width, i + 1, RGB(0, edgeGreen + greenStep * i, 0), Box::Filled);
