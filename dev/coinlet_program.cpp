@@ -2,6 +2,7 @@
 
 #include "app/application.h"
 #include "core/plaatjes.h"
+#include "filters/filter_core.h"
 
 namespace coinlet {
 
@@ -16,6 +17,10 @@ public:
     Form* HiddenForm(std::string_view name) override {
         Form& plaatjes = application_.GetContext().plaatjes;
         return name == plaatjes.Name() ? &plaatjes : nullptr;
+    }
+    void RunFilter(std::int32_t number, Surface& surface, std::int32_t parameter) override {
+        std::int32_t progress = 0;
+        application_.GetFilterCore().FilterPicture(number, surface, parameter, progress);
     }
 
 private:

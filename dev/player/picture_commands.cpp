@@ -1,5 +1,6 @@
-// Pictures: pixels, and whole pictures from and to files.
+// Pictures: pixels, whole pictures from and to files, and filters.
 
+#include "controls/picture_box.h"
 #include "player/commands.h"
 #include "player/failure.h"
 #include "player/lookup.h"
@@ -89,11 +90,20 @@ void Same(ScriptRun& run, const Arguments& arguments) {
         Fail(address.text + " isn't " + name + ": " + *difference + KeepFound(run, found, name));
 }
 
+void Filter(ScriptRun& run, const Arguments& arguments) {
+    const Address address = arguments.Address(0);
+    auto* picture = dynamic_cast<PictureBox*>(&FindElement(run.TheLife(), address));
+    if (picture == nullptr) Fail(address.text + " is no surface");
+    const int number = arguments.Whole(1), parameter = arguments.Whole(2);
+    run.TheLife().program->RunFilter(number, picture->surface, parameter);
+}
+
 constexpr Command commands[] = {
     {"pixel", "ADDR X Y R,G,B", Needs::RunningProgram, Pixel},
     {"load", "ADDR FILE", Needs::RunningProgram, Load},
     {"save", "ADDR FILE", Needs::RunningProgram, Save},
     {"same", "ADDR FILE [TOLERANCE]", Needs::RunningProgram, Same},
+    {"filter", "ADDR NUMBER PARAMETER", Needs::RunningProgram, Filter},
 };
 
 }  // namespace

@@ -2,9 +2,14 @@
 
 #include "core/context.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
+
+namespace coinlet {
+class Surface;
+}
 
 namespace coinlet::player {
 
@@ -17,6 +22,9 @@ public:
     virtual Session& TheSession() = 0;
     /// A form that is always there although no window ever shows it, or nullptr.
     virtual Form* HiddenForm(std::string_view name) = 0;
+    /// Runs a filter of the program on a surface; a number that is no filter leaves it as it is. May throw
+    /// ProgramEnded.
+    virtual void RunFilter(std::int32_t number, Surface& surface, std::int32_t parameter) = 0;
 };
 
 /// Makes the program, not yet started. The services outlive it.

@@ -6,6 +6,8 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "filters/filter_core.h"
+#include "filters/filter_menu.h"
 #include "store/clipboard_copy.h"
 #include "store/file_menu.h"
 #include "store/open_design.h"
@@ -43,6 +45,7 @@ struct Application::House {
     MainForm main;
     PlaatjesForm plaatjes;
     Context context;
+    FilterCore filterCore{context};
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
@@ -53,6 +56,7 @@ struct Application::House {
     ImageBrowser browser{context};
     GestureEngine gestures{context};
     InfoPanelRows panelRows{context};
+    FilterMenu filters{context, filterCore};
 };
 
 Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}
@@ -64,6 +68,10 @@ void Application::Start() {
 
 Context& Application::GetContext() {
     return house_->context;
+}
+
+FilterCore& Application::GetFilterCore() {
+    return house_->filterCore;
 }
 
 }  // namespace coinlet

@@ -6,6 +6,8 @@
 
 namespace coinlet {
 
+class FilterCore;
+
 /// The whole program without its windows: builds the forms and the subsystems and binds them to each other.
 class Application {
 public:
@@ -16,6 +18,7 @@ public:
     void Start();
 
     Context& GetContext();
+    FilterCore& GetFilterCore();
 
 private:
     struct House;

@@ -19,8 +19,7 @@ constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
     &MainForm::LibraryBorders, &MainForm::LibraryBackside, &MainForm::LibraryGlitter,
     &MainForm::ClipartGroot,   &MainForm::Symbolen};
 
-constexpr std::array<ControlArray<MenuItem> MainForm::*, 4> unfinishedMenus{
-    &MainForm::Filter, &MainForm::EditContrastConvert, &MainForm::EditSwap, &MainForm::FlipPic};
+constexpr std::array<ControlArray<MenuItem> MainForm::*, 1> unfinishedMenus{&MainForm::FlipPic};
 
 }  // namespace
 

@@ -184,6 +184,10 @@ public:
     void Start() override { services_.platform.ShowMain(main_); }
     Session& TheSession() override { return session_; }
     Form* HiddenForm(std::string_view name) override { return name == hidden_.Name() ? &hidden_ : nullptr; }
+    /// Leaves the number and the parameter as a colour in the corner.
+    void RunFilter(std::int32_t number, Surface& surface, std::int32_t parameter) override {
+        surface.PSet(0, 0, RGB(number, parameter, 0));
+    }
 
 private:
     const Services& services_;

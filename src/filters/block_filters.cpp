@@ -1,0 +1,161 @@
+#include "filters/block_filters.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <vector>
+
+namespace coinlet {
+
+namespace {
+
+using Channels = std::array<std::uint8_t, colourChannels>;
+
+/// The mean colour of the columns `left` to before `right` of the rows `top` to before `bottom`.
+Channels MeanColour(const PixelArray& picture, int left, int top, int right, int bottom) {
+    std::array<std::uint64_t, colourChannels> sums{};
+    for (int y = top; y < bottom; ++y) {
+        const std::uint8_t* row = picture.Row(y);
+        for (int x = left; x < right; ++x) {
+            for (int channel = 0; channel < colourChannels; ++channel)
+                sums[static_cast<std::size_t>(channel)] += row[x * pixelBytes + channel];
+        }
+    }
+    const auto count = static_cast<std::uint64_t>(right - left) * static_cast<std::uint64_t>(bottom - top);
+    Channels means{};
+    for (std::size_t channel = 0; channel < means.size(); ++channel)
+        means[channel] = static_cast<std::uint8_t>(sums[channel] / count);
+    return means;
+}
+
+/// Gives every channel inside the border value(its own, the extreme of the 3 by 3 around it): `extreme` picks
+/// one of two.
+template <class Extreme, class Value>
+void WalkExtremes(FilterRun& run, Extreme extreme, Value value) {
+    const int rowBytes = run.Width() * pixelBytes;
+    std::vector<std::uint8_t> columns(static_cast<std::size_t>(rowBytes));  // the extreme of three rows each
+    for (int y = 1; y < run.Height() - 1; ++y) {
+        const std::uint8_t *above = run.source.Row(y - 1), *here = run.source.Row(y),
+                           *below = run.source.Row(y + 1);
+        std::uint8_t* column = columns.data();
+        for (int i = 0; i < rowBytes; ++i)
+            column[i] = extreme(extreme(above[i], here[i]), below[i]);
+        std::uint8_t* to = run.work.Row(y);
+        for (int i = pixelBytes; i < rowBytes - pixelBytes; ++i) {
+            const std::uint8_t sides = extreme(column[i - pixelBytes], column[i + pixelBytes]);
+            to[i] = value(here[i], extreme(sides, column[i]));
+        }
+        run.RowDone(y);
+    }
+}
+
+std::uint8_t Lower(std::uint8_t a, std::uint8_t b) {
+    return std::min(a, b);
+}
+std::uint8_t Higher(std::uint8_t a, std::uint8_t b) {
+    return std::max(a, b);
+}
+
+/// Mean and spread of the 3 by 3 blocks around each byte of a row. The spread is the sum of the distances
+/// from the mean, at most 9 * 255.
+struct BlockRow {
+    explicit BlockRow(int width)
+        : means(static_cast<std::size_t>(width) * pixelBytes), spreads(means.size()) {}
+
+    /// Measures the blocks around row y but for those that reach over the left and right edges.
+    void Measure(const PixelArray& picture, int y);
+
+    std::vector<std::int16_t> means, spreads;
+};
+
+void BlockRow::Measure(const PixelArray& picture, int y) {
+    const std::uint8_t *above = picture.Row(y - 1), *here = picture.Row(y), *below = picture.Row(y + 1);
+    std::int16_t *mean = means.data(), *spread = spreads.data();
+    for (int i = pixelBytes; i < (picture.Width() - 1) * pixelBytes; ++i) {
+        const int before = i - pixelBytes, behind = i + pixelBytes;
+        const int sum = above[before] + above[i] + above[behind] + here[before] + here[i] + here[behind] +
+                        below[before] + below[i] + below[behind];
+        const int blockMean = sum / 9;
+        mean[i] = static_cast<std::int16_t>(blockMean);
+        spread[i] = static_cast<std::int16_t>(
+            std::abs(above[before] - blockMean) + std::abs(above[i] - blockMean) +
+            std::abs(above[behind] - blockMean) + std::abs(here[before] - blockMean) +
+            std::abs(here[i] - blockMean) + std::abs(here[behind] - blockMean) +
+            std::abs(below[before] - blockMean) + std::abs(below[i] - blockMean) +
+            std::abs(below[behind] - blockMean));
+    }
+}
+
+/// Chooses among the blocks centred on the four diagonal neighbours; the first one wins a tie.
+void ChooseCalmest(const BlockRow& above, const BlockRow& below, int width, std::uint8_t* to) {
+    const std::int16_t *aboveMeans = above.means.data(), *belowMeans = below.means.data();
+    const std::int16_t *aboveSpreads = above.spreads.data(), *belowSpreads = below.spreads.data();
+    for (int i = 2 * pixelBytes; i < (width - 2) * pixelBytes; ++i) {
+        const int before = i - pixelBytes, behind = i + pixelBytes;
+        std::int16_t mean = aboveMeans[before], spread = aboveSpreads[before];
+        const auto consider = [&mean, &spread](std::int16_t otherMean, std::int16_t otherSpread) {
+            mean = otherSpread < spread ? otherMean : mean;
+            spread = std::min(spread, otherSpread);
+        };
+        consider(aboveMeans[behind], aboveSpreads[behind]);
+        consider(belowMeans[before], belowSpreads[before]);
+        consider(belowMeans[behind], belowSpreads[behind]);
+        to[i] = static_cast<std::uint8_t>(mean);
+    }
+}
+
+}  // namespace
+
+void FilterPixelize(FilterRun& run, std::int32_t side) {
+    if (side < 1) return;
+    const int width = run.Width(), height = run.Height();
+    const int step = std::min(side, std::max({width, height, 1}));
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* to = run.work.Row(y);
+        if (y % step != 0) {
+            std::copy_n(run.work.Row(y - 1), width * pixelBytes, to);
+        } else {
+            const int bottom = std::min(y + step, height);
+            for (int left = 0; left < width; left += step) {
+                const int right = std::min(left + step, width);
+                const Channels mean = MeanColour(run.source, left, y, right, bottom);
+                for (int x = left; x < right; ++x)
+                    std::ranges::copy(mean, to + x * pixelBytes);
+            }
+        }
+        run.RowDone(y);
+    }
+}
+
+void FilterErode(FilterRun& run) {
+    WalkExtremes(run, Lower, [](std::uint8_t, std::uint8_t lowest) { return lowest; });
+}
+
+void FilterDilate(FilterRun& run) {
+    WalkExtremes(run, Higher, [](std::uint8_t, std::uint8_t highest) { return highest; });
+}
+
+void FilterConnection(FilterRun& run) {
+    WalkExtremes(run, Lower, [](std::uint8_t own, std::uint8_t lowest) {
+        return static_cast<std::uint8_t>(own - lowest);
+    });
+}
+
+void FilterAquarel(FilterRun& run) {
+    const int width = run.Width(), height = run.Height();
+    if (width < 5 || height < 5) return;
+    // A pixel needs the blocks around the rows above and below it: three rows of blocks, used in turn.
+    std::array<BlockRow, 3> blocks{BlockRow(width), BlockRow(width), BlockRow(width)};
+    const auto blocksAround = [&blocks](int y) -> BlockRow& {
+        return blocks[static_cast<std::size_t>(y) % blocks.size()];
+    };
+    for (const int y : {1, 2})
+        blocksAround(y).Measure(run.source, y);
+    for (int y = 2; y < height - 2; ++y) {
+        blocksAround(y + 1).Measure(run.source, y + 1);
+        ChooseCalmest(blocksAround(y - 1), blocksAround(y + 1), width, run.work.Row(y));
+        run.RowDone(y);
+    }
+}
+
+}  // namespace coinlet

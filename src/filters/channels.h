@@ -1,0 +1,39 @@
+#pragma once
+
+#include "surface/colour.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace coinlet {
+
+struct ColourChannels {
+    int red = 0, green = 0, blue = 0;
+};
+
+/// Bits 0 to 7, 8 to 15 and 16 to 23 of a colour. Unlike `Red`, `Green` and `Blue` it takes the bits of
+/// negative numbers, so that each channel lies within 0 to 255.
+constexpr ColourChannels SplitColor(Colour colour) {
+    const auto bits = static_cast<std::uint32_t>(colour);
+    const auto channel = [bits](int shift) { return static_cast<int>(bits >> shift & 0xFFu); };
+    return {channel(0), channel(8), channel(16)};
+}
+
+/// A channel brought into its range.
+constexpr std::uint8_t ClampToByte(int value) {
+    return static_cast<std::uint8_t>(std::clamp(value, 0, 255));
+}
+
+/// The nearest channel value, a half going to the even neighbour. `value` may be infinite, but no NaN.
+inline std::uint8_t RoundToByte(double value) {
+    // So large a sum has no room for a fraction: it is rounded, by the rule wanted.
+    constexpr double noFractions = 0x1p52;
+    return static_cast<std::uint8_t>(std::clamp(value, 0.0, 255.0) + noFractions - noFractions);
+}
+
+/// The gray value of a pixel in memory, blue, green, red; all three weigh the same.
+constexpr int Gray(const std::uint8_t* pixel) {
+    return (pixel[0] + pixel[1] + pixel[2]) / 3;
+}
+
+}  // namespace coinlet
