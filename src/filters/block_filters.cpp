@@ -71,7 +71,8 @@ struct BlockRow {
 void BlockRow::Measure(const PixelArray& picture, int y) {
     const std::uint8_t *above = picture.Row(y - 1), *here = picture.Row(y), *below = picture.Row(y + 1);
     std::int16_t *mean = means.data(), *spread = spreads.data();
-    for (int i = pixelBytes; i < (picture.Width() - 1) * pixelBytes; ++i) {
+    const int end = (picture.Width() - 1) * pixelBytes;
+    for (int i = pixelBytes; i < end; ++i) {
         const int before = i - pixelBytes, behind = i + pixelBytes;
         const int sum = above[before] + above[i] + above[behind] + here[before] + here[i] + here[behind] +
                         below[before] + below[i] + below[behind];

@@ -28,7 +28,13 @@ constexpr std::uint8_t ClampToByte(int value) {
 inline std::uint8_t RoundToByte(double value) {
     // So large a sum has no room for a fraction: it is rounded, by the rule wanted.
     constexpr double noFractions = 0x1p52;
-    return static_cast<std::uint8_t>(std::clamp(value, 0.0, 255.0) + noFractions - noFractions);
+    return static_cast<std::uint8_t>(std::min(std::max(value, 0.0), 255.0) + noFractions - noFractions);
+}
+
+/// The nearest whole number, a half going to the even neighbour, of a value within the range of int.
+inline int RoundWhole(double value) {
+    constexpr double noFractions = 0x1.8p52;  // As above, for both signs.
+    return static_cast<int>(value + noFractions - noFractions);
 }
 
 /// The gray value of a pixel in memory, blue, green, red; all three weigh the same.

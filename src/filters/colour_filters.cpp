@@ -18,10 +18,11 @@ using ChannelTable = std::array<std::uint8_t, 256>;
 /// Hands every pixel of the source to `change(from, to)`, row by row.
 template <class Change>
 void WalkPixels(FilterRun& run, Change change, int fromPercent = 0, int toPercent = 100) {
+    const int end = run.Width() * pixelBytes;
     for (int y = 0; y < run.Height(); ++y) {
         const std::uint8_t* from = run.source.Row(y);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < run.Width() * pixelBytes; i += pixelBytes)
+        for (int i = 0; i < end; i += pixelBytes)
             change(from + i, to + i);
         run.RowDone(y, fromPercent, toPercent);
     }

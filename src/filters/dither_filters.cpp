@@ -3,8 +3,10 @@
 #include "filters/channels.h"
 #include "filters/mean_gray.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <vector>
 
 namespace coinlet {
 
@@ -14,30 +16,27 @@ void Put(std::uint8_t* pixel, int value) {
     pixel[0] = pixel[1] = pixel[2] = static_cast<std::uint8_t>(value);
 }
 
-/// The channels of a pixel inside the picture, sharpened: (10 v - ring) / 2.
-int SharpenedSum(const PixelArray& picture, int x, int y) {
-    int sum = 0;
-    for (int channel = 0; channel < colourChannels; ++channel) {
-        const int i = x * pixelBytes + channel;
-        int block = 0;
-        for (const int row : {y - 1, y, y + 1}) {
-            const std::uint8_t* at = picture.Row(row) + i;
-            block += at[-pixelBytes] + at[0] + at[pixelBytes];
-        }
-        const int value = picture.Row(y)[i];
-        sum += ClampToByte((11 * value - block) / 2);
+/// Sharpens a row that isn't the first or the last, but for its ends: (10 v - ring) / 2.
+void SharpenRow(const PixelArray& picture, int y, std::uint8_t* to) {
+    const std::uint8_t *above = picture.Row(y - 1), *here = picture.Row(y), *below = picture.Row(y + 1);
+    const int end = (picture.Width() - 1) * pixelBytes;
+    for (int i = pixelBytes; i < end; ++i) {
+        const int before = i - pixelBytes, behind = i + pixelBytes;
+        const int ring = above[before] + above[i] + above[behind] + here[before] + here[behind] +
+                         below[before] + below[i] + below[behind];
+        to[i] = ClampToByte((10 * here[i] - ring) / 2);
     }
-    return sum;
 }
 
 }  // namespace
 
 void FilterThreshold(FilterRun& run, Colour limit) {
     const auto [red, green, blue] = SplitColor(limit);
+    const int end = run.Width() * pixelBytes;
     for (int y = 0; y < run.Height(); ++y) {
         const std::uint8_t* from = run.source.Row(y);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < run.Width() * pixelBytes; i += pixelBytes) {
+        for (int i = 0; i < end; i += pixelBytes) {
             const bool below = from[i] < blue && from[i + 1] < green && from[i + 2] < red;
             Put(to + i, below ? 0 : 255);
         }
@@ -50,14 +49,14 @@ void FilterSharpDither(FilterRun& run) {
     const int width = run.Width(), height = run.Height();
     const int threshold = MeanGray(run.source);
     run.Reached(meanTaken);
+    std::vector<std::uint8_t> sharp(static_cast<std::size_t>(width) * pixelBytes);
     int carry = 0;  // from pixel to pixel, and from the end of a row to the next
     for (int y = 0; y < height; ++y) {
-        const std::uint8_t* from = run.source.Row(y);
+        std::copy_n(run.source.Row(y), sharp.size(), sharp.data());
+        if (y > 0 && y < height - 1) SharpenRow(run.source, y, sharp.data());
         std::uint8_t* to = run.work.Row(y);
         for (int x = 0; x < width; ++x) {
-            const bool inside = x > 0 && x < width - 1 && y > 0 && y < height - 1;
-            const int gray = inside ? SharpenedSum(run.source, x, y) / 3 : Gray(from + x * pixelBytes);
-            const int value = ClampToByte(gray + carry);
+            const int value = ClampToByte(Gray(sharp.data() + x * pixelBytes) + carry);
             const int output = value < threshold ? 0 : 255;
             Put(to + x * pixelBytes, output);
             carry = (value - output) / 4;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <vector>
 
 namespace coinlet {
@@ -22,8 +23,8 @@ constexpr int furthestColumn = 2;
 template <std::size_t count>
 struct Kernel {
     int divisor;
-    int rows;        ///< That it reaches, the pixel's own included.
-    int percentSet;  ///< The progress when its table stands.
+    std::size_t rows;  ///< That it reaches, the pixel's own included.
+    int percentSet;    ///< The progress when its table stands.
     std::array<Tap, count> taps;
 };
 
@@ -48,33 +49,39 @@ constexpr Kernel<12> stucki{42,
 
 constexpr int greatestError = 255;
 
-/// What each tap gets of each error from -255 to 255, cut off towards zero: no pixel needs a division.
-template <std::size_t count>
-using DiffusionTable = std::array<std::array<std::int32_t, count>, 2 * greatestError + 1>;
+/// A value for each error from -255 to 255.
+template <class Value>
+using ErrorTable = std::array<Value, 2 * greatestError + 1>;
 
-template <std::size_t count>
-DiffusionTable<count> TableOf(const Kernel<count>& kernel) {
-    DiffusionTable<count> table{};
-    for (int error = -greatestError; error <= greatestError; ++error) {
-        for (std::size_t k = 0; k < count; ++k) {
-            table[static_cast<std::size_t>(error + greatestError)][k] =
-                error * kernel.taps[k].weight / kernel.divisor;
-        }
-    }
+template <class Value, class Rule>
+ErrorTable<Value> TableOf(Rule rule) {
+    ErrorTable<Value> table{};
+    for (int error = -greatestError; error <= greatestError; ++error)
+        table[static_cast<std::size_t>(error + greatestError)] = rule(error);
     return table;
 }
 
-template <std::size_t count>
-void Diffuse(FilterRun& run, const Kernel<count>& kernel, std::int32_t damping) {
+template <const auto& kernel>
+void Diffuse(FilterRun& run, std::int32_t damping) {
     if (damping == 0) return;
     constexpr int meanTaken = 10;
+    constexpr std::size_t count = kernel.taps.size();
     const int width = run.Width();
-    const auto table = TableOf(kernel);
+    // No pixel needs a division. What the taps get is cut off towards zero; what reaches a pixel is never
+    // more than one whole error, since the weights of a kernel add up to its divisor.
+    using Parts = std::array<std::int32_t, count>;
+    const auto partsOf = TableOf<Parts>([](int error) {
+        Parts parts{};
+        for (std::size_t k = 0; k < count; ++k)
+            parts[k] = error * kernel.taps[k].weight / kernel.divisor;
+        return parts;
+    });
+    const auto damped = TableOf<int>([damping](int error) { return error * 10 / damping; });
     // Rows of errors from the present one down, wider by what a kernel reaches beyond the edges. What lands
     // there is never read, and neither is what lands below the last row.
     const auto padded = static_cast<std::size_t>(width) + 2 * furthestColumn;
-    std::vector<std::vector<std::int32_t>> errors(static_cast<std::size_t>(kernel.rows),
-                                                  std::vector<std::int32_t>(padded));
+    std::array<std::vector<std::int32_t>, kernel.rows> errors;
+    errors.fill(std::vector<std::int32_t>(padded));
     run.Reached(kernel.percentSet);
     const int threshold = MeanGray(run.source);
     run.Reached(meanTaken);
@@ -82,15 +89,16 @@ void Diffuse(FilterRun& run, const Kernel<count>& kernel, std::int32_t damping) 
     for (int y = 0; y < run.Height(); ++y) {
         const std::uint8_t* from = run.source.Row(y);
         std::uint8_t* to = run.work.Row(y);
-        std::array<std::int32_t*, 3> rows{};
+        std::array<std::int32_t*, kernel.rows> rows{};
         for (std::size_t i = 0; i < errors.size(); ++i)
             rows[i] = errors[i].data() + furthestColumn;
         for (int x = 0; x < width; ++x) {
-            const int value = ClampToByte(rows[0][x] * 10 / damping + Gray(from + x * pixelBytes));
+            const int arrived = damped[static_cast<std::size_t>(rows[0][x] + greatestError)];
+            const int value = ClampToByte(arrived + Gray(from + x * pixelBytes));
             const int output = value < threshold ? 0 : 255;
             std::uint8_t* pixel = to + x * pixelBytes;
             pixel[0] = pixel[1] = pixel[2] = static_cast<std::uint8_t>(output);
-            const auto& parts = table[static_cast<std::size_t>(value - output + greatestError)];
+            const Parts& parts = partsOf[static_cast<std::size_t>(value - output + greatestError)];
             for (std::size_t k = 0; k < count; ++k) {
                 const Tap& tap = kernel.taps[k];
                 rows[static_cast<std::size_t>(tap.row)][x + tap.column] += parts[k];
@@ -105,15 +113,15 @@ void Diffuse(FilterRun& run, const Kernel<count>& kernel, std::int32_t damping) 
 }  // namespace
 
 void FilterFloydDither(FilterRun& run, std::int32_t damping) {
-    Diffuse(run, floyd, damping);
+    Diffuse<floyd>(run, damping);
 }
 
 void FilterBurkesDither(FilterRun& run, std::int32_t damping) {
-    Diffuse(run, burkes, damping);
+    Diffuse<burkes>(run, damping);
 }
 
 void FilterStuckiDither(FilterRun& run, std::int32_t damping) {
-    Diffuse(run, stucki, damping);
+    Diffuse<stucki>(run, damping);
 }
 
 }  // namespace coinlet

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <vector>
 
 namespace coinlet {
 
@@ -29,10 +30,11 @@ struct Place {
 /// the work itself.
 template <class Value>
 void WalkInside(FilterRun& run, const PixelArray& from, Value value) {
+    const int end = (run.Width() - 1) * pixelBytes;
     for (int y = 1; y < run.Height() - 1; ++y) {
         const std::uint8_t *above = from.Row(y - 1), *here = from.Row(y), *below = from.Row(y + 1);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = pixelBytes; i < (run.Width() - 1) * pixelBytes; i += pixelBytes) {
+        for (int i = pixelBytes; i < end; i += pixelBytes) {
             for (int j = i; j < i + colourChannels; ++j)
                 to[j] = value(Place{above + j, here + j, below + j});
         }
@@ -40,22 +42,31 @@ void WalkInside(FilterRun& run, const PixelArray& from, Value value) {
     }
 }
 
+/// A colour's channels for every byte of a row.
+std::vector<std::int16_t> RowOf(Colour colour, int width) {
+    const ColourChannels channels = SplitColor(colour);
+    std::vector<std::int16_t> row;
+    row.reserve(static_cast<std::size_t>(width) * pixelBytes);
+    for (int x = 0; x < width; ++x) {
+        for (const int value : {channels.blue, channels.green, channels.red, 0})
+            row.push_back(static_cast<std::int16_t>(value));
+    }
+    return row;
+}
+
 /// The same from the untouched picture, with the ground's channels added; any byte can be done before any
 /// other.
 template <class Value>
 void WalkSource(FilterRun& run, Colour ground, Value value) {
-    const ColourChannels colour = SplitColor(ground);
-    const std::array<int, pixelBytes> added{colour.blue, colour.green, colour.red, 0};
+    const int end = (run.Width() - 1) * pixelBytes;
+    const auto groundRow = RowOf(ground, run.Width());
+    const std::int16_t* added = groundRow.data();
     for (int y = 1; y < run.Height() - 1; ++y) {
         const std::uint8_t *above = run.source.Row(y - 1), *here = run.source.Row(y),
                            *below = run.source.Row(y + 1);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = pixelBytes; i < (run.Width() - 1) * pixelBytes; i += pixelBytes) {
-            for (int j = 0; j < pixelBytes; ++j) {
-                const Place place{above + i + j, here + i + j, below + i + j};
-                to[i + j] = ClampToByte(value(place) + added[static_cast<std::size_t>(j)]);
-            }
-        }
+        for (int i = pixelBytes; i < end; ++i)
+            to[i] = ClampToByte(value(Place{above + i, here + i, below + i}) + added[i]);
         run.RowDone(y);
     }
 }
@@ -82,17 +93,14 @@ void ExaggerateInPlace(FilterRun& run, std::int64_t weight, std::int64_t divisor
 /// As WalkSource, but each channel looks at its lower right alone. What it looks at isn't written yet, so the
 /// untouched picture serves.
 void DifferDiagonally(FilterRun& run, Colour ground, int sign) {
-    const ColourChannels colour = SplitColor(ground);
-    const std::array<int, pixelBytes> added{colour.blue, colour.green, colour.red, 0};
+    const int end = (run.Width() - 1) * pixelBytes;
+    const auto groundRow = RowOf(ground, run.Width());
+    const std::int16_t* added = groundRow.data();
     for (int y = 0; y < run.Height() - 1; ++y) {
         const std::uint8_t *here = run.source.Row(y), *below = run.source.Row(y + 1);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < (run.Width() - 1) * pixelBytes; i += pixelBytes) {
-            for (int j = 0; j < pixelBytes; ++j) {
-                const int difference = here[i + j] - below[i + j + pixelBytes];
-                to[i + j] = ClampToByte(std::abs(sign * difference + added[static_cast<std::size_t>(j)]));
-            }
-        }
+        for (int i = 0; i < end; ++i)
+            to[i] = ClampToByte(std::abs(sign * (here[i] - below[i + pixelBytes]) + added[i]));
         run.RowDone(y);
     }
 }

@@ -12,7 +12,9 @@ constexpr int pixelBytes = 4;
 /// The bytes that are colour.
 constexpr int colourChannels = 3;
 
-/// A picture as the bytes that filters compute on: rows from top to bottom without padding.
+/// A picture as the bytes that filters compute on: rows from top to bottom without padding. Loops take its
+/// width into a constant first: a byte written may be anything to a compiler, the width too, and then the
+/// loop isn't turned into wide instructions.
 class PixelArray {
 public:
     /// Bytes of no particular value. Negative sides count as 0.

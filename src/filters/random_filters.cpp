@@ -9,7 +9,7 @@ namespace coinlet {
 
 void FilterDefuse(FilterRun& run, std::int32_t reach) {
     const int half = RoundHalfEven(reach / 2.0);
-    const auto thrown = [&run, reach, half] { return RoundHalfEven(run.random.Next() * reach - half); };
+    const auto thrown = [&run, reach, half] { return RoundWhole(run.random.Next() * reach - half); };
     /// Where a throw leads; one that leads out of the picture counts as 0.
     const auto moved = [](int from, int offset, int size) {
         const std::int64_t to = std::int64_t{from} + offset;
@@ -28,10 +28,11 @@ void FilterDefuse(FilterRun& run, std::int32_t reach) {
 
 void FilterAddNoise(FilterRun& run, std::int32_t strength) {
     const double range = 2.0 * strength + 1;
+    const int end = run.Width() * pixelBytes;
     for (int y = 0; y < run.Height(); ++y) {
         const std::uint8_t* from = run.source.Row(y);
         std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < run.Width() * pixelBytes; i += pixelBytes) {
+        for (int i = 0; i < end; i += pixelBytes) {
             for (int j = i; j < i + colourChannels; ++j)
                 to[j] = RoundToByte(run.random.Next() * range - strength + from[j]);
         }
