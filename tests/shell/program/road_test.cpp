@@ -13,6 +13,7 @@ constexpr Colour fillColour = RGB(255, 252, 13);  // of the colour field after t
 constexpr Colour ruleColour = RGB(190, 190, 190);
 constexpr int designWidth = 700, designHeight = 500;
 constexpr int verticalRule = 500, horizontalRule = 330, panelLeft = 510;
+const QPoint firstRow(40, 52);  // of the list of designs, in its dialog
 const QPoint boxStart(120, 100), boxEnd(300, 240);
 
 /// The box on the canvas: a black outline of one pixel through both corners, filled, on white.
@@ -96,6 +97,32 @@ TEST_F(ProgramRoad, FileHoldsWhatWasDrawn) {
     ASSERT_TRUE(MainIsInFront());
     CloseBox();
     EXPECT_TRUE(EndsWell());
+}
+
+TEST_F(ProgramRoad, DesignIsOpenedAfterTheProgramWasKilled) {
+    DrawTheBox();
+    FillTheBox();
+    SaveAs("tag");
+    // The file is there before the bar has told so.
+    ASSERT_FALSE(Stored("tag").Empty());
+    Kill();
+
+    Start();
+    Key("ctrl+o");
+    const OpenWindow dialog = Front();
+    ASSERT_EQ(screen.TitleOf(dialog), "Open Coinlet");
+    Click(dialog.place.topLeft() + firstRow);
+    Key("Return");
+    ASSERT_TRUE(MainIsInFront());
+    ASSERT_TRUE(Shows((boxStart + boxEnd) / 2, fillColour));
+    const QImage canvas = Look({.id = 0, .place = PlaceOf(form.Pic)});
+    for (int y = 0; y < canvas.height(); ++y) {
+        for (int x = 0; x < canvas.width(); ++x) {
+            const QRgb shown = canvas.pixel(x, y);
+            ASSERT_EQ(RGB(qRed(shown), qGreen(shown), qBlue(shown)), ExpectedOnCanvas(x, y))
+                << x << ", " << y;
+        }
+    }
 }
 
 }  // namespace

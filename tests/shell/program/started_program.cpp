@@ -50,12 +50,8 @@ StartedProgram::StartedProgram() {
 }
 
 StartedProgram::~StartedProgram() {
-    if (process_.state() != QProcess::NotRunning) {
-        process_.kill();
-        process_.waitForFinished();
-    }
     // The screen is the next test's.
-    EXPECT_TRUE(Comes([&] { return screen.Windows().empty(); }));
+    Kill();
 }
 
 void StartedProgram::Start() {
@@ -78,6 +74,14 @@ bool StartedProgram::EndsWell() {
 
 bool StartedProgram::Runs() {
     return !process_.waitForFinished(0) && process_.state() == QProcess::Running;
+}
+
+void StartedProgram::Kill() {
+    if (process_.state() != QProcess::NotRunning) {
+        process_.kill();
+        process_.waitForFinished();
+    }
+    EXPECT_TRUE(Comes([&] { return screen.Windows().empty(); }));
 }
 
 QRect StartedProgram::MenuBar() const {

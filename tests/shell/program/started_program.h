@@ -29,6 +29,8 @@ protected:
     /// Waits until it has ended by itself; false if it doesn't, or ends with a status other than 0.
     bool EndsWell();
     bool Runs();
+    /// Ends it on the spot, whatever it is doing, and waits until its windows are gone.
+    void Kill();
 
     std::string Title() const { return screen.TitleOf(window_); }
     /// The place on the screen of a pixel of a control of the main form.
