@@ -49,7 +49,8 @@ bool PlayScript(const fs::path& file, const Options& options, const fs::path& ou
         return false;
     }
     ScriptLines lines(*script);
-    return ScriptRun(script->name, lines, Places(options.folder, outFolder, script->folder), libraries, out).Play();
+    return ScriptRun(script->name, lines, Places(options.folder, outFolder, script->folder), libraries, out)
+        .Play();
 }
 
 }  // namespace

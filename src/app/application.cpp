@@ -1,13 +1,20 @@
 #include "app/application.h"
 
 #include "app/start_up.h"
+#include "colour/pms_form.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "store/clipboard_copy.h"
+#include "store/file_menu.h"
+#include "store/open_design.h"
+#include "tools/fill_tools.h"
 #include "tools/gesture_engine.h"
 #include "tools/image_browser.h"
+#include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
+#include "tools/shape_tools.h"
 #include "tools/tool_strip.h"
 
 namespace coinlet {
@@ -20,6 +27,14 @@ struct Application::House {
           context{services, session, main, plaatjes} {
         gestures.Add(FreeHandTool(context));
         gestures.Add(LineTool(context));
+        gestures.Add(ShapeTools(context));
+        gestures.Add(FillTool(context));
+        gestures.Add(EraseTool(context));
+        gestures.Add(PickTool(context));
+        strip.openColourChooser = [this] {
+            PMSForm chooser(context);
+            services.platform.ShowModal(chooser);
+        };
         main.Load = [this] { StartUp(context); };
     }
 
@@ -31,9 +46,13 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
+    FileMenu file{context};
+    OpenDesign open{context};
+    ClipboardCopy copy{context};
     ToolStrip strip{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
+    InfoPanelRows panelRows{context};
 };
 
 Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}

@@ -1,6 +1,7 @@
 #include "app/start_up.h"
 
 #include "base/files.h"
+#include "colour/pms_table.h"
 #include "core/about.h"
 #include "core/context.h"
 #include "core/info_panel.h"
@@ -85,8 +86,8 @@ void HideUnfinished(Context& context) {
 
 // The form is laid out when it is made, and the session has its defaults; these steps do the rest.
 constexpr void (*steps[])(Context&) = {
-    ListStockImages, PrepareCanvas,  PreparePanel, ShowStartPicture, FillTextPanel,
-    SizeHoleMarker,  PrintAboutText, ReadSettings, StartLanguage,    HideUnfinished,
+    ListStockImages, PrepareCanvas, PreparePanel, ShowStartPicture, FillTextPanel,  SizeHoleMarker,
+    PrintAboutText,  LoadPmsColors, ReadSettings, StartLanguage,    HideUnfinished,
 };
 
 }  // namespace

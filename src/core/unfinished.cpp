@@ -14,19 +14,10 @@ constexpr std::array unfinishedTools{3, 4, 7, 10, 11};
 
 constexpr std::array<VistaButton MainForm::*, 2> unfinishedButtons{&MainForm::OkKnop, &MainForm::PlaatsKnop};
 
-constexpr std::array<MenuItem MainForm::*, 13> unfinishedEntries{&MainForm::FileOpen,
-                                                                 &MainForm::FileSave,
-                                                                 &MainForm::FileImport,
-                                                                 &MainForm::FileExport,
-                                                                 &MainForm::FilePrint,
-                                                                 &MainForm::BewerkenCopy,
-                                                                 &MainForm::BewerkenInformation,
-                                                                 &MainForm::ViewMyCollection,
-                                                                 &MainForm::LibraryBorders,
-                                                                 &MainForm::LibraryBackside,
-                                                                 &MainForm::LibraryGlitter,
-                                                                 &MainForm::ClipartGroot,
-                                                                 &MainForm::Symbolen};
+constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
+    &MainForm::FileImport,     &MainForm::FilePrint,       &MainForm::ViewMyCollection,
+    &MainForm::LibraryBorders, &MainForm::LibraryBackside, &MainForm::LibraryGlitter,
+    &MainForm::ClipartGroot,   &MainForm::Symbolen};
 
 constexpr std::array<ControlArray<MenuItem> MainForm::*, 4> unfinishedMenus{
     &MainForm::Filter, &MainForm::EditContrastConvert, &MainForm::EditSwap, &MainForm::FlipPic};

@@ -67,6 +67,13 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         const bool usedUp = ViewOf::eventFilter(watched, event);
+        if (event->type() == QEvent::FocusIn) {
+            // A field that is come to by key, or that its form starts on, has its text selected: typing
+            // replaces it. Selected later, since the mirror may have a text to set first.
+            const auto reason = static_cast<const QFocusEvent*>(event)->reason();
+            if (reason != Qt::MouseFocusReason && reason != Qt::PopupFocusReason)
+                QMetaObject::invokeMethod(combo_.lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+        }
         if (event->type() != QEvent::KeyPress) return usedUp;
         // The program steps through the rows by itself.
         const int code = KeyCode(static_cast<const QKeyEvent*>(event)->key());

@@ -164,7 +164,8 @@ void FormWindow::MirrorFocus() {
     const Control* focused = form_->Focus();
     ControlView* view = focused ? ViewOf(*focused) : nullptr;
     QWidget* wanted = view ? &view->KeyboardWidget() : this;
-    if (focusWidget() != wanted) wanted->setFocus(Qt::OtherFocusReason);
+    // As if by the tab key: a field then has its text selected, so that typing replaces it.
+    if (focusWidget() != wanted) wanted->setFocus(Qt::TabFocusReason);
 }
 
 void FormWindow::Detach() {

@@ -1,7 +1,9 @@
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "controls/text_lines.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
+#include "shell/line_layout.h"
 #include "shell/look.h"
 #include "shell/qt_text.h"
 #include "shell/views.h"
@@ -10,9 +12,13 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace coinlet {
 
@@ -75,10 +81,34 @@ private:
     QLineEdit& line_;
 };
 
+/// An editor whose lines are cut by a layout of the program.
+class LinesEdit : public QPlainTextEdit {
+public:
+    explicit LinesEdit(QWidget* parent) : QPlainTextEdit(parent) {}
+
+    void SetWrap(LineLayout::Wrap wrap) {
+        auto* document = new QTextDocument(this);
+        document->setDocumentMargin(textBoxMargin);
+        layout_ = new LineLayout(*document, std::move(wrap));
+        document->setDocumentLayout(layout_);
+        setDocument(document);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QPlainTextEdit::resizeEvent(event);
+        if (layout_ != nullptr) layout_->LayOutAll();
+    }
+
+private:
+    LineLayout* layout_ = nullptr;
+};
+
 class LinesView : public TextBoxView {
 public:
-    LinesView(TextBox& box, QPlainTextEdit& widget, EventGate& gate)
+    LinesView(TextBox& box, LinesEdit& widget, EventGate& gate)
         : TextBoxView(box, widget, gate), lines_(widget) {
+        widget.SetWrap([this](std::string_view text) { return WrapAsTheProgram(text); });
         widget.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         widget.setVerticalScrollBarPolicy(box.VerticalScroll ? Qt::ScrollBarAlwaysOn
                                                              : Qt::ScrollBarAlwaysOff);
@@ -100,6 +130,12 @@ protected:
     bool EditsReturn() const override { return true; }
 
 private:
+    std::vector<std::string> WrapAsTheProgram(std::string_view text) const {
+        if (!Shown()) return {std::string(text)};
+        const TextBox& box = model();
+        return WrapLine(text, WrapWidth(box), box.CurrentFont(), box.OwnerForm().Fonts());
+    }
+
     QPlainTextEdit& lines_;
 };
 
@@ -107,7 +143,7 @@ private:
 
 ControlView* MakeTextBoxView(Control& control, QWidget& parent, EventGate& gate) {
     auto& box = static_cast<TextBox&>(control);
-    if (box.MultiLine) return new LinesView(box, *new QPlainTextEdit(&parent), gate);
+    if (box.MultiLine) return new LinesView(box, *new LinesEdit(&parent), gate);
     return new LineView(box, *new QLineEdit(&parent), gate);
 }
 

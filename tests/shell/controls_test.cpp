@@ -1,11 +1,15 @@
 // What each kind of control looks like in a window, and what the user does to it.
 
+#include "controls/text_lines.h"
 #include "sample_form.h"
 #include "shell/form_window.h"
 #include "user.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include <map>
 #include <memory>
@@ -167,6 +171,51 @@ TEST_F(Controls, TypingChangesTheTextLetterByLetter) {
         user.Key("Return");
         user.Type("x");
         EXPECT_TRUE(user.Sees([&] { return form.Text2.Text() == "First line\r\nSecond line\r\nx"; }));
+    });
+}
+
+/// The lines that a widget of several lines shows, with their line ends as in a control's text.
+std::vector<std::string> ShownLines(const QPlainTextEdit& widget) {
+    std::vector<std::string> lines;
+    for (QTextBlock block = widget.document()->begin(); block.isValid(); block = block.next()) {
+        const QTextLayout& layout = *block.layout();
+        for (int i = 0; i < layout.lineCount(); ++i) {
+            const QTextLine line = layout.lineAt(i);
+            lines.push_back(block.text().mid(line.textStart(), line.textLength()).toStdString());
+        }
+        if (block.next().isValid()) lines.back() += "\r\n";
+    }
+    return lines;
+}
+
+TEST_F(Controls, CutTheirLinesWhereTheProgramDoes) {
+    // 134 pixels of the box are for letters, 33 blocks of the test's font; the screen's own font is another.
+    const std::string narrow(40, 'i'), wide(20, 'W'), blanks(20, ' ');
+    const std::vector<std::string> texts{
+        narrow + " " + wide + " " + narrow, wide + blanks + wide + blanks + blanks + "x\r\n\r\n" + blanks,
+        "well-known words/with signs, and \xC3\xA9\xC3\xA9\xC3\xA9 \xF0\x9F\x98\x80\xF0\x9F\x98\x80 "
+        "among them\r\n",
+        ""};
+    Run(form, [&](User& user) {
+        const auto agree = [&] {
+            const QWidget& widget = platform.WindowOf(form)->ViewOf(form.Text2)->Widget();
+            return ShownLines(dynamic_cast<const QPlainTextEdit&>(widget)) == DisplayedLines(form.Text2);
+        };
+        for (const std::string& text : texts) {
+            user.Has([&] { form.Text2.SetText(text); });
+            user.MoveTo(user.PlaceOf(form.Text2, 20, 20));
+            user.MoveTo(user.PlaceOf(form.Label1, 20, 5));
+            EXPECT_TRUE(user.Sees(agree)) << text;
+        }
+        user.Click(form.Text2, 60, 50);
+        user.Type("one two three four five six seven eight nine");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.Text().ends_with("nine"); }));
+        EXPECT_TRUE(user.Sees(agree));
+        EXPECT_GT(DisplayedLines(form.Text2).size(), 1U);
+        user.Has([&] { form.Text2.SetWidth(100 * 15); });
+        user.Type(".");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.Text().ends_with("."); }));
+        EXPECT_TRUE(user.Sees(agree));
     });
 }
 

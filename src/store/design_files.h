@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/files.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace coinlet {
+
+// A design is two files of one name in the folder of designs: its picture, and if it has one its info text.
+constexpr std::string_view designPicture = ".pat";
+constexpr std::string_view designInfoText = ".txt";
+
+/// Where a file of the design `name` stands or would stand, as a text: the folder is put before the name as
+/// the user typed it.
+std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension);
+
+/// The same as a path; nothing for a name that leads to no file in the folder of designs.
+std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::string_view name,
+                                   std::string_view extension);
+
+}  // namespace coinlet

@@ -1,0 +1,59 @@
+#include "store/info_text.h"
+
+#include "base/text.h"
+#include "core/context.h"
+#include "core/main_form.h"
+#include "store/design_files.h"
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+constexpr std::string_view banner = "Ivo Kestrell Software 2014";
+constexpr std::string_view rule = "--------------------------";
+constexpr int headerItems = 2;
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::size_t largestInfoText = std::size_t{16} << 20;
+
+/// `text` behind its first item, which ends at a comma or with its line.
+std::string_view AfterItem(std::string_view text) {
+    const std::size_t end = text.find_first_of(",\r\n");
+    if (end == std::string_view::npos) return {};
+    const bool isPair = text.substr(end, lineEnd.size()) == lineEnd;
+    return text.substr(end + (isPair ? lineEnd.size() : 1));
+}
+
+}  // namespace
+
+void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls) {
+    const auto path = DesignPath(context.services.applicationFolder, name, designInfoText);
+    if (!path) return;
+    std::string text;
+    const auto addLine = [&](std::string_view line) { text.append(line).append(lineEnd); };
+    addLine(banner);
+    addLine(rule);
+    const ListBox& rows = context.main.List2;
+    for (int i = 0; i < rows.ListCount(); ++i)
+        addLine(rows.List(i));
+    static_cast<void>(ReplaceFile(*path, AsBytes(ToCodePage(text)), calls));
+}
+
+void ReadDesignInfoText(const Context& context, std::string_view name) {
+    ListBox& rows = context.main.List2;
+    rows.Clear();
+    const auto path = DesignPath(context.services.applicationFolder, name, designInfoText);
+    if (!path) return;
+    const auto bytes = ReadFile(*path, largestInfoText);
+    if (!bytes) return;
+    std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+    for (int item = 0; item < headerItems; ++item)
+        text = AfterItem(text);
+    for (const std::string& line : Lines(FromCodePage(text))) {
+        if (!TrimBlanks(line).empty()) rows.AddItem(line);
+    }
+}
+
+}  // namespace coinlet

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "base/files.h"
+
+#include <string_view>
+
+namespace coinlet {
+
+struct Context;
+
+/// Writes the info text of the design `name` from the rows of `Main.List2`, over an older one. If that can't
+/// be done, or the name leads to no file, everything stays as it was; nobody is told.
+void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls = SystemFileCalls());
+
+/// Fills `Main.List2` from the info text of the design `name`, without its blank rows. A design without one
+/// has no rows.
+void ReadDesignInfoText(const Context& context, std::string_view name);
+
+}  // namespace coinlet

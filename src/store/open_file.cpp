@@ -1,0 +1,146 @@
+#include "store/open_file.h"
+
+#include "base/files.h"
+#include "controls/placing.h"
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "core/main_life.h"
+#include "store/composed_picture.h"
+#include "store/design_files.h"
+#include "store/info_text.h"
+#include "surface/codecs.h"
+
+#include <algorithm>
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+constexpr std::string_view designPattern = "*.pat";
+
+constexpr double previewSide = 100;
+/// The side panel's size on the main form, in pixels; in the picture of a design it has the same width.
+constexpr double panelWidth = 178, panelHeight = 500;
+
+/// The name of a design, from that of its picture. A shorter name than an extension leaves an empty one.
+std::string DesignOf(const std::string& file) {
+    return file.substr(0, file.size() - std::min(file.size(), designPicture.size()));
+}
+
+/// The picture of a design. Stores that come from a system without regard to case hold ".PAT" as well.
+std::string PictureOf(const Context& context, const std::string& name) {
+    const fs::path usual = DesignFile(context.services.applicationFolder, name, designPicture);
+    if (FileExists(usual)) return usual;
+    const fs::path folder = usual.parent_path();
+    for (const std::string& file : ListFiles(folder, designPattern))
+        if (DesignOf(file) == name) return folder / file;
+    return usual;
+}
+
+}  // namespace
+
+OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFile"), context_(context) {
+    LayOut();
+    List1.Click = [this] { List1_Click(); };
+    List1.DblClick = [this] { OkKnop_Click(); };
+    OkKnop.Click = [this] { OkKnop_Click(); };
+    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    DelKnop.Click = [this] { DelKnop_Click(); };
+}
+
+void OpenFile::LayOut() {
+    Caption = "Open Coinlet";
+    Width = 304 * twipsPerPixel;
+    Height = 266 * twipsPerPixel;
+    PlaceByPixels(Label2, 8, 8, 288, 32);
+    PlaceByPixels(List1, 8, 44, 176, 180);
+    PlaceByPixels(Label1, 192, 44, 104, 104);
+    PlaceByPixels(Image1, 194, 46, 100, 100);
+    PlaceByPixels(DelKnop, 192, 156, 104, 24);
+    PlaceByPixels(OkKnop, 88, 232, 100, 24);
+    PlaceByPixels(CancelKnop, 196, 232, 100, 24);
+
+    List1.ForeColor = RGB(60, 60, 60);
+    List1.BackColor = RGB(200, 220, 220);
+    Label1.Border = true;
+    File1.Visible = false;
+    BackPic.Visible = false;
+    BackPic.surface.AutoSize = true;
+    OkKnop.SetCaption("Ok");
+    CancelKnop.SetCaption("Cancel");
+    DelKnop.SetCaption("Delete");
+}
+
+void OpenFile::Form_Load() {
+    Label2.Caption = LookupInfoText(context_, "040");
+    File1.SetPattern(std::string(designPattern));
+    File1.SetPath(Beneath(context_.services.applicationFolder, "\\Ontwerpen\\").string());
+    for (int i = 0; i < File1.ListCount(); ++i)
+        List1.AddItem(DesignOf(File1.List(i)));
+    List1.SetFocus();
+}
+
+void OpenFile::List1_Click() {
+    DelKnop.SetEnabled(true);
+    if (const auto picture = LoadPicture(PictureOf(context_, List1.Text()), context_.services.codecs))
+        BackPic.surface.SetPicture(*picture);
+    // A little more than the canvas: the squeeze and the strip beside it are how previews look.
+    const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - panelWidth, BackPic.surface.ScaleHeight()};
+    Image1.surface.PaintPicture(BackPic.surface.Image(), {0, 0, previewSide, previewSide}, shown);
+}
+
+void OpenFile::OpenChosen() {
+    const std::string name = List1.Text();
+    const std::string file = PictureOf(context_, name);
+    Session& session = context_.session;
+    session.DesignFile = file;
+    // Without a choice the name is empty, and a file called ".pat" isn't meant.
+    if (List1.ListIndex() < 0) return;
+    const auto picture = LoadPicture(file, context_.services.codecs);
+    if (!picture) return;
+
+    MainForm& main = context_.main;
+    main.Pic.surface.SetPicture(*picture);
+    main.UndoPic.surface.SetPicture(*picture);
+    session.DesignName = name;
+    main.Label2.Caption = fileNameCaption + name;
+    session.DesignChanged = false;
+    ShowHint(context_, "001");
+    main.InfoPic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, panelWidth, panelHeight},
+                                      {composedPanelLeft, 0, panelWidth, BackPic.surface.ScaleHeight()});
+    ReadDesignInfoText(context_, name);
+}
+
+void OpenFile::OkKnop_Click() {
+    // Opened or not, the user is back at the canvas and sees which design it holds.
+    OpenChosen();
+    Unload();
+}
+
+void OpenFile::CancelKnop_Click() {
+    Unload();
+    ShowHint(context_, "001");
+}
+
+void OpenFile::DelKnop_Click() {
+    const int row = List1.ListIndex();
+    if (row < 0) return;
+    const std::string name = List1.Text();
+    // The question is Dutch in every language.
+    const Answer answer =
+        context_.services.platform.ShowMessage({.prompt = "Wilt u het ontwerp '" + name + "' verwijderen?",
+                                                .title = "Delete",
+                                                .buttons = MessageButtons::YesNo,
+                                                .icon = MessageIcon::Question,
+                                                .standard = Answer::No});
+    if (answer != Answer::Yes) return;
+    // A file that can't be deleted, or is gone already, is passed over: the row goes all the same.
+    static_cast<void>(DeleteFile(PictureOf(context_, name)));
+    List1.RemoveItem(row);
+    Image1.surface.Cls();
+    static_cast<void>(DeleteFile(DesignFile(context_.services.applicationFolder, name, designInfoText)));
+}
+
+}  // namespace coinlet

@@ -1,0 +1,177 @@
+#include "store/save_form.h"
+
+#include "base/desktop.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "controls/placing.h"
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "store/composed_picture.h"
+#include "store/design_files.h"
+#include "store/info_text.h"
+#include "surface/codecs.h"
+
+#include <string>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int exportQuality = 100;
+constexpr int nameWidth = 299, nameHeight = 20;
+constexpr Colour dialogColour = RGB(170, 240, 240);
+constexpr Colour barColour = RGB(0, 240, 0);
+
+/// Turns a bitmap file into a JPEG file. If that fails, a file that stood there still does.
+void BmpToJpeg(const fs::path& source, const fs::path& target, int quality, const PictureCodecs& codecs) {
+    const auto picture = LoadPicture(source, codecs);
+    if (!picture) return;
+    if (const auto bytes = codecs.EncodeJpeg(*picture, quality))
+        static_cast<void>(ReplaceFile(target, *bytes));
+}
+
+/// The scratch file of an export; it goes with this object.
+class ScratchBitmap {
+public:
+    ScratchBitmap(const fs::path& folder, const Image& image)
+        : path_(Beneath(folder, "\\mydummy.bmp")), written_(!SavePicture(image, path_)) {}
+    ScratchBitmap(const ScratchBitmap&) = delete;
+    ScratchBitmap& operator=(const ScratchBitmap&) = delete;
+    ~ScratchBitmap() {
+        if (written_) static_cast<void>(DeleteFile(path_));
+    }
+
+    bool Written() const { return written_ && FileExists(path_); }
+    const fs::path& Path() const { return path_; }
+
+private:
+    fs::path path_;
+    bool written_;
+};
+
+}  // namespace
+
+SaveForm::SaveForm(Context& context) : Form(context.services.ForForms(), "SaveForm"), context_(context) {
+    SaveKnop.Click = [this] { SaveKnop_Click(); };
+    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    DefaultButton = &SaveKnop;
+    LayOut();
+}
+
+bool SaveForm::Exports() const {
+    return context_.session.SaveMode == "JPG";
+}
+
+void SaveForm::LayOut() {
+    Width = 350 * twipsPerPixel;
+    Height = 100 * twipsPerPixel;
+    BackColor = dialogColour;
+    Text1.ForeColor = RGB(240, 240, 160);
+    Text1.BackColor = RGB(40, 40, 60);
+    PlaceByPixels(Text1, 12, 12, nameWidth, nameHeight);
+    PlaceByPixels(Bar, 12, 12, nameWidth, nameHeight);
+    Bar.surface.SetBackColor(RGB(64, 0, 0));
+    Bar.Visible = false;
+    Label1.Alignment = Alignment::Center;
+    PlaceByPixels(Label1, 312, 15, 36, 14);
+    Check1.Caption = "Save with PMS colors and Back";
+    Check1.BackColor = dialogColour;
+    PlaceByPixels(Check1, 12, 40, nameWidth, 18);
+    SaveKnop.SetCaption("Save");
+    PlaceByPixels(SaveKnop, 143, 64, 80, 24);
+    CancelKnop.SetCaption("Cancel");
+    PlaceByPixels(CancelKnop, 231, 64, 80, 24);
+    for (PictureBox* composing : {&Orgineel, &BmpPic}) {
+        PlaceByPixels(*composing, 0, 0, composedWidth, composedHeight);
+        composing->surface.SetBackColor(white);
+        composing->Visible = false;
+    }
+}
+
+void SaveForm::Form_Load() {
+    Caption = Exports() ? "Export to JPG image" : "Save Coinlet";
+    if (Exports()) ShowHint(context_, "071");
+    Label1.Caption = "0%";
+    Text1.SetText(context_.session.DesignName);
+    Check1.Visible = Exports();
+    const Image canvas = context_.main.Pic.surface.Image();
+    const Image sidePanel = context_.main.InfoPic.surface.Image();
+    for (PictureBox* composing : {&Orgineel, &BmpPic})
+        ComposePicture(canvas, sidePanel, composing->surface);
+    Text1.SetFocus();
+}
+
+void SaveForm::SaveKnop_Click() {
+    if (TrimBlanks(Text1.Text()).empty()) return;
+    if (!(Exports() ? ExportJpeg() : SaveDesign())) return;
+    ShowProgress();
+    ShowHint(context_, "001");
+    context_.services.platform.Screen.MousePointer = toolPointer;
+    context_.session.DesignChanged = false;
+    Unload();
+}
+
+void SaveForm::CancelKnop_Click() {
+    Unload();
+    ShowHint(context_, "001");
+}
+
+bool SaveForm::ExportJpeg() {
+    const Services& services = context_.services;
+    const ScratchBitmap scratch(services.applicationFolder,
+                                (Check1.Value() ? Orgineel : context_.main.Pic).surface.Image());
+    if (!scratch.Written()) {
+        services.platform.ShowMessage({.prompt = "File save not as JPG!"});
+        return false;
+    }
+    const std::string fileName = Text1.Text() + ".jpg";
+    const std::string target = (services.desktop.PictureFolder() / "").string() + fileName;
+    context_.session.DesignFile = target;
+    if (!IsFileName(fileName)) return true;
+    if (!MayWrite(target)) return false;
+    BmpToJpeg(scratch.Path(), target, exportQuality, services.codecs);
+    return true;
+}
+
+bool SaveForm::SaveDesign() {
+    const fs::path& folder = context_.services.applicationFolder;
+    const std::string& name = Text1.Text();
+    context_.session.DesignFile = DesignFile(folder, name, designPicture);
+    const auto target = DesignPath(folder, name, designPicture);
+    if (!target) return true;
+    if (!MayWrite(*target)) return false;
+    // A user who isn't told of a failure finds the older design untouched.
+    static_cast<void>(SavePicture(BmpPic.surface.Image(), *target));
+    if (context_.main.List2.ListCount() > 0) WriteDesignInfoText(context_, name);
+    return true;
+}
+
+bool SaveForm::MayWrite(const fs::path& path) {
+    if (!FileExists(path)) return true;
+    const Answer answer = context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, "070"),
+                                                                  .title = " Exist",
+                                                                  .buttons = MessageButtons::YesNo,
+                                                                  .icon = MessageIcon::Question,
+                                                                  .standard = Answer::No});
+    return answer == Answer::Yes;
+}
+
+/// The files are written by now: the bar is the sign to the user that the saving is done.
+void SaveForm::ShowProgress() {
+    constexpr int end = 300, step = 2, barBottom = 18;
+    Platform& platform = context_.services.platform;
+    platform.Screen.MousePointer = hourglassPointer;
+    Text1.Visible = false;
+    Bar.Visible = true;
+    for (int i = 0; i <= end; i += step) {
+        Bar.surface.Line(0, 0, i, barBottom, barColour, Box::Filled);
+        Label1.Caption = std::to_string(RoundHalfEven(i / 3.0)) + "%";
+        platform.Wait(0.02);
+    }
+    Label1.Caption = "100%";
+    platform.Wait(0.5);
+}
+
+}  // namespace coinlet

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "tools/gesture_engine.h"
+
+namespace coinlet {
+
+/// Repaints the region of one colour under the pointer with the fill colour, at the press.
+ToolFamily FillTool(Context& context);
+/// Dabs a disc up and to the left of the pointer, at the press and at each move: white, or in the fill colour
+/// if the user ticked that.
+ToolFamily EraseTool(Context& context);
+/// Stores the colour under a press as the colour of the present pick. What the field shows meanwhile is the
+/// gesture engine's.
+ToolFamily PickTool(Context& context);
+
+}  // namespace coinlet

@@ -1,0 +1,162 @@
+// The info text of a design on its way to the store and back.
+#include "store/info_text.h"
+
+#include "unit/store/failing_step.h"
+#include "unit/store/store_world.h"
+
+#include <gtest/gtest.h>
+
+namespace coinlet {
+namespace {
+
+using test::StoreWorld;
+using Rows = std::vector<std::string>;
+
+const std::string header = "Ivo Kestrell Software 2014\r\n--------------------------\r\n";
+
+TEST(WriteDesignInfoText, WritesAHeaderAndEveryRow) {
+    StoreWorld world;
+    world.SetRows({"first", "", "  third, with a comma", "   "});
+    WriteDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Stored("coin.txt"), header + "first\r\n\r\n  third, with a comma\r\n   \r\n");
+    EXPECT_EQ(world.StoredFiles(), 1);
+}
+
+TEST(WriteDesignInfoText, WritesTheHeaderAloneForNoRows) {
+    StoreWorld world;
+    WriteDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Stored("coin.txt"), header);
+}
+
+TEST(WriteDesignInfoText, WritesOneByteACharacter) {
+    StoreWorld world;
+    world.SetRows({"café €5 \U0001F600"});
+    WriteDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Stored("coin.txt"), header +
+                                            "caf\xE9 \x80"
+                                            "5 ?\r\n");
+}
+
+TEST(WriteDesignInfoText, ReplacesALongerOne) {
+    StoreWorld world;
+    world.Store("coin.txt", std::string(1000, 'x'));
+    world.SetRows({"new"});
+    WriteDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Stored("coin.txt"), header + "new\r\n");
+}
+
+TEST(WriteDesignInfoText, TakesNamesAsTheyAreTyped) {
+    StoreWorld world;
+    world.SetRows({"row"});
+    const Rows names{" leading and trailing ", "-rf", "\"quoted\" 'name'", "café", "\U0001F600", "a\\b", "..",
+                     std::string(251, 'n')};
+    for (const std::string& name : names) {
+        WriteDesignInfoText(world.context, name);
+        EXPECT_EQ(world.Stored(name + ".txt"), header + "row\r\n") << name;
+    }
+    EXPECT_EQ(world.StoredFiles(), std::ssize(names));
+}
+
+TEST(WriteDesignInfoText, WritesNothingUnderANameThatNoFileCanHave) {
+    StoreWorld world;
+    world.SetRows({"row"});
+    fs::create_directory(world.folder / "app/Ontwerpen/sub");
+    for (const std::string& name : {std::string("../coin"), std::string("sub/coin"), std::string("/coin"),
+                                    std::string("a\0b", 3), std::string(252, 'n')})
+        WriteDesignInfoText(world.context, name);
+    EXPECT_EQ(world.StoredFiles(), 1);
+    EXPECT_TRUE(fs::is_empty(world.folder / "app/Ontwerpen/sub"));
+    EXPECT_EQ(world.folder.Read("app/coin.txt"), "(no file)");
+    EXPECT_TRUE(world.platform.messages.empty());
+}
+
+TEST(WriteDesignInfoText, MakesNoFolder) {
+    StoreWorld world;
+    fs::remove(world.folder / "app/Ontwerpen");
+    world.SetRows({"row"});
+    WriteDesignInfoText(world.context, "coin");
+    EXPECT_FALSE(fs::exists(world.folder / "app/Ontwerpen"));
+}
+
+class WriteDesignInfoTextFails : public testing::TestWithParam<test::Step> {};
+INSTANTIATE_TEST_SUITE_P(AtEachStep, WriteDesignInfoTextFails,
+                         testing::Values(test::Step::Open, test::Step::Write, test::Step::Flush,
+                                         test::Step::Close, test::Step::Rename));
+
+TEST_P(WriteDesignInfoTextFails, AndLeavesTheOldOneOrNone) {
+    StoreWorld world;
+    world.Store("old.txt", "old\r\n");
+    world.SetRows({"new"});
+    for (const char* name : {"old", "new"}) {
+        test::FailingStep calls(GetParam());
+        WriteDesignInfoText(world.context, name, calls);
+    }
+    EXPECT_EQ(world.Stored("old.txt"), "old\r\n");
+    EXPECT_EQ(world.StoredFiles(), 1);
+    EXPECT_TRUE(world.platform.messages.empty());
+}
+
+Rows Read(std::string_view content) {
+    StoreWorld world;
+    world.SetRows({"of an earlier design"});
+    world.Store("coin.txt", content);
+    ReadDesignInfoText(world.context, "coin");
+    return world.Rows();
+}
+
+TEST(ReadDesignInfoText, DropsTheHeaderAndBlankRows) {
+    EXPECT_EQ(Read(header + "a, b\r\n\r\n   \r\n  c \r\n"), (Rows{"a, b", "  c "}));
+    EXPECT_EQ(Read(header + "\t\r\n"), (Rows{"\t"}));
+}
+
+TEST(ReadDesignInfoText, ComparesTheHeaderWithNothing) {
+    EXPECT_EQ(Read("x\r\ny\r\nrow\r\n"), (Rows{"row"}));
+    EXPECT_EQ(Read("\r\n\r\nrow"), (Rows{"row"}));
+}
+
+TEST(ReadDesignInfoText, EndsAnItemOfTheHeaderAtAComma) {
+    EXPECT_EQ(Read("x,y\r\nrow 1\r\nrow 2\r\n"), (Rows{"row 1", "row 2"}));
+    EXPECT_EQ(Read("x,y,rest\r\nrow\r\n"), (Rows{"rest", "row"}));
+    EXPECT_EQ(Read("x\r\ny,rest\r\n"), (Rows{"rest"}));
+}
+
+TEST(ReadDesignInfoText, ReadsOtherLineEndsToo) {
+    EXPECT_EQ(Read("x\ny\na\n\nb"), (Rows{"a", "b"}));
+    EXPECT_EQ(Read("x\ry\ra\rb\r"), (Rows{"a", "b"}));
+}
+
+TEST(ReadDesignInfoText, ReadsTheCodePage) {
+    EXPECT_EQ(Read(header + "caf\xE9 \x80"), (Rows{"café €"}));
+}
+
+TEST(ReadDesignInfoText, FindsNoRowsWhereThereIsNoText) {
+    EXPECT_EQ(Read(""), Rows{});
+    EXPECT_EQ(Read("x"), Rows{});
+    EXPECT_EQ(Read("x\r\n"), Rows{});
+    EXPECT_EQ(Read(header), Rows{});
+    for (const std::string& name : {std::string("missing"), std::string("../coin"), std::string(300, 'n')}) {
+        StoreWorld world;
+        world.SetRows({"of an earlier design"});
+        world.folder.Write("app/coin.txt", header + "not in the store\r\n");
+        ReadDesignInfoText(world.context, name);
+        EXPECT_EQ(world.Rows(), Rows{}) << name;
+    }
+}
+
+TEST(ReadDesignInfoText, PassesOverAFolderOfThatName) {
+    StoreWorld world;
+    fs::create_directory(world.folder / "app/Ontwerpen/coin.txt");
+    ReadDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Rows(), Rows{});
+}
+
+TEST(DesignInfoText, ComesBackWithoutItsBlankRows) {
+    StoreWorld world;
+    world.SetRows({"one", "", "  two", "    ", "three, and", ""});
+    WriteDesignInfoText(world.context, "coin");
+    ReadDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Rows(), (Rows{"one", "  two", "three, and"}));
+}
+
+}  // namespace
+}  // namespace coinlet
