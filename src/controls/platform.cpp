@@ -133,8 +133,9 @@ void Platform::ThrowIfEnded() const {
 }
 
 Form* Platform::FindForm(std::string_view name) const {
-    const auto found = std::ranges::find(forms_, name, &Form::Name);
-    return found == forms_.end() ? nullptr : *found;
+    const auto found = std::find_if(forms_.rbegin(), forms_.rend(),
+                                    [name](const Form* form) { return form->Name() == name; });
+    return found == forms_.rend() ? nullptr : *found;
 }
 
 }  // namespace coinlet

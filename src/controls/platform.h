@@ -78,6 +78,7 @@ public:
     /// The loaded forms; the last one is in front and the only one the user can reach.
     const std::vector<Form*>& Forms() const { return forms_; }
     Form* FrontForm() const { return forms_.empty() ? nullptr : forms_.back(); }
+    /// The loaded form of that name, the one in front if there are several; nullptr if there is none.
     Form* FindForm(std::string_view name) const;
 
 protected:
