@@ -148,7 +148,7 @@ const std::vector<Bytes> scripts{
 }  // namespace
 }  // namespace coinlet::test
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): a broken test bed may end it
     using namespace coinlet;
     using test::File;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -72,9 +72,10 @@ std::string FaultOfOptions(const Form& form) {
 
 std::string FaultOfForm(const Form& form) {
     for (const Element* const element : form.Elements()) {
-        for (const auto faultOf : elementFaults)
-            if (std::string fault = faultOf(*element); !fault.empty())
+        for (const auto faultOf : elementFaults) {
+            if (const std::string fault = faultOf(*element); !fault.empty())
                 return player::FullNameOf(*element) + ": " + fault;
+        }
     }
     return FaultOfOptions(form);
 }

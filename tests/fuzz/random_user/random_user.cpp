@@ -33,7 +33,8 @@ std::string WriteFileLine(const std::string& path, const Bytes& bytes) {
 
 /// Pictures for the image browser, a damaged one among them.
 std::vector<std::string> FirstLines() {
-    Bytes pixels(48 * 31 * 3);
+    constexpr std::size_t pixelBytes = 4464;  // 48 by 31 pixels of 3
+    Bytes pixels(pixelBytes);
     std::iota(pixels.begin(), pixels.end(), std::uint8_t{0});
     const Bytes bitmap = BmpBytes{.width = 48, .height = 31, .bits = 24, .pixels = pixels}.File();
     const std::vector<std::uint8_t> indices{0, 1, 2, 3, 3, 2, 1, 0, 1};

@@ -53,10 +53,10 @@ bool IsSide(std::string_view name) {
     return name == "Width" || name == "Height";
 }
 
-/// The canvas has its size for good: no user's doing changes it, so neither do assignments here.
-bool KeepsItsSize(const Element* element) {
+/// The canvas has its size for good; a canvas that takes that of a picture is no fault of the program.
+bool GivesUpItsSize(const Element* element, const Property& property) {
     const auto* const main = element ? dynamic_cast<const MainForm*>(&element->OwnerForm()) : nullptr;
-    return main && element == &main->Pic;
+    return main && element == &main->Pic && property.name == "AutoSize";
 }
 
 std::string AnyValue(const Chance& chance, const Element* element, const Property& property) {
@@ -80,13 +80,14 @@ std::string AnyValue(const Chance& chance, const Element* element, const Propert
 std::string SetProperty(const Chance& chance) {
     const Place place = AnyPlace(chance);
     Collector found;
-    if (place.element)
+    if (place.element) {
         place.element->VisitProperties(found);
-    else
+    } else {
         place.form->VisitProperties(found);
+    }
     if (found.properties.empty()) return "";
     const Property property = chance.dice.Pick(found.properties);
-    if (KeepsItsSize(place.element) && (IsSide(property.name) || property.name == "AutoSize")) return "";
+    if (GivesUpItsSize(place.element, property)) return "";
     // Of these a script sets no other text than a row's, by picking it.
     if (property.name == "Text" && dynamic_cast<const ListBox*>(place.element)) return "";
     return "set " + place.Address() + "." + std::string(property.name) + " " +
@@ -109,10 +110,11 @@ std::string SetScreen(const Chance& chance) {
 std::string RaiseEvent(const Chance& chance) {
     const Place place = AnyPlace(chance);
     Collector found;
-    if (place.element)
+    if (place.element) {
         place.element->VisitEvents(found);
-    else
+    } else {
         place.form->VisitEvents(found);
+    }
     if (found.events.empty()) return "";
     const NamedEvent event = chance.dice.Pick(found.events);
     std::string line = "raise " + place.Address() + "." + std::string(event.name);

@@ -69,6 +69,21 @@ TEST_F(PlatformTest, ADialogWaitsUntilItUnloadsAndThenTheFormBelowIsActivated) {
     EXPECT_FALSE(dialog.Loaded());
 }
 
+TEST_F(PlatformTest, OfFormsOfOneNameTheFrontOneIsFound) {
+    platform.ShowMain(main);
+    SampleForm lower = NewForm("Twin"), upper = NewForm("Twin");
+    std::vector<const Form*> found;
+    platform.doings = {[&] { platform.ShowModal(upper); },
+                       [&] {
+                           found.push_back(platform.FindForm("Twin"));
+                           upper.Unload();
+                           found.push_back(platform.FindForm("Twin"));
+                           lower.Unload();
+                       }};
+    platform.ShowModal(lower);
+    EXPECT_EQ(found, (std::vector<const Form*>{&upper, &lower}));
+}
+
 TEST_F(PlatformTest, DialogsStandAboveEachOther) {
     platform.ShowMain(main);
     SampleForm lower = NewForm("Lower"), upper = NewForm("Upper");
