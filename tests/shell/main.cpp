@@ -13,13 +13,6 @@
 #include <cstring>
 #include <gtest/gtest.h>
 
-// What the desktop's libraries keep until the process ends is none of ours. The leak checker asks for this
-// name.
-extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libdbus-1\nleak:libfontconfig\n";
-}
-
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
