@@ -100,7 +100,7 @@ TEST(GradientFill, EachVertexKeepsItsColour) {
     Fill(surface, Vertex(2, 0, 200, 0, 0), Vertex(0, 2, 0, 0, 0), GRADIENT_FILL_RECT_H);
     EXPECT_EQ(GetPixel(surface.hDC(), 0, 0), RGB(0, 0, 0));
     EXPECT_EQ(GetPixel(surface.hDC(), 1, 0), RGB(100, 0, 0));
-    // A vertical one with its x exchanged has its colours from top to bottom as told.
+    // A vertical one with its x exchanged keeps its colours from top to bottom.
     Fill(surface, Vertex(2, 0, 0, 0, 0), Vertex(0, 2, 200, 0, 0), GRADIENT_FILL_RECT_V);
     EXPECT_EQ(GetPixel(surface.hDC(), 0, 0), RGB(0, 0, 0));
     EXPECT_EQ(GetPixel(surface.hDC(), 0, 1), RGB(100, 0, 0));
