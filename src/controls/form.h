@@ -112,7 +112,7 @@ private:
     int controlsMade_ = 0;
     bool loaded_ = false;
     bool unloading_ = false;
-    bool announced_ = false;  ///< The platform was told to show it.
+    bool announced_ = false;  ///< The platform shows it.
 };
 
 }  // namespace coinlet

@@ -103,7 +103,7 @@ TEST_F(ProgramRoad, DesignIsOpenedAfterTheProgramWasKilled) {
     DrawTheBox();
     FillTheBox();
     SaveAs("tag");
-    // The file is there before the bar has told so.
+    // The file is there before the bar is full.
     ASSERT_FALSE(Stored("tag").Empty());
     Kill();
 

@@ -83,7 +83,7 @@ TEST_F(FocusTest, ALostFocusHandlerMayMoveItOn) {
     form.A.LostFocus = [&] { form.C.SetFocus(); };
     form.B.SetFocus();
     EXPECT_EQ(form.Focus(), &form.C);
-    // B got it and lost it again before it was told of the first.
+    // B got it and lost it again before it heard of the first.
     EXPECT_EQ(log.Take(), (Lines{"B.LostFocus", "C.GotFocus"}));
 }
 
