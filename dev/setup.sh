@@ -1,13 +1,19 @@
 #!/usr/bin/env bash
-# Installs what is missing for building and running the program ("run"), or also for its tests ("test").
+# Installs what is missing for building and running the program ("run"), also for its tests ("test"), or for
+# making its pictures, fonts and manuals anew ("assets").
 # Changes nothing when all is there.
 set -euo pipefail
 
 run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
 test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
+assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
+    poppler-utils)
 
 packages=("${run_packages[@]}")
-if [ "${1:-run}" = test ]; then packages+=("${test_packages[@]}"); fi
+case "${1:-run}" in
+    test) packages+=("${test_packages[@]}") ;;
+    assets) packages+=("${test_packages[@]}" "${assets_packages[@]}") ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do

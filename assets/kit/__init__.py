@@ -1,0 +1,1 @@
+"""What the generators of the program's pictures share."""
