@@ -1,6 +1,5 @@
 #include "core/settings.h"
 
-#include "base/files.h"
 #include "base/text.h"
 
 #include <vector>
@@ -17,7 +16,7 @@ constexpr std::size_t largestSettings = std::size_t{1} << 20;
 
 }  // namespace
 
-std::optional<std::string> ReadLanguageSetting(const std::filesystem::path& applicationFolder) {
+std::optional<std::string> ReadLanguageSetting(const fs::path& applicationFolder) {
     const auto bytes = ReadFile(Beneath(applicationFolder, settingsFile), largestSettings);
     if (!bytes) return {};
     const std::vector<std::string> lines =
@@ -27,12 +26,12 @@ std::optional<std::string> ReadLanguageSetting(const std::filesystem::path& appl
     return line.substr(0, line.find(','));
 }
 
-std::error_code WriteLanguageSetting(const std::filesystem::path& applicationFolder,
-                                     const std::string& languageName) {
+std::error_code WriteLanguageSetting(const fs::path& applicationFolder, const std::string& languageName,
+                                     FileCalls& calls) {
     std::string text;
     for (const std::string_view line : {banner, rule, std::string_view(languageName)})
         text.append(line).append("\r\n");
-    return ReplaceFile(Beneath(applicationFolder, settingsFile), AsBytes(ToCodePage(text)));
+    return ReplaceFile(Beneath(applicationFolder, settingsFile), AsBytes(ToCodePage(text)), calls);
 }
 
 }  // namespace coinlet

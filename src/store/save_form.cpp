@@ -8,6 +8,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "store/bmp_to_jpeg.h"
 #include "store/composed_picture.h"
 #include "store/design_files.h"
 #include "store/info_text.h"
@@ -23,14 +24,6 @@ constexpr int exportQuality = 100;
 constexpr int nameWidth = 299, nameHeight = 20;
 constexpr Colour dialogColour = RGB(170, 240, 240);
 constexpr Colour barColour = RGB(0, 240, 0);
-
-/// Turns a bitmap file into a JPEG file. If that fails, a file that stood there still does.
-void BmpToJpeg(const fs::path& source, const fs::path& target, int quality, const PictureCodecs& codecs) {
-    const auto picture = LoadPicture(source, codecs);
-    if (!picture) return;
-    if (const auto bytes = codecs.EncodeJpeg(*picture, quality))
-        static_cast<void>(ReplaceFile(target, *bytes));
-}
 
 /// The scratch file of an export; it goes with this object.
 class ScratchBitmap {

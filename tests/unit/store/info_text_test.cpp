@@ -1,7 +1,7 @@
 // The info text of a design on its way to the store and back.
 #include "store/info_text.h"
 
-#include "unit/store/failing_step.h"
+#include "support/failing_step.h"
 #include "unit/store/store_world.h"
 
 #include <gtest/gtest.h>

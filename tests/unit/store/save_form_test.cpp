@@ -1,7 +1,7 @@
 // Saving and exporting: what is written, what is asked, and what stays as it was when writing fails.
 #include "store/save_form.h"
 
-#include "unit/store/failing_step.h"
+#include "support/failing_step.h"
 #include "unit/store/store_world.h"
 
 #include <fcntl.h>
@@ -125,6 +125,17 @@ TEST(SaveForm, TakesNamesAsTheyAreTyped) {
         EXPECT_EQ(world.LoadExport(name + ".jpg").Width(), 500) << name;
     }
     EXPECT_EQ(world.StoredFiles(), std::ssize(names));
+}
+
+TEST(SaveForm, AsksWhereCaseAloneDiffersOnlyIfTheFileSystemDoesNotTellThemApart) {
+    DesignWorld world;
+    world.Store("Coin.pat", "other design");
+    const bool isOneFile = FileExists(world.folder / "app/Ontwerpen/coin.pat");
+    world.platform.answers.assign(isOneFile ? 1 : 0, Answer::No);
+    world.Save("BMP", "coin");
+    EXPECT_EQ(world.Stored("Coin.pat"), "other design");
+    EXPECT_EQ(world.platform.messages.size(), isOneFile ? 1U : 0U);
+    EXPECT_EQ(world.StoredFiles(), isOneFile ? 1 : 2);
 }
 
 TEST(SaveForm, ClosesWithoutAWordOnANameThatNoFileCanHave) {

@@ -1,0 +1,13 @@
+#include "store/bmp_to_jpeg.h"
+
+namespace coinlet {
+
+void BmpToJpeg(const fs::path& source, const fs::path& target, int quality, const PictureCodecs& codecs,
+               FileCalls& calls) {
+    const auto picture = LoadPicture(source, codecs);
+    if (!picture) return;
+    if (const auto bytes = codecs.EncodeJpeg(*picture, quality))
+        static_cast<void>(ReplaceFile(target, *bytes, calls));
+}
+
+}  // namespace coinlet

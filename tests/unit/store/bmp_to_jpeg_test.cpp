@@ -1,0 +1,57 @@
+// From a bitmap file to a JPEG file, also when the writing fails.
+#include "store/bmp_to_jpeg.h"
+
+#include "support/failing_step.h"
+#include "unit/store/store_world.h"
+
+#include <gtest/gtest.h>
+
+namespace coinlet {
+namespace {
+
+/// A bitmap file of 2 by 1 pixels and an older export.
+class Export {
+public:
+    Export() {
+        const test::BlockFonts fonts;
+        Surface surface(fonts, 2, 1);
+        surface.PSet(1, 0, RGB(1, 2, 3));
+        EXPECT_FALSE(SavePicture(surface.Image(), folder / "source.bmp"));
+        folder.Write("old.jpg", "old export");
+    }
+
+    test::TemporaryFolder folder;
+    test::PlainCodecs codecs;
+};
+
+TEST(BmpToJpeg, WritesThePictureInThatQuality) {
+    const Export world;
+    BmpToJpeg(world.folder / "source.bmp", world.folder / "old.jpg", 37, world.codecs);
+    EXPECT_EQ(world.folder.Read("old.jpg"), "%" + world.folder.Read("source.bmp"));
+}
+
+TEST(BmpToJpeg, LeavesWhatStoodThereIfTheSourceIsNoPicture) {
+    const Export world;
+    world.folder.Write("source.bmp", "BM");
+    BmpToJpeg(world.folder / "source.bmp", world.folder / "old.jpg", 100, world.codecs);
+    BmpToJpeg(world.folder / "missing.bmp", world.folder / "old.jpg", 100, world.codecs);
+    EXPECT_EQ(world.folder.Read("old.jpg"), "old export");
+}
+
+class BmpToJpegFails : public testing::TestWithParam<test::Step> {};
+INSTANTIATE_TEST_SUITE_P(AtEachStep, BmpToJpegFails,
+                         testing::Values(test::Step::Open, test::Step::Write, test::Step::Flush,
+                                         test::Step::Close, test::Step::Rename));
+
+TEST_P(BmpToJpegFails, AndLeavesTheOldOneOrNone) {
+    const Export world;
+    for (const char* name : {"old.jpg", "new.jpg"}) {
+        test::FailingStep calls(GetParam());
+        BmpToJpeg(world.folder / "source.bmp", world.folder / name, 100, world.codecs, calls);
+    }
+    EXPECT_EQ(world.folder.Read("old.jpg"), "old export");
+    EXPECT_EQ(world.folder.Count(), 2);
+}
+
+}  // namespace
+}  // namespace coinlet
