@@ -10,14 +10,6 @@ namespace coinlet {
 namespace {
 
 // In the order of their indexes, from the first of the array on.
-constexpr std::array<std::string_view, 25> filterCaptions{
-    "Edge Lines", "Grayscale", "Negative",     "Light",     "Dark",       "Sharpen", "Contrast",
-    "Pixelize",   "Reliëf",    "Swap Colors",  "Scattered", "Blur",       "Aquarel", "Defuse",
-    "Add noise",  "Edge",      "Contour",      "Sepia",     "Connection", "Erode",   "Saturation",
-    "Coldept",    "Dodge",     "Neon (Photo)", "Smooth"};
-constexpr std::array<std::string_view, 2> contrastCaptions{"Positive", "Negative"};
-constexpr std::array<std::string_view, 5> swapCaptions{"RGB --> BRG", "RGB --> GBR", "RGB --> RBG",
-                                                       "RGB --> BGR", "RGB --> GRB"};
 constexpr std::array<std::string_view, 2> languageCaptions{"Dutch", "English"};
 constexpr std::array<std::string_view, 2> screenCaptions{"Resolution", "Change Resolution"};
 constexpr std::array<std::string_view, 16> shapeCaptions{"Rectangle",      "Rounded Rectangle",
@@ -43,9 +35,6 @@ void Caption(ControlArray<MenuItem>& entries, const std::array<std::string_view,
 }  // namespace
 
 void CaptionMainMenus(MainForm& main) {
-    Caption(main.Filter, filterCaptions);
-    Caption(main.EditContrastConvert, contrastCaptions);
-    Caption(main.EditSwap, swapCaptions);
     Caption(main.HelpTaal, languageCaptions);
     Caption(main.HelpScreen, screenCaptions);
     Caption(main.Vormen, shapeCaptions);

@@ -8,27 +8,12 @@
 #include "filters/progress_bar.h"
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
 
 namespace coinlet {
 
 namespace {
-
-/// An entry that runs a filter of the core.
-struct FilterEntry {
-    int index;
-    FilterNumber number;
-    std::int32_t parameter = 0;
-};
-
-using enum FilterNumber;
-// "Sepia" (20) stands in both tables: the tint comes after the gray.
-constexpr FilterEntry filterEntries[] = {
-    {4, Grayscale},   {5, Negative},         {6, Brightness, 4},     {7, Brightness, -4},
-    {8, Sharpen, 10}, {10, Pixelize, 3},     {11, Relief},           {13, StuckiDither, 15},
-    {14, Blur},       {15, Aquarel},         {16, Defuse, 6},        {17, AddNoise, 50},
-    {18, Edge, 1},    {19, Contour, white},  {20, Grayscale},        {21, Connection},
-    {22, Erode},      {23, Saturation, 140}, {24, StuckiDither, 50}, {27, Smooth},
-};
 
 /// Joins every pixel with the inverse of the one at its upper left: flat areas turn white and steps in colour
 /// stay as lines.
@@ -38,20 +23,75 @@ void DrawEdgeLines(Context& context) {
     main.Pic.surface.PaintPicture(main.UndoPic.surface.Image(), shifted, whole, MERGE_NOT_SOURCE);
 }
 
-/// An entry that works on the canvas pixel by pixel, before the user's eyes.
+void Dodge(Context& context) {
+    ApplyDodge(context, context.main.Pic.surface);
+}
+void Neon(Context& context) {
+    ApplyNeon(context, context.main.Pic.surface);
+}
+/// Tints what the filter made gray.
+void Sepia(Context& context) {
+    ClearProgress(context);
+    ApplySepiaTone(context, context.main.Pic.surface);
+}
+
+/// An entry that works on the canvas before the user's eyes, after a filter or alone.
 struct EffectEntry {
     int index;
-    void (*apply)(Context& context, Surface& canvas);
+    std::string_view caption;
+    std::optional<FilterNumber> first;
+    void (*apply)(Context& context);
 };
-constexpr EffectEntry effectEntries[] = {{20, ApplySepiaTone}, {25, ApplyDodge}, {26, ApplyNeon}};
+constexpr EffectEntry effectEntries[] = {{3, "Edge Lines", {}, DrawEdgeLines},
+                                         {20, "Sepia", FilterNumber::Grayscale, Sepia},
+                                         {25, "Dodge", {}, Dodge},
+                                         {26, "Neon (Photo)", {}, Neon}};
 
-constexpr int edgeLinesEntry = 3;
+/// The entries that open a sub-menu.
+constexpr int contrastHead = 9, swapHead = 12;
+
 constexpr int firstFilterCode = 100;
+
+/// The filter and its entry at that place of the menu; nothing where there is none.
+struct FoundEntry {
+    FilterNumber number;
+    std::int32_t parameter;
+};
+std::optional<FoundEntry> FindEntry(FilterMenuPart part, int index) {
+    for (const NumberedFilter& filter : AllFilters()) {
+        for (const FilterEntry& entry : filter.Entries())
+            if (entry.part == part && entry.index == index) return FoundEntry{filter.number, entry.parameter};
+    }
+    return {};
+}
+
+ControlArray<MenuItem>& EntriesOf(MainForm& main, FilterMenuPart part) {
+    switch (part) {
+        case FilterMenuPart::Contrast:
+            return main.EditContrastConvert;
+        case FilterMenuPart::SwapColors:
+            return main.EditSwap;
+        default:
+            return main.Filter;
+    }
+}
+
+void CaptionEntries(MainForm& main) {
+    main.Filter[contrastHead].Caption = "Contrast";
+    main.Filter[swapHead].Caption = "Swap Colors";
+    for (const NumberedFilter& filter : AllFilters()) {
+        for (const FilterEntry& entry : filter.Entries())
+            EntriesOf(main, entry.part)[entry.index].Caption = entry.caption;
+    }
+    for (const EffectEntry& entry : effectEntries)
+        main.Filter[entry.index].Caption = entry.caption;
+}
 
 }  // namespace
 
 FilterMenu::FilterMenu(Context& context, FilterCore& core) : context_(context), core_(core) {
     MainForm& main = context.main;
+    CaptionEntries(main);
     main.Filter.Bind(&MenuItem::Click, [this](int index) { Filter_Click(index); });
     main.EditContrastConvert.Bind(&MenuItem::Click, [this](int index) { EditContrastConvert_Click(index); });
     main.EditSwap.Bind(&MenuItem::Click, [this](int index) { EditSwap_Click(index); });
@@ -59,30 +99,27 @@ FilterMenu::FilterMenu(Context& context, FilterCore& core) : context_(context), 
 
 void FilterMenu::Filter_Click(int index) {
     ChangeCanvas([this, index] {
-        MainForm& main = context_.main;
         // No drawing tool stays armed.
         context_.session.ToolCode = static_cast<std::int16_t>(firstFilterCode + index);
-        main.Label16.Visible = false;
-        if (index == edgeLinesEntry) DrawEdgeLines(context_);
-        if (const auto* entry = std::ranges::find(filterEntries, index, &FilterEntry::index);
-            entry != std::end(filterEntries)) {
-            RunFilter(entry->number, entry->parameter);
-        }
-        if (const auto* entry = std::ranges::find(effectEntries, index, &EffectEntry::index);
-            entry != std::end(effectEntries)) {
-            ClearProgress(context_);
-            entry->apply(context_, main.Pic.surface);
-        }
+        context_.main.Label16.Visible = false;
+        RunEntry(FilterMenuPart::Filter, index);
+        const auto* effect = std::ranges::find(effectEntries, index, &EffectEntry::index);
+        if (effect == std::end(effectEntries)) return;
+        if (effect->first) RunFilter(*effect->first, 0);
+        effect->apply(context_);
     });
 }
 
 void FilterMenu::EditContrastConvert_Click(int index) {
-    constexpr std::int32_t more = 10, less = -10;
-    ChangeCanvas([this, index] { RunFilter(Contrast, index == 1 ? more : less); });
+    ChangeCanvas([this, index] { RunEntry(FilterMenuPart::Contrast, index); });
 }
 
 void FilterMenu::EditSwap_Click(int index) {
-    ChangeCanvas([this, index] { RunFilter(SwapColors, index); });
+    ChangeCanvas([this, index] { RunEntry(FilterMenuPart::SwapColors, index); });
+}
+
+void FilterMenu::RunEntry(FilterMenuPart part, int index) {
+    if (const auto entry = FindEntry(part, index)) RunFilter(entry->number, entry->parameter);
 }
 
 void FilterMenu::ChangeCanvas(const std::function<void()>& change) {

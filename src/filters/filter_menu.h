@@ -23,6 +23,8 @@ private:
     /// Does what an entry is for, with all that surrounds it. Events that are served meanwhile may come here
     /// again: the entry chosen then takes its undo copy, and ends the other one's bar and hourglass.
     void ChangeCanvas(const std::function<void()>& change);
+    /// Runs the filter of an entry; does nothing where there is none.
+    void RunEntry(FilterMenuPart part, int index);
     void RunFilter(FilterNumber number, std::int32_t parameter);
 
     Context& context_;
