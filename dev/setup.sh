@@ -7,7 +7,7 @@ set -euo pipefail
 run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
 test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
-    poppler-utils weasyprint)
+    poppler-utils weasyprint faketime)
 
 packages=("${run_packages[@]}")
 case "${1:-run}" in

@@ -2,12 +2,19 @@
 
 import subprocess
 
-from help import pms_page
+from help import pages, pms_page
+
+# By the names under which the Help menu looks for them: each with its source and its language.
+DOCUMENTS = {
+    "Beeldscherm.pdf": ("screen.html", "nl"),
+}
 
 
 def make(data):
     folder = data / "Help"
     pms_page.write(data, folder / "PMS-Colors.htm")
+    for name, (source, language) in DOCUMENTS.items():
+        pages.write(source, language, folder / name)
 
 
 def sheets(data, folder):
