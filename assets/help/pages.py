@@ -26,7 +26,9 @@ HERE = pathlib.Path(__file__).resolve().parent
 PICTURES = HERE / "pictures"
 WIDEST = 174.0  # millimetres, the text's width
 MILLIMETRES_A_PIXEL = 0.165  # of the program's windows on paper
+NARROWEST = 30.0  # of a picture's caption
 FILTERS_IN_A_ROW = 2
+FILTER_WIDTH = 29.0
 SHAPES_IN_A_ROW = 4
 DATE = "1767225600"  # every build of the same sources gives the same bytes
 
@@ -60,17 +62,19 @@ class Document:
         if found is None:
             return []
         width = min(found[1] * float(element.get("scale", MILLIMETRES_A_PIXEL)), WIDEST)
+        has_caption = bool(element.text and element.text.strip())
         figure = ET.Element("figure", {"class": f"shot {element.get('class', '')}".strip(),
-                                       "style": f"width: {width + 0.6:.1f}mm"})
-        frame = ET.SubElement(figure, "div", {"class": "window" if element.get("title") else "plain"})
+                                       "style": f"width: {max(width + 0.6, NARROWEST if has_caption else 0):.1f}mm"})
+        frame = ET.SubElement(figure, "div", {"class": "window" if element.get("title") else "plain",
+                                              "style": f"width: {width:.1f}mm"})
         if element.get("title"):
             ET.SubElement(frame, "div", {"class": "title"}).text = element.get("title")
         inner = ET.SubElement(frame, "div", {"class": "numbered"})
         inner.append(self.image(name, width))
         if element.tag == "callouts":
             self.number(inner, name)
-        if element.text and element.text.strip():
-            caption = ET.SubElement(figure, "figcaption")
+        if has_caption:
+            caption = ET.SubElement(figure, "figcaption", style=f"width: {max(width, NARROWEST):.1f}mm")
             caption.text = element.text
             caption.extend(list(element))
         return [figure]
@@ -93,9 +97,9 @@ class Document:
         for each in element:
             cell = ET.Element("td")
             pair = ET.SubElement(cell, "div", {"class": "pair"})
-            pair.append(self.image("filter_before", 25))
+            pair.append(self.image("filter_before", FILTER_WIDTH))
             ET.SubElement(pair, "span").text = "▸"
-            pair.append(self.image(f"filter_{each.get('name')}", 25))
+            pair.append(self.image(f"filter_{each.get('name')}", FILTER_WIDTH))
             name = ET.SubElement(cell, "p")
             ET.SubElement(name, "b").text = each.get("caption")
             name[0].tail = " " + (each.text or "")

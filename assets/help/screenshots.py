@@ -40,7 +40,7 @@ CANVAS = (238, 88)
 CORNER = (226, 78)
 # The parts of the main window: left, top, width, height in pixels below the menu bar.
 TOOL_PANEL = (928, 72, 166, 508)
-SIDE_PANEL = (738, 32, 180, 558)
+SIDE_PANEL = (738, 50, 180, 330)
 BROWSER = (4, 32, 196, 632)
 
 # The dialogs: how each is opened, and what is done in it before its picture is taken. A step is a control and
