@@ -7,6 +7,7 @@ from help import pages, pms_page
 # By the names under which the Help menu looks for them: each with its source and its language.
 DOCUMENTS = {
     "English.pdf": ("manual.en.html", "en"),
+    "Nederlands.pdf": ("manual.nl.html", "nl"),
     "Beeldscherm.pdf": ("screen.html", "nl"),
 }
 
