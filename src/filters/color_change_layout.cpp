@@ -71,7 +71,7 @@ void PlaceSliders(ColorChange& form) {
     PlaceByPixels(form.ColorLabel, column + (columnWidth - boxWidth) / 2, patchTop, boxWidth, patchHeight);
     for (int i = form.HScroll1.First(); i <= form.HScroll1.Last(); ++i) {
         const int top = slidersTop + i * pitch;
-        PlaceByPixels(form.Label6[i], column, top, labelWidth, textHeight);
+        PlaceByPixels(form.Label6[i], column, top + 2, labelWidth, textHeight);
         form.HScroll1[i].SetRange(0, highest);
         PlaceByPixels(form.HScroll1[i], column + labelWidth, top, columnWidth - labelWidth, textHeight);
     }

@@ -52,7 +52,7 @@ void Place(VistaButton& button, Label& label, const RemovalRow& row, const Remov
     button.SetPicture(Swatch(form, row.upper, row.lower));
     PlaceByPixels(button, column, row.top, buttonWidth, buttonHeight);
     label.Caption = row.label;
-    PlaceByPixels(label, column + buttonWidth + gap, row.top + (buttonHeight - textHeight) / 2,
+    PlaceByPixels(label, column + buttonWidth + gap, row.top + (buttonHeight - textHeight) / 2 + 2,
                   columnWidth - buttonWidth - gap, textHeight);
 }
 
