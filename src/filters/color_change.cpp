@@ -7,9 +7,8 @@
 #include "core/main_form.h"
 #include "filters/color_change_layout.h"
 #include "filters/color_palettes.h"
-#include "filters/surface_rows.h"
+#include "filters/surface_walk.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -38,23 +37,6 @@ PaletteColours ColoursOf(const ControlArray<PictureBox>& boxes) {
     for (int i = boxes.First(); i <= boxes.Last(); ++i)
         colours.at(static_cast<std::size_t>(i)) = boxes[i].surface.BackColor();
     return colours;
-}
-
-/// A column of a picture, from top to bottom.
-void ReadColumn(const Surface& picture, int x, std::vector<Pixel>& column) {
-    const Bitmap& pixels = picture.Pixels();
-    column.resize(static_cast<std::size_t>(x < pixels.Width() ? pixels.Height() : 0));
-    for (std::size_t y = 0; y < column.size(); ++y)
-        column[y] = pixels.Row(static_cast<int>(y))[x];
-}
-
-/// What of the column lies outside the picture is left out.
-void WriteColumn(Surface& picture, int x, const std::vector<Pixel>& column) {
-    if (x >= picture.PixelWidth()) return;
-    const int height = std::min(picture.PixelHeight(), static_cast<int>(column.size()));
-    Bitmap& pixels = picture.Write({x, 0, x + 1, height});
-    for (int y = 0; y < height; ++y)
-        pixels.Row(y)[x] = column[static_cast<std::size_t>(y)];
 }
 
 }  // namespace

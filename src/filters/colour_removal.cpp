@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "filters/progress_bar.h"
-#include "filters/surface_rows.h"
+#include "filters/surface_walk.h"
 
 #include <algorithm>
 #include <cmath>

@@ -9,29 +9,32 @@ namespace coinlet {
 PaletteTargets::PaletteTargets(const PaletteColours& targets) {
     for (std::size_t i = 0; i < paletteSize; ++i) {
         const auto [red, green, blue] = SplitColor(targets[i]);
-        reds_[i] = static_cast<std::int16_t>(red);
-        greens_[i] = static_cast<std::int16_t>(green);
-        blues_[i] = static_cast<std::int16_t>(blue);
+        reds_[i] = static_cast<float>(red);
+        greens_[i] = static_cast<float>(green);
+        blues_[i] = static_cast<float>(blue);
     }
 }
 
 void PaletteTargets::Replace(std::span<Pixel> pixels, const PaletteColours& results) const {
-    constexpr int beyondAll = 1'000'000'000;
+    // Each distance is a whole number below 2^24, which single precision holds exactly; processors of all
+    // kinds multiply four of these at once.
+    constexpr float beyondAll = 1e9F;
+    const auto channel = [](Pixel bits) { return static_cast<float>(static_cast<int>(bits & 0xFFu)); };
     // Copies that no pixel written can change: only then is the loop turned into wide instructions.
     const PaletteTargets targets = *this;
     std::array<Pixel, paletteSize> inks{};
     std::ranges::transform(results, inks.begin(), ToPixel);
     for (Pixel& pixel : pixels) {
-        const int red = static_cast<int>(pixel >> 16 & 0xFFu);
-        const int green = static_cast<int>(pixel >> 8 & 0xFFu);
-        const int blue = static_cast<int>(pixel & 0xFFu);
-        int best = beyondAll;
+        const float red = channel(pixel >> 16);
+        const float green = channel(pixel >> 8);
+        const float blue = channel(pixel);
+        float best = beyondAll;
         Pixel ink = pixel;
         for (std::size_t i = 0; i < paletteSize; ++i) {
-            const int reds = red - targets.reds_[i];
-            const int greens = green - targets.greens_[i];
-            const int blues = blue - targets.blues_[i];
-            const int distance = reds * reds + greens * greens + blues * blues;
+            const float reds = red - targets.reds_[i];
+            const float greens = green - targets.greens_[i];
+            const float blues = blue - targets.blues_[i];
+            const float distance = reds * reds + greens * greens + blues * blues;
             const bool nearer = distance < best;
             best = nearer ? distance : best;
             ink = nearer ? inks[i] : ink;

@@ -3,7 +3,6 @@
 #include "surface/colour.h"
 
 #include <array>
-#include <cstdint>
 #include <span>
 
 namespace coinlet {
@@ -22,7 +21,7 @@ public:
     void Replace(std::span<Pixel> pixels, const PaletteColours& results) const;
 
 private:
-    std::array<std::int16_t, paletteSize> reds_{}, greens_{}, blues_{};
+    std::array<float, paletteSize> reds_{}, greens_{}, blues_{};
 };
 
 /// What `ReplaceDarkColors` turns dark pixels into, by the number of the metal.

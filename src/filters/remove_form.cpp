@@ -7,7 +7,7 @@
 #include "core/main_form.h"
 #include "filters/colour_removal.h"
 #include "filters/remove_form_layout.h"
-#include "filters/surface_rows.h"
+#include "filters/surface_walk.h"
 #include "surface/screen_grab.h"
 
 #include <string>
