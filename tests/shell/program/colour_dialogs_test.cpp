@@ -20,9 +20,10 @@ constexpr int goldEntry = 10;
 QImage Enlarged(const QRect& part) {
     const QImage seen = Screen::Grab(part);
     QImage large(part.size() * 4, QImage::Format_RGB32);
-    for (int y = 0; y < large.height(); ++y)
+    for (int y = 0; y < large.height(); ++y) {
         for (int x = 0; x < large.width(); ++x)
             large.setPixel(x, y, seen.pixel(x / 4, y / 4));
+    }
     return large;
 }
 

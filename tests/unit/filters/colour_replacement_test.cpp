@@ -131,10 +131,12 @@ TEST(ColourReplacement, GivesAMetalToTheDarkPixelsAlone) {
                                                        {Metal::Gold, RGB(240, 173, 0)}};
     Dice dice;
     Pixels before;
-    for (int red = 48; red <= 51; ++red)
-        for (int green = 48; green <= 51; ++green)
+    for (int red = 48; red <= 51; ++red) {
+        for (int green = 48; green <= 51; ++green) {
             for (int blue = 48; blue <= 51; ++blue)
                 before.push_back(ToPixel(RGB(red, green, blue)));
+        }
+    }
     for (int i = 0; i < 3001; ++i)
         before.push_back(ToPixel(i % 2 == 0 ? dice.AnyColour() : RGB(dice(60), dice(60), dice(60))));
     for (const auto& [metal, ink] : metals) {

@@ -17,15 +17,17 @@ Colour ColourAt(int x, int y) {
 class SurfaceWalk : public ::testing::Test {
 protected:
     SurfaceWalk() {
-        for (int y = 0; y < height; ++y)
+        for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x)
                 picture.PSet(x, y, ColourAt(x, y));
+        }
         picture.ForgetChanges();
     }
     void ExpectUnchanged() const {
-        for (int y = 0; y < height; ++y)
+        for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x)
                 EXPECT_EQ(picture.Point(x, y), ColourAt(x, y)) << x << ", " << y;
+        }
     }
 
     test::BlockFonts fonts;
