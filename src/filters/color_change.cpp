@@ -60,6 +60,7 @@ ColorChange::ColorChange(Context& context)
 
 void ColorChange::Form_Load() {
     InfoLabel.Caption = LookupInfoText(context_, "150");
+    Combo1.Clear();
     for (const ColorPalette& palette : colorPalettes)
         Combo1.AddItem(std::string(palette.name));
     Combo1.SetListIndex(ownPalette);
