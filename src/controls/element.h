@@ -47,10 +47,12 @@ private:
 template <std::derived_from<Element> T>
 class ControlArray {
 public:
-    template <class Parent>
-    ControlArray(Parent& parent, std::string_view name, int first, int count) : first_(first) {
+    /// `further` is what a kind of element is told between its name and its index.
+    template <class Parent, class... Further>
+    ControlArray(Parent& parent, std::string_view name, int first, int count, Further... further)
+        : first_(first) {
         for (int i = first; i < first + count; ++i)
-            items_.push_back(std::make_unique<T>(parent, name, i));
+            items_.push_back(std::make_unique<T>(parent, name, further..., i));
     }
 
     /// The element of that index; an index outside the array is a fault of the program and throws.

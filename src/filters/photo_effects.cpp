@@ -4,13 +4,28 @@
 #include "core/context.h"
 #include "core/main_form.h"
 #include "filters/progress_bar.h"
-#include "surface/device.h"
+#include "surface/surface.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace coinlet {
 
 namespace {
+
+/// Gives each pixel of `area` what `change` makes of its colour; outside the picture there are none.
+template <class Change>
+void ChangePixels(Surface& picture, const PixelRect& area, Change change) {
+    const PixelRect inside = Intersection(area, {0, 0, picture.PixelWidth(), picture.PixelHeight()});
+    if (inside.Empty()) return;
+    Bitmap& pixels = picture.Write(inside);
+    for (int y = inside.top; y < inside.bottom; ++y) {
+        Pixel* row = pixels.Row(y);
+        for (int x = inside.left; x < inside.right; ++x)
+            row[x] = ToPixel(change(ToColour(row[x])));
+    }
+}
 
 Colour Sepia(Colour gray) {
     constexpr int lessGreen = 40, lessBlue = 80;
@@ -26,21 +41,29 @@ Colour Doubled(Colour colour) {
     return RGB(2 * Red(colour), 2 * Green(colour), 2 * Blue(colour));
 }
 
-int NeonChannel(int value) {
-    return RoundHalfEven(std::abs(2 * (255 - 3 * value)) / 5.0 * 3);
-}
+/// Each channel |2 (255 - 3 v)| / 5 * 3, at most 255.
+class Neon {
+public:
+    Neon() {
+        for (int value = 0; value < std::ssize(channels_); ++value)
+            channels_[static_cast<std::size_t>(value)] =
+                std::min(RoundHalfEven(std::abs(2 * (255 - 3 * value)) / 5.0 * 3), 255);
+    }
+    Colour operator()(Colour colour) const {
+        return RGB(Channel(Red(colour)), Channel(Green(colour)), Channel(Blue(colour)));
+    }
 
-Colour Neon(Colour colour) {
-    return RGB(NeonChannel(Red(colour)), NeonChannel(Green(colour)), NeonChannel(Blue(colour)));
-}
+private:
+    int Channel(int value) const { return channels_[static_cast<std::size_t>(value)]; }
+
+    std::array<int, 256> channels_{};
+};
 
 }  // namespace
 
 void ApplySepiaTone(Context& context, Surface& picture) {
-    const DeviceContext hDC = picture.hDC();
     for (int x = 0; x < canvasSide; ++x) {
-        for (int y = 0; y < canvasSide; ++y)
-            SetPixel(hDC, x, y, Sepia(GetPixel(hDC, x, y)));
+        ChangePixels(picture, {x, 0, x + 1, canvasSide}, Sepia);
         picture.Refresh();
         context.services.platform.DoEvents();
         ShowProgress(context, x, Truncate(picture.ScaleWidth() - 1));
@@ -49,8 +72,7 @@ void ApplySepiaTone(Context& context, Surface& picture) {
 
 void ApplyDodge(Context& context, Surface& picture) {
     for (int y = 0; y < picture.ScaleHeight(); ++y) {
-        for (int x = 0; x < picture.ScaleWidth(); ++x)
-            SetPixel(picture.hDC(), x, y, Doubled(picture.Point(x, y)));
+        ChangePixels(picture, {0, y, picture.PixelWidth(), y + 1}, Doubled);
         picture.Refresh();
         context.services.platform.DoEvents();
         ShowProgress(context, y, Truncate(picture.ScaleHeight() - 1));
@@ -58,10 +80,9 @@ void ApplyDodge(Context& context, Surface& picture) {
 }
 
 void ApplyNeon(Context& context, Surface& picture) {
-    const DeviceContext hDC = picture.hDC();
+    const Neon neon;
     for (int y = 0; y < picture.ScaleWidth(); ++y) {
-        for (int x = 0; x < picture.ScaleHeight(); ++x)
-            SetPixel(hDC, x, y, Neon(GetPixel(hDC, x, y)));
+        ChangePixels(picture, {0, y, Truncate(picture.ScaleHeight()), y + 1}, neon);
         ShowProgress(context, y, Truncate(picture.ScaleHeight() - 1));
         picture.Refresh();
         context.services.platform.DoEvents();

@@ -6,7 +6,7 @@ class Surface;
 struct Context;
 
 // Effects that change a picture before the user's eyes: events are served and the picture is shown once a row
-// or column. They throw ProgramEnded if the program ended in an event.
+// or column. The picture is measured in pixels. They throw ProgramEnded if the program ended in an event.
 
 /// Tints a gray picture brown, column by column; only the part that a canvas has, 500 by 500 pixels, is
 /// changed. The darkest grays become dark reds.

@@ -78,6 +78,8 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box.setTextValue(ToQString(standard));
+    // The box makes its buttons when it is first asked for its size.
+    box.adjustSize();
     TakeIconsOff(box);
     return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }

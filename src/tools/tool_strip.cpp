@@ -4,6 +4,8 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/unfinished.h"
+#include "filters/color_change.h"
+#include "filters/remove_form.h"
 #include "tools/tool_codes.h"
 
 #include <array>
@@ -53,6 +55,12 @@ void PopUpFlips(Context& context) {
     context.services.platform.PopupMenu(context.main.FlipImage);
 }
 
+template <class Dialog>
+void Open(Context& context) {
+    Dialog dialog(context);
+    context.services.platform.ShowModal(dialog);
+}
+
 constexpr std::array<ToolRow, 16> toolRows{{
     {"010"},
     {"011"},
@@ -64,8 +72,8 @@ constexpr std::array<ToolRow, 16> toolRows{{
     {"018"},
     {"019", ShowTextPanel},
     {"061", ArmPick},
-    {"020"},
-    {"021"},
+    {"020", Open<RemoveForm>},
+    {"021", Open<ColorChange>},
     {"022"},
     {"023", PopUpFlips},
     {"024"},

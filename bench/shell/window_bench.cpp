@@ -1,5 +1,6 @@
-// What the ways of a pointer event through the main window cost: from the toolkit's event to the handler, and
-// to all widgets being equal to their controls again. Painting them isn't part of it.
+// What happens in the main window, and what it costs: the ways of a pointer event from the toolkit to the
+// handler, and to all widgets being equal to their controls again; and filters with their progress before the
+// user's eyes, painting included.
 
 #include "app/application.h"
 #include "core/context.h"
@@ -18,6 +19,7 @@
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
+#include <string>
 
 namespace coinlet {
 namespace {
@@ -25,6 +27,7 @@ namespace {
 /// The started program and the widget of its canvas.
 struct Program {
     QtPlatform& platform;
+    MainForm& main;
     QWidget& canvas;
 
     void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, const QPointF& place) const {
@@ -80,6 +83,12 @@ void IdlePass(benchmark::State& state, const Program& program) {
     }
 }
 
+/// An entry of the menu, chosen again and again. Events are served after each of 500 rows.
+void FilterOnScreen(benchmark::State& state, const Program& program, int index) {
+    for ([[maybe_unused]] auto _ : state)
+        program.main.Filter[index].Click();
+}
+
 void Measure(const Program& program) {
     struct Case {
         const char* name;
@@ -89,6 +98,11 @@ void Measure(const Program& program) {
          {Case{"FreeHandMove", FreeHandMove}, Case{"PointerMoveWithoutPress", PointerMoveWithoutPress},
           Case{"PressWithFirstStroke", PressWithFirstStroke}, Case{"IdlePass", IdlePass}}) {
         benchmark::RegisterBenchmark(each.name, each.measure, program)->Unit(benchmark::kMicrosecond);
+    }
+    for (const int index : {4, 5, 8, 13, 15, 17, 26}) {
+        const std::string name = "FilterOnScreen/" + program.main.Filter[index].Caption;
+        benchmark::RegisterBenchmark(name.c_str(), FilterOnScreen, program, index)
+            ->Unit(benchmark::kMicrosecond);
     }
     benchmark::RunSpecifiedBenchmarks();
 }
@@ -128,7 +142,7 @@ int main(int argc, char** argv) {
         main.Knop[freeHand].Click();
         for (const QWidget* window : QApplication::topLevelWidgets()) {
             if (auto* canvas = window->findChild<QWidget*>(QStringLiteral("Pic")))
-                Measure({platform, *canvas});
+                Measure({platform, main, *canvas});
         }
         QCoreApplication::exit();
     });

@@ -13,7 +13,7 @@ public:
 
 private:
     int count_ = 1;  // Qt keeps a reference to it.
-    char name_[11] = "unit_media";
+    char name_[11] = "unit_tests";
     char* arguments_[2] = {name_, nullptr};
     std::unique_ptr<QGuiApplication> application_;
 };

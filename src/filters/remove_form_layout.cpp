@@ -1,0 +1,110 @@
+#include "filters/remove_form_layout.h"
+
+#include "controls/placing.h"
+#include "core/main_form.h"
+#include "filters/dialog_looks.h"
+#include "filters/remove_form.h"
+
+#include <array>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int column = dialogColumn, columnWidth = dialogColumnWidth;
+constexpr int glassInterval = 25;  // milliseconds
+
+/// What a button leaves is told by its caption, by a swatch on it and by a label beside it.
+constexpr int swatchSide = 12;
+
+Image Swatch(const RemoveForm& form, Colour upper, Colour lower) {
+    Surface swatch(form.Fonts(), swatchSide, swatchSide);
+    constexpr int inner = swatchSide - 2;
+    for (int y = 0; y < inner; ++y) {
+        const auto mixed = [&](int (*channel)(Colour)) {
+            return (channel(upper) * (inner - 1 - y) + channel(lower) * y) / (inner - 1);
+        };
+        swatch.Line(1, y + 1, inner, y + 1, RGB(mixed(Red), mixed(Green), mixed(Blue)), Box::Filled);
+    }
+    swatch.Line(0, 0, swatchSide - 1, swatchSide - 1, RGB(60, 60, 60), Box::Outline);
+    return swatch.Image();
+}
+
+struct RemovalRow {
+    int top;
+    const char* caption;
+    const char* label;
+    Colour upper, lower;  ///< Of the swatch.
+};
+constexpr RemovalRow blackRow{140, "Black", "Remove all colors except Black", black, black};
+constexpr RemovalRow grayRow{168, "Gray", "Remove all colors except Gray", white, black};
+constexpr std::array<RemovalRow, 3> channelRows{{
+    {204, "Red", "Remove Red Filter", RGB(255, 120, 110), RGB(200, 0, 0)},
+    {232, "Green", "Remove Green Filter", RGB(110, 230, 110), RGB(0, 140, 0)},
+    {260, "Blue", "Remove Blue Filter", RGB(120, 150, 255), RGB(0, 30, 200)},
+}};
+
+void Place(VistaButton& button, Label& label, const RemovalRow& row, const RemoveForm& form) {
+    constexpr int buttonWidth = 76, buttonHeight = 24, gap = 8, textHeight = 16;
+    button.SetCaption(row.caption);
+    button.SetUseMaskColor(false);
+    button.SetPictures(1);
+    button.SetPicture(Swatch(form, row.upper, row.lower));
+    PlaceByPixels(button, column, row.top, buttonWidth, buttonHeight);
+    label.Caption = row.label;
+    PlaceByPixels(label, column + buttonWidth + gap, row.top + (buttonHeight - textHeight) / 2 + 2,
+                  columnWidth - buttonWidth - gap, textHeight);
+}
+
+void PlaceReadOut(RemoveForm& form) {
+    form.ColorLabel.Transparent = false;
+    form.ColorLabel.Border = true;
+    form.ColorLabel.BackColor = white;
+    PlaceByPixels(form.ColorLabel, column, 64, 40, 40);
+    form.Label3.Caption = "Current Color";
+    PlaceByPixels(form.Label3, column + 48, 68, 200, 16);
+    form.Label4.Caption = "RGB : 255,255,255";
+    PlaceByPixels(form.Label4, column + 48, 86, 200, 16);
+    form.Check1.Caption = "Remove all colors except Current.";
+    PlaceByPixels(form.Check1, column, 112, columnWidth, 20);
+}
+
+void PlaceGlass(RemoveForm& form) {
+    form.Check2.Caption = "Magnifying Glass";
+    PlaceByPixels(form.Check2, column, 296, columnWidth, 20);
+    PlaceByPixels(form.Picture1, column, 320, columnWidth, 152);
+    form.LoepTimer.Interval = glassInterval;
+    form.LoepTimer.Enabled = false;
+}
+
+void PlaceWaysOut(RemoveForm& form) {
+    constexpr int buttonTop = 488, buttonWidth = 80, buttonHeight = 24, pitch = buttonWidth + 8;
+    form.ResetKnop.SetCaption("Reset");
+    PlaceByPixels(form.ResetKnop, column, buttonTop, buttonWidth, buttonHeight);
+    form.ExportKnop.SetCaption("Export");
+    PlaceByPixels(form.ExportKnop, column + pitch, buttonTop, buttonWidth, buttonHeight);
+    form.CancelKnop.SetCaption("Cancel");
+    PlaceByPixels(form.CancelKnop, column + 2 * pitch, buttonTop, buttonWidth, buttonHeight);
+}
+
+}  // namespace
+
+void LayOutRemoveForm(RemoveForm& form) {
+    form.Caption = "Color Adjustment / Removal";
+    form.Width = dialogWidth * twipsPerPixel;
+    form.Height = dialogHeight * twipsPerPixel;
+    PlaceByPixels(form.Pic, dialogMargin, dialogMargin, canvasSide, canvasSide);
+    form.Pic.MousePointer = crossPointer;
+    PlaceByPixels(form.Label2, column, dialogMargin, columnWidth, 44);
+    PlaceReadOut(form);
+    Place(form.BWKnop, form.Label5, blackRow, form);
+    Place(form.GrayKnop, form.Label6, grayRow, form);
+    for (int i = form.RGBKnop.First(); i <= form.RGBKnop.Last(); ++i)
+        Place(form.RGBKnop[i], form.RGBLabel[i], channelRows.at(static_cast<std::size_t>(i)), form);
+    PlaceGlass(form);
+    PlaceWaysOut(form);
+    SetEdge(form.Shape1[0], form.Pic);
+    SetEdge(form.Shape1[1], form.Picture1);
+}
+
+}  // namespace coinlet

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Every text that the code looks up stands in the tables of both languages, and both hold the same keys.
+set -euo pipefail
+cd "$1"
+
+faults=0
+complain() { echo "$1"; faults=$((faults + 1)); }
+
+keys_of() { LC_ALL=C grep -aoE '^[0-9]{3}' "data/Data/$1.txt"; }
+# Keys are the only literals of three digits, but for two colour channels of the session.
+used() { grep -rhoE '"[0-9]{3}"' src --include='*.cpp' --include='*.h' --exclude=session.h | tr -d '"' | sort -u; }
+
+[ "$(used | wc -l)" -gt 0 ] || complain "no key found in the code"
+for language in Nederlands English; do
+    while IFS= read -r key; do
+        keys_of "$language" | grep -qx "$key" || complain "data/Data/$language.txt: no text for $key"
+    done < <(used)
+    if LC_ALL=C grep -aqvE $'^[0-9]{3} .*\r$' "data/Data/$language.txt"; then
+        complain "data/Data/$language.txt: a line that is no key, blank and text, ended by CR LF"
+    fi
+done
+diff <(keys_of Nederlands) <(keys_of English) || complain "the languages differ in their keys"
+if [ "$faults" -gt 0 ]; then echo "$faults faults"; exit 1; fi

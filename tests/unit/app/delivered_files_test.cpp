@@ -1,0 +1,211 @@
+// What comes with the program is of the form that its dialogs read, and fit for what users do with it.
+#include "base/files.h"
+#include "base/text.h"
+#include "core/materials.h"
+#include "media/media_codecs.h"
+#include "media/qt_font_engine.h"
+#include "support/block_fonts.h"
+#include "surface/device.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace coinlet {
+namespace {
+
+const fs::path data = COINLET_DATA;
+
+Image Load(const fs::path& file) {
+    const auto picture = LoadPicture(file, MediaCodecs());
+    EXPECT_TRUE(picture) << file;
+    return picture.value_or(Image());
+}
+
+const test::BlockFonts fonts;
+
+/// The part of a picture that starts at a place; what lies outside is white.
+class Cut : public Surface {
+public:
+    Cut(const coinlet::Image& picture, int left, int top, int width, int height)
+        : Surface(fonts, width, height) {
+        const Rectangle size{0, 0, static_cast<double>(width), static_cast<double>(height)};
+        PaintPicture(picture, size,
+                     {static_cast<double>(left), static_cast<double>(top), size.width, size.height});
+    }
+};
+
+std::ptrdiff_t Count(const Surface& picture, Colour colour) {
+    return std::ranges::count(picture.Pixels().Pixels(), ToPixel(colour));
+}
+
+std::string TextOf(const fs::path& file) {
+    const auto bytes = ReadFile(file);
+    EXPECT_TRUE(bytes) << file;
+    return bytes ? std::string(bytes->begin(), bytes->end()) : std::string();
+}
+
+constexpr int canvas = 500;
+
+TEST(DeliveredBorders, HaveFourFramesOfMetalOnWhite) {
+    constexpr double tagRadius = 240;
+    const auto files = ListFiles(data / "Borders", "*.gif");
+    EXPECT_GE(files.size(), 30U);
+    for (const std::string& file : files) {
+        const Image strip = Load(data / "Borders" / file);
+        ASSERT_EQ(strip.Width(), std::ssize(materials) * canvas) << file;
+        ASSERT_EQ(strip.Height(), canvas) << file;
+        std::ptrdiff_t outside = 0, fringe = 0, unequal = 0, metal = 0;
+        for (int y = 0; y < canvas; ++y) {
+            for (int x = 0; x < strip.Width(); ++x) {
+                const Colour colour = strip.At(x, y);
+                const int column = x % canvas;
+                if ((strip.At(column, y) == white) != (colour == white)) ++unequal;
+                if (colour == white) continue;
+                ++metal;
+                if (std::hypot(column - canvas / 2, y - canvas / 2) > tagRadius + 1.5) ++outside;
+                if (std::min({Red(colour), Green(colour), Blue(colour)}) >= 240) ++fringe;
+            }
+        }
+        EXPECT_EQ(outside, 0) << file << ": something beside the tag";
+        EXPECT_EQ(fringe, 0) << file << ": pixels that are nearly white";
+        EXPECT_EQ(unequal, 0) << file << ": the metals let through different parts of the design";
+        const double share = static_cast<double>(metal) / (static_cast<double>(strip.Width()) * canvas);
+        EXPECT_GT(share, 0.01) << file;
+        EXPECT_LT(share, 0.6) << file << ": no room for a design";
+    }
+}
+
+TEST(DeliveredBorders, LeaveADesignAloneWhereTheyAreWhite) {
+    for (const std::string& file : ListFiles(data / "Borders", "*.gif")) {
+        const Image strip = Load(data / "Borders" / file);
+        const Colour ink = RGB(90, 160, 30);
+        Surface design(fonts, canvas, canvas);
+        design.SetBackColor(ink);
+        const Rectangle whole{0, 0, canvas, canvas};
+        design.PaintPicture(strip, whole, whole, SRCAND);
+        EXPECT_EQ(design.Point(canvas / 2, canvas / 2), ink) << file << ": nothing shows in the middle";
+        std::ptrdiff_t changed = 0;
+        for (int y = 0; y < canvas; ++y) {
+            for (int x = 0; x < canvas; ++x)
+                changed += strip.At(x, y) == white && design.Point(x, y) != ink;
+        }
+        EXPECT_EQ(changed, 0) << file;
+    }
+}
+
+TEST(DeliveredCliparts, AreClosedOutlinesInBlack) {
+    constexpr int cellWidth = 330, cellHeight = 360, cells = 5;
+    const auto files = ListFiles(data / "Cliparts", "*.art");
+    EXPECT_GE(files.size(), 30U);
+    for (const std::string& file : files) {
+        const Image sheet = Load(data / "Cliparts" / file);
+        ASSERT_EQ(sheet.Width(), cells * cellWidth) << file;
+        ASSERT_EQ(sheet.Height(), cellHeight) << file;
+        for (int cell = 0; cell < cells; ++cell) {
+            SCOPED_TRACE(file + ", cell " + std::to_string(cell + 1));
+            Cut clipart(sheet, cell * cellWidth, 0, cellWidth, cellHeight);
+            const std::ptrdiff_t ink = Count(clipart, black), paper = Count(clipart, white);
+            EXPECT_EQ(ink + paper, cellWidth * cellHeight) << "a colour that is neither black nor white";
+            EXPECT_GT(ink, 500);
+            // What a fill around the drawing doesn't reach can be filled by itself.
+            clipart.FillColor = RGB(255, 0, 0);
+            clipart.FillStyle = solidFill;
+            ExtFloodFill(clipart.hDC(), 0, 0, white, FLOODFILLSURFACE);
+            EXPECT_GT(Count(clipart, white), ink) << "its outline lets the paint through";
+        }
+    }
+}
+
+class DeliveredBacks : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(Collections, DeliveredBacks, testing::Values(1, 2));
+
+TEST_P(DeliveredBacks, HaveAPictureForEveryName) {
+    constexpr int side = 150, columns = 4;
+    constexpr std::array<std::ptrdiff_t, 2> least{24, 12};
+    const std::string name = "Back-" + std::to_string(GetParam());
+    const Image picture = Load(data / "Data" / (name + ".bak"));
+    ASSERT_EQ(picture.Width(), columns * side);
+    ASSERT_EQ(picture.Height() % side, 0);
+    const std::string names = FromCodePage(TextOf(data / "Data" / (name + ".txt")));
+    std::vector<std::string> lines = Lines(names);
+    std::erase_if(lines, [](const std::string& line) { return TrimBlanks(line).empty(); });
+    EXPECT_GE(std::ssize(lines), least.at(static_cast<std::size_t>(GetParam() - 1)));
+    EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()).size(), lines.size()) << "a name twice";
+    for (int cell = 0; cell < columns * picture.Height() / side; ++cell) {
+        const Cut back(picture, cell % columns * side, cell / columns * side, side, side);
+        const bool empty = Count(back, white) == side * side;
+        EXPECT_EQ(empty, cell >= std::ssize(lines)) << "cell " << cell + 1;
+    }
+}
+
+TEST(DeliveredGlitterChart, IsLargerThanItsFrame) {
+    const Image chart = Load(data / "Data/Glitter.bak");
+    EXPECT_GT(chart.Width(), 600);
+    EXPECT_GT(chart.Height(), 500);
+}
+
+TEST(DeliveredImages, AreOfAllKindsAndSizes) {
+    constexpr int largestTurned = 175;
+    const auto files = ListFiles(data / "Images", "*.bmp;*.jpg;*.gif");
+    EXPECT_GE(files.size(), 25U);
+    for (const char* kind : {"*.bmp", "*.jpg", "*.gif"})
+        EXPECT_FALSE(ListFiles(data / "Images", kind).empty()) << kind;
+    std::ptrdiff_t large = 0;
+    for (const std::string& file : files) {
+        const Image picture = Load(data / "Images" / file);
+        EXPECT_FALSE(picture.Empty()) << file;
+        EXPECT_LE(std::max(picture.Width(), picture.Height()), canvas) << file;
+        large += std::max(picture.Width(), picture.Height()) > largestTurned;
+    }
+    EXPECT_GT(large, 0);
+    EXPECT_LT(large, std::ssize(files));
+}
+
+TEST(DeliveredFonts, HaveASymbolOnEveryCode) {
+    constexpr int first = 33, last = 126;
+    QtFontEngine letters;
+    const auto files = ListFiles(data / "Fonts", "*.ttf");
+    EXPECT_GE(files.size(), 6U);
+    std::set<std::string> families;
+    for (const std::string& file : files) {
+        const std::string family = letters.AddFontFile(data / "Fonts" / file);
+        EXPECT_FALSE(family.empty()) << file;
+        families.insert(family);
+        std::set<std::string> symbols;
+        for (int code = first; code <= last; ++code) {
+            const TextMask mask = letters.Render({.name = family, .size = 40},
+                                                 std::string(1, static_cast<char>(code)), Edges::Crisp);
+            EXPECT_TRUE(std::ranges::count(mask.coverage, 255) > 0) << file << ", code " << code;
+            symbols.emplace(mask.coverage.begin(), mask.coverage.end());
+        }
+        // The box for a missing symbol would come again and again.
+        EXPECT_GE(symbols.size(), static_cast<std::size_t>(last - first + 1) - 2) << file;
+    }
+    EXPECT_EQ(families.size(), files.size()) << "two files of one family";
+    EXPECT_FALSE(ListFiles(data / "Fonts", "*.txt").empty()) << "the terms of the fonts";
+}
+
+TEST(DeliveredHelp, HasADocumentForEveryEntryOfTheMenu) {
+    for (const char* file : {"English.pdf", "Nederlands.pdf", "Beeldscherm.pdf"})
+        EXPECT_TRUE(TextOf(data / "Help" / file).starts_with("%PDF-")) << file;
+    const std::string page = TextOf(data / "Help/PMS-Colors.htm");
+    std::ptrdiff_t missing = 0;
+    for (const std::string& line : Lines(TextOf(data / "Data/PMS-Colors.txt")))
+        missing += !line.empty() && page.find(line.substr(0, line.find(','))) == std::string::npos;
+    EXPECT_EQ(missing, 0);
+    EXPECT_EQ(page.find("http"), std::string::npos) << "it can be read without a network";
+}
+
+TEST(DeliveredData, IsLightEnoughToCarry) {
+    constexpr std::uintmax_t most = 25'000'000;
+    std::uintmax_t bytes = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(data))
+        if (entry.is_regular_file()) bytes += entry.file_size();
+    EXPECT_LT(bytes, most);
+}
+
+}  // namespace
+}  // namespace coinlet

@@ -1,0 +1,65 @@
+// The texts that the program comes with: every hint and explanation fits its place in both languages.
+#include "base/text.h"
+#include "controls/text_lines.h"
+#include "core/language.h"
+#include "media/qt_font_engine.h"
+#include "store/open_file.h"
+#include "store/tekst_form.h"
+#include "unit/store/store_world.h"
+
+#include <gtest/gtest.h>
+
+namespace coinlet {
+namespace {
+
+constexpr const char* hints[] = {"001", "004", "010", "011", "012", "013", "014", "015", "016", "018",
+                                 "019", "020", "021", "022", "023", "024", "025", "027", "060", "061",
+                                 "071", "090", "091", "092", "093", "130", "140", "300"};
+
+class LanguageTable : public testing::TestWithParam<const char*>, protected test::StoreWorld {
+protected:
+    LanguageTable() {
+        fs::create_directories(folder / "app/Data");
+        const std::string file = std::string(GetParam()) + ".txt";
+        fs::copy(fs::path(COINLET_DATA) / "Data" / file, folder / "app/Data" / file);
+        LoadLanguage(context, GetParam());
+    }
+
+    void ExpectFits(const char* key, const Label& label) {
+        const std::string text = LookupInfoText(context, key);
+        EXPECT_FALSE(TrimBlanks(text).empty()) << key;
+        const FontSpec font{.name = label.FontName, .size = label.FontSize, .bold = label.FontBold};
+        const auto lines = std::ssize(WrapLine(text, label.PixelWidth(), font, letters));
+        EXPECT_LE(lines * letters.Measure(font, text).height, label.PixelHeight()) << key << " " << text;
+    }
+
+    const QtFontEngine letters;
+};
+INSTANTIATE_TEST_SUITE_P(AsDelivered, LanguageTable, testing::Values("Nederlands", "English"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST_P(LanguageTable, HasHintsThatFitTheFootOfTheWindow) {
+    for (const char* key : hints)
+        ExpectFits(key, main.InfoLabel);
+}
+
+TEST_P(LanguageTable, HasExplanationsThatFitTheirLabels) {
+    ExpectFits("017", main.Label16);
+    const OpenFile openFile(context);
+    ExpectFits("040", openFile.Label2);
+    const TekstForm tekstForm(context);
+    ExpectFits("200", tekstForm.Label2);
+}
+
+TEST_P(LanguageTable, HasEachKeyOnceInOrder) {
+    std::string before;
+    for (int i = 0; i < main.InfoList.ListCount(); ++i) {
+        const std::string key = main.InfoList.List(i).substr(0, 3);
+        EXPECT_LT(before, key);
+        before = key;
+    }
+    EXPECT_FALSE(before.empty());
+}
+
+}  // namespace
+}  // namespace coinlet
