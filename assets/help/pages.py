@@ -15,6 +15,7 @@ A source is a well-formed page with a few elements of its own:
 Pictures are looked for in pictures/LANGUAGE/ and in pictures/.
 """
 
+import base64
 import os
 import pathlib
 import subprocess
@@ -37,6 +38,12 @@ CALLOUTS = {"main_window": [(250, 8), (250, 31), (202, 240), (202, 500), (202, 6
                             (880, 190), (944, 66), (926, 240), (926, 394), (926, 440), (800, 640)]}
 
 
+def in_the_page(picture):
+    """The picture itself in the place of its address: the renderer writes addresses into what it makes, and the
+    result must not depend on the folder that the sources lie in."""
+    return "data:image/png;base64," + base64.b64encode(picture.read_bytes()).decode()
+
+
 class Document:
     """One source on its way to a page that the renderer understands."""
 
@@ -54,7 +61,7 @@ class Document:
 
     def image(self, name, width):
         """An image element of so many millimetres."""
-        return ET.Element("img", src=self.picture(name)[0].as_uri(), alt="", style=f"width: {width:.1f}mm")
+        return ET.Element("img", src=in_the_page(self.picture(name)[0]), alt="", style=f"width: {width:.1f}mm")
 
     def shot(self, element):
         name = element.get("name")
@@ -149,6 +156,9 @@ class Document:
 
     def html(self):
         self.expand(self.tree)
+        for image in self.tree.iter("img"):
+            if not image.get("src").startswith("data:"):
+                image.set("src", in_the_page(HERE / image.get("src")))
         text = ET.tostring(self.tree, encoding="unicode", method="html")
         return "<!DOCTYPE html>\n" + text
 
@@ -158,6 +168,6 @@ def write(source, language, path):
     path.parent.mkdir(parents=True, exist_ok=True)
     # The order in which the renderer visits its sets must not depend on the run.
     environment = os.environ | {"SOURCE_DATE_EPOCH": DATE, "PYTHONHASHSEED": "0"}
-    command = ["weasyprint", "--quiet", "--encoding", "utf-8", "--base-url", HERE.as_uri() + "/",
+    command = ["weasyprint", "--quiet", "--encoding", "utf-8", "--base-url", "about:blank",
                "--stylesheet", str(HERE / "style.css"), "-", str(path)]
     subprocess.run(command, input=Document(HERE / source, language).html().encode(), env=environment, check=True)

@@ -77,12 +77,11 @@ def outlines():
     yield from shape(RECTANGLE, 220, 146, 280, 160)
     yield from shape(RECTANGLE, 236, 120, 264, 146)
     yield from shape(TRIANGLE, 226, 88, 274, 120)
-    # Its light, on both sides, up to the ring.
+    # Its light, on both sides, from the corners of roof and gallery up to the ring.
     for side in (-1, 1):
-        lamp = CENTRE + side * 14
-        for y_lamp, y in ((124, 96), (142, 168)):
+        for reach, y_corner, y in ((24, 120, 96), (30, 146, 168)):
             edge = chord(y)[0 if side < 0 else 1]
-            yield from drag(LINE, [(lamp, y_lamp), (edge, y)])
+            yield from drag(LINE, [(CENTRE + side * reach, y_corner), (edge, y)])
     for left, top, size in ((120, 185, 40), (348, 198, 34), (238, 40, 24)):
         yield from shape(OPEN_STAR, left, top, left + size, top + size)
     # The boat.

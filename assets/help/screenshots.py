@@ -43,27 +43,29 @@ TOOL_PANEL = (928, 72, 166, 508)
 SIDE_PANEL = (738, 50, 180, 330)
 BROWSER = (4, 32, 196, 632)
 
-# The dialogs: how each is opened, and what is done in it before its picture is taken. A step is a control and
-# a place on it in pixels (its middle if none is told), a text to type, or a key of the window system's name.
+# The dialogs: how each is opened, and what is done in it before its picture is taken. A step is an action with
+# a control and a place on it in pixels (its middle if none is told), or a text or keys for what has the focus.
 DIALOGS = {
-    "open": ("FileOpen", [("OpenFile.List1", 40, 8)]),
+    "open": ("FileOpen", [("click", "OpenFile.List1", 40, 8)]),
     "save": ("FileSave", []),
     "export": ("FileExport", []),
     "info_text": ("BewerkenInformation", []),
     "import": ("FileImport", []),
     "print": ("FilePrint", []),
-    "collection": ("ViewMyCollection", [("CollectionForm.List1", 40, 24)]),
-    "borders": ("LibraryBorders", [("BorderForm.Option1(3)",), ("BorderForm.Check1", 8, 8)]),
-    "backs": ("LibraryBackside", [("BackForm.Pic", 225, 75)]),
+    "collection": ("ViewMyCollection", [("click", "CollectionForm.List1", 40, 24)]),
+    "borders": ("LibraryBorders", [("click", "BorderForm.Option1(3)", 8, 8), ("click", "BorderForm.Check1", 8, 8)]),
+    "backs": ("LibraryBackside", [("click", "BackForm.Pic", 225, 75)]),
     "glitter": ("LibraryGlitter", []),
-    "cliparts": ("ClipartGroot", [("ClipartForm.Pic", 170, 60)]),
-    "symbols": ("Symbolen", [("SymbolForm.InstalKnop",)]),
+    "cliparts": ("ClipartGroot", [("click", "ClipartForm.Pic", 170, 60)]),
+    "symbols": ("Symbolen", [("click", "SymbolForm.InstalKnop")]),
     "polygon": ("Knop(3)", []),
     "arc": ("Knop(4)", []),
-    "curved_text": ("Knop(7)", [("CircelText.DrawKnop",)]),
-    "remove": ("Knop(10)", []),
-    "replace": ("Knop(11)", []),
-    "pms": ("ColorLabel", [("PMSForm.Combo1", 30, 10), "key ctrl+a", "type 186"]),
+    "curved_text": ("Knop(7)", [("click", "CircelText.DrawKnop")]),
+    "remove": ("Knop(10)", [("click", "RemoveForm.Check2", 8, 8), ("point", "RemoveForm.Pic", 250, 152)]),
+    "replace": ("Knop(11)", [("click", "ColorChange.Combo1"), ("key", "Home", "Down", "Down", "Down", "Down",
+                                                                "Return"),
+                             ("click", "ColorChange.StartKnop"), ("point", "ColorChange.Pic", 250, 510)]),
+    "pms": ("ColorLabel", [("click", "PMSForm.Combo1", 30, 10), ("key", "ctrl+a"), ("type", "186")]),
 }
 COLLECTION = ["CN-0104", "CN-0117", "CN-0230", "HL-2026-01", "HL-2026-02"]
 
@@ -132,14 +134,13 @@ class Camera:
             self.choose(opened)
 
     def do(self, dialog, opened, step):
-        if isinstance(step, str):
-            action, what = step.split(" ", 1)
-            window.run("xdotool", action, what)
-            return
-        control, *place = step
-        left, top, width, height = self.place(opened, control)
-        x, y = place or (width // 2, height // 2)
-        dialog.click(left + x, top + y)
+        action, control, *place = step
+        if action in ("key", "type"):
+            window.run("xdotool", action, control, *place)
+        else:
+            left, top, width, height = self.place(opened, control)
+            x, y = place or (width // 2, height // 2)
+            (dialog.click if action == "click" else dialog.point)(left + x, top + y)
         dialog.look()
 
     def dialog(self, name):
@@ -154,7 +155,8 @@ class Camera:
             raise SystemExit(f"the dialog for {name} doesn't open")
         for step in steps:
             self.do(dialog, opened, step)
-        window.run("xdotool", "mousemove", *window.OUT_OF_THE_WAY)
+        if not steps or steps[-1][0] != "point":
+            window.run("xdotool", "mousemove", *window.OUT_OF_THE_WAY)
         self.keep(f"dialog_{name}", dialog.look())
         self.program.close_popups()
 
@@ -162,7 +164,7 @@ class Camera:
         others = self.program.windows()
         self.choose("FileOpen")
         dialog = self.program.front(others)
-        for step in [("OpenFile.List1", 40, 8), ("OpenFile.OkKnop",)]:
+        for step in [("click", "OpenFile.List1", 40, 8), ("click", "OpenFile.OkKnop")]:
             self.do(dialog, "FileOpen", step)
         time.sleep(BLINKING)
 
