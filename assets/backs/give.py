@@ -45,8 +45,8 @@ def thank_you(die):
                     die.enamel(GREEN)
     with die.at(y=-43):
         flower(die, 6, 14, ROSE)
-    die.line("THANK", -10, 20, family=SERIF, spacing=1)
-    die.line("YOU", 9, 20, family=SERIF, spacing=1)
+    die.line("THANK", -9, 23, family=SERIF, spacing=1)
+    die.line("YOU", 11, 23, family=SERIF, spacing=1)
     number_field(die, 36, 72)
 
 

@@ -22,7 +22,7 @@ FACE = numpy.array([238, 239, 241], numpy.float32)
 RECESS = numpy.array([58, 61, 68], numpy.float32)
 
 SANS = "Liberation Sans"
-SERIF = "DejaVu Serif"
+SERIF = "Liberation Serif"
 
 
 class Die:
