@@ -5,8 +5,8 @@ from dataclasses import dataclass
 
 @dataclass(frozen=True)
 class Glitter:
-    """`bases` are the colours of the flakes (0 to 255 a channel); `hue_spread` is in turns of the colour circle;
-    `sparkle` tells how strongly single flakes flash, 1 being usual."""
+    """`bases` are the colours of the flakes (0 to 255 a channel); `hue_spread` is in turns of the colour
+    circle; `sparkle` tells how strongly single flakes flash, 1 being usual."""
 
     name: str
     bases: tuple

@@ -20,8 +20,8 @@ QUALITY = 92
 
 
 def flakes(random, width, height, step):
-    """Which flake covers each pixel: the nearest of points scattered one to a square of `step` pixels. Returns
-    the flakes' numbers, their count, and the pixel's offset from the flake's centre in steps."""
+    """Which flake covers each pixel: the nearest of points scattered one to a square of `step` pixels. Gives
+    the flakes' numbers, their count, and the pixels' offsets from the flakes' centres in steps."""
     columns, rows = int(width / step) + 3, int(height / step) + 3
     scatter = random.random((rows, columns, 2))
     y, x = numpy.mgrid[0:height, 0:width] / step + 1

@@ -8,8 +8,8 @@ WHITE, BLACK = 255, 254
 
 def few_colours(picture):
     """The picture (RGB) with 256 colours, exact black and white among them; nothing but white
-    becomes white. A colour counts by the square
-    root of its pixels, so that a red dot is not given up for one more gray of the large faces."""
+    becomes white. A colour counts by the square root of its pixels, so that a red dot is not given up for one
+    more gray of the large faces."""
     colours, place, counts = numpy.unique(numpy.asarray(picture).reshape(-1, 3), axis=0, return_inverse=True,
                                           return_counts=True)
     sample = numpy.repeat(colours, numpy.ceil(numpy.sqrt(counts)).astype(int), axis=0)
