@@ -250,10 +250,17 @@ def balloons(m):
             m.oval(-8, -13, 4, 7, 0.5).gloss(0.85)
 
 
-def race_flag(m):
-    """A chequered flag that waves."""
+def pole(m):
     m.path("M -42 -46 L -37 -46 L -37 48 L -42 48 Z").shaded("#d8a868", "#7a4a1c", down=False)
-    wave = lambda x: 5 * math.sin((x + 37) / 80 * 2 * math.pi)
+
+
+def wave(x):
+    """How far a waving flag hangs down at x; the pole is at -37."""
+    return 5 * math.sin((x + 37) / 80 * 2 * math.pi)
+
+
+def race_flag(m):
+    pole(m)
     edge = [(-37 + k, -42 + wave(-37 + k)) for k in range(82)]
     polygon(m.ctx, edge + [(x, y + 54) for x, y in reversed(edge)])
     m.plain("#fafafa")
@@ -269,8 +276,7 @@ def race_flag(m):
 
 
 def striped_flag(m):
-    m.path("M -42 -46 L -37 -46 L -37 48 L -42 48 Z").shaded("#d8a868", "#7a4a1c", down=False)
-    wave = lambda x: 5 * math.sin((x + 37) / 80 * 2 * math.pi)
+    pole(m)
     edge = [(-37 + k, wave(-37 + k)) for k in range(82)]
     for row, colour in enumerate(("#178a8c", "#f8f2de", "#f08a2a", "#f8f2de", "#178a8c")):
         top = -42 + row * 10.8

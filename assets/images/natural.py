@@ -150,10 +150,9 @@ def sunset():
 
 def cloudy_sky():
     x, y = grid(500, 375)
-    billow = lambda down: clouds(119, x / 170, (y - down) / 100, 6, 0.5)
-    shape = billow(0)
+    shape, above = (clouds(119, x / 170, (y - down) / 100, 6, 0.5) for down in (0, 26))
     cover = step(shape, 0.5, 0.2)
-    shade = numpy.clip(0.97 + 1.3 * (shape - billow(26)) - 0.5 * numpy.maximum(shape - 0.6, 0), 0.78, 1)
+    shade = numpy.clip(0.97 + 1.3 * (shape - above) - 0.5 * numpy.maximum(shape - 0.6, 0), 0.78, 1)
     sky = ramp(y / 375, (0, (38, 104, 190)), (1, (154, 204, 240)))
     return mix(sky, numpy.array([252, 252, 254]) * shade[..., None], cover)
 

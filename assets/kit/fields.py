@@ -15,9 +15,9 @@ def noise(seed, x, y, period=256):
     left, top = numpy.floor(x).astype(int), numpy.floor(y).astype(int)
     u, v = x - left, y - top
     u, v = u * u * u * (u * (u * 6 - 15) + 10), v * v * v * (v * (v * 6 - 15) + 10)
-    at = lambda right, down: knots[(top + down) % period, (left + right) % period]
-    upper = at(0, 0) * (1 - u) + at(1, 0) * u
-    lower = at(0, 1) * (1 - u) + at(1, 1) * u
+    left, right, top, bottom = left % period, (left + 1) % period, top % period, (top + 1) % period
+    upper = knots[top, left] * (1 - u) + knots[top, right] * u
+    lower = knots[bottom, left] * (1 - u) + knots[bottom, right] * u
     return upper * (1 - v) + lower * v
 
 
