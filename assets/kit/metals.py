@@ -75,13 +75,13 @@ def shades(relief):
     """The picture of a relief as numbers of shades, 0 to 62, at its size in pixels, and where it is metal. A
     dark line bounds the metal, so that it stands out from any design; no pixel is half metal."""
     depth = depth_inside(relief.solid, 2 * SAMPLES) / SAMPLES
-    edge = numpy.clip((depth - 0.35) / 1.1, 0, 1)
+    edge = numpy.clip((depth - 0.7) / 1.2, 0, 1)
     light = tones(relief) * edge * edge * (3 - 2 * edge) * relief.solid
     cover = by_pixel(relief.solid.astype("float32"), relief.side)
     metal = cover >= 0.4
     tone = by_pixel(light, relief.side) / numpy.maximum(cover, 0.01)
     # The line is a little paler where less of the pixel is covered, which takes the steps out of its edge.
-    tone += 0.30 * (1 - cover)
+    tone += 0.22 * (1 - cover)
     return dithered(numpy.clip(tone, 0, 1)), metal
 
 
