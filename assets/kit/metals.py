@@ -8,6 +8,7 @@ without any banding, in a palette of 256.
 import numpy
 from PIL import Image
 
+from kit import gif
 from kit.relief import SAMPLES, blurred, depth_inside
 
 # In the order in which pictures show them, each with its colours from tone 0 to tone 1 in even steps. The
@@ -115,3 +116,13 @@ def strip(relief):
     picture = Image.fromarray(numpy.concatenate(frames, axis=1).astype("uint8"), "P")
     picture.putpalette(palette())
     return picture
+
+
+def save_strip(picture, path):
+    """Writes a strip as a GIF. A pixel may come out a shade lighter or darker, in its own metal."""
+    alike = [()] * 256
+    for first in range(0, len(METALS) * SHADES, SHADES):
+        for shade in range(SHADES):
+            beside = [first + other for other in (shade - 1, shade + 1) if 0 <= other < SHADES]
+            alike[first + shade] = tuple(beside)
+    gif.save_gif(numpy.asarray(picture), palette(), path, alike)

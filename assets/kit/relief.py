@@ -135,13 +135,9 @@ class Relief:
         self.solid &= ~where
         self.height[where] = 0
 
-    def floor(self, inner, outer, polish=0.62, grain=0.22, height=0.0):
-        """A dull, finely grained ground for motifs to stand on."""
-        self.lay((self.radius >= inner) & (self.radius <= outer), height + self.grain(grain), polish)
-
-    def grain(self, amplitude):
-        noise = numpy.random.default_rng(7).standard_normal(self.x.shape).astype("float32")
-        return amplitude * 2.6 * blurred(noise, 1.3)
+    def floor(self, inner, outer, polish=0.55):
+        """A dull ground for motifs to stand on."""
+        self.lay((self.radius >= inner) & (self.radius <= outer), 0.0, polish)
 
     def half_round(self, inner, outer, height=None, base=0.0):
         """A ring with a round back, as of bent wire."""

@@ -1,0 +1,96 @@
+"""Borders that are turned on a lathe: plain rims, and rims with a worked surface."""
+
+import numpy
+
+from borders.shapes import EDGE
+from kit.relief import TURN, bevelled, blurred
+
+
+def thin(relief):
+    relief.half_round(230, EDGE, height=5)
+
+
+def medium(relief):
+    relief.half_round(219, EDGE, height=8)
+
+
+def wide(relief):
+    relief.flat_ring(192, EDGE, height=6, bevel=6)
+
+
+def stepped(relief):
+    relief.flat_ring(188, EDGE, height=4, bevel=4)
+    relief.flat_ring(205, EDGE, height=4, bevel=4, base=4)
+    relief.flat_ring(222, EDGE, height=4, bevel=4, base=8)
+
+
+def double(relief):
+    relief.half_round(225, EDGE, height=6)
+    relief.half_round(206, 215, height=4)
+
+
+def triple(relief):
+    relief.floor(196, EDGE)
+    relief.half_round(226, EDGE, height=6)
+    relief.half_round(210, 220, height=4.5)
+    relief.half_round(194, 204, height=4.5)
+
+
+def dished(relief):
+    """A hollow moulding between two beads, like the frame of an old picture."""
+    share = (relief.radius - 198) / 30
+    hollow = 11 * (1 - numpy.sqrt(numpy.clip(1 - numpy.clip(share, 0, 1) ** 2, 0, 1)))
+    relief.lay((relief.radius >= 194) & (relief.radius <= EDGE), hollow)
+    relief.half_round(192, 200, height=4)
+    relief.half_round(227, EDGE, height=5, base=9)
+
+
+def grooved(relief):
+    relief.flat_ring(190, EDGE, height=6, bevel=5)
+    for middle in (201, 208, 215, 222, 229):
+        off = (relief.radius - middle) / 1.5
+        relief.height -= (1.6 * numpy.exp(-0.5 * off * off)).astype("float32")
+
+
+def reeded(relief):
+    """The milled edge of a coin, seen from the front."""
+    relief.flat_ring(198, EDGE, height=5, bevel=3)
+    wave = numpy.cos(relief.angle * 120)
+    ridges = 3.2 * numpy.sqrt(numpy.clip(0.5 + 0.5 * wave, 0, 1))
+    fade = bevelled(numpy.minimum(relief.radius - 207, EDGE - 2 - relief.radius) / 3)
+    relief.height += (ridges * fade).astype("float32")
+    relief.half_round(196, 206, height=4, base=3)
+
+
+def hammered(relief):
+    """Planished metal: shallow hollows left by a round hammer, each cut off by its neighbours."""
+    chance = numpy.random.default_rng(11)
+    surface = numpy.full(relief.x.shape, numpy.float32(9))
+    for row, (radius, count) in enumerate([(188, 72), (202, 78), (216, 83), (230, 88), (244, 93)]):
+        for place in range(count):
+            angle = (place + 0.5 * (row % 2) + chance.uniform(-0.3, 0.3)) * TURN / count
+            reach = radius + chance.uniform(-4, 4)
+            dip(relief, surface, reach * numpy.sin(angle), -reach * numpy.cos(angle), chance.uniform(0, 0.5))
+    relief.flat_ring(194, EDGE, height=0, bevel=1)
+    fall = 5 * bevelled(numpy.minimum(relief.radius - 194, EDGE - relief.radius) / 5)
+    relief.height += (blurred(surface, 1.5) * 1.0 + fall).astype("float32") * relief.solid
+
+
+def dip(relief, surface, x, y, bottom):
+    box = tuple(slice(max(0, int((place + 250 - 16) * 3)), max(0, int((place + 250 + 16) * 3))) for place in (y, x))
+    square = (relief.x[box] - x) ** 2 + (relief.y[box] - y) ** 2
+    numpy.minimum(surface[box], bottom + square * 0.022, out=surface[box])
+
+
+BORDERS = {
+    "Rim 1 thin": thin,
+    "Rim 2 medium": medium,
+    "Rim 3 wide": wide,
+    "Rim double": double,
+    "Rim triple": triple,
+    "Rim stepped": stepped,
+    "Rim dished": dished,
+    "Rim grooved": grooved,
+    "Rim hammered": hammered,
+    "Rim milled": reeded,
+}
