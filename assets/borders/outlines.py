@@ -2,6 +2,7 @@
 
 import math
 
+import cairo
 import numpy
 
 from borders.shapes import EDGE, arc_line, closed, polar
@@ -33,9 +34,9 @@ def gear(relief, count, root, inner):
 
 
 def gear_12(relief):
-    gear(relief, 12, 214, 190)
+    gear(relief, 12, 211, 188)
     for place in range(12):
-        bolt(relief, 206, place * TURN / 12, 4.2)
+        bolt(relief, 219, place * TURN / 12, 6)
 
 
 def gear_24(relief):
@@ -74,22 +75,19 @@ def gear_inside(relief):
     relief.half_round(229, EDGE, height=5, base=2)
 
 
+def saw_tooth(share):
+    """How far out the edge of the blade runs, from the tip of one tooth (0) to the next one's (1)."""
+    if share < 0.16:
+        return EDGE - 19 * math.sin(share / 0.16 * math.pi / 2)
+    return EDGE - 19 + 19 * ((share - 0.16) / 0.84) ** 1.5
+
+
 def saw_blade(relief):
-    count, pitch = 36, TURN / 36
-
-    def painter(context):
-        points = []
-        for tooth in range(count):
-            start = tooth * pitch
-            points += [polar(EDGE, start), polar(EDGE - 3, start + pitch * 0.12)]
-            points += [polar(224 - 4 * math.sin(math.pi * i / 8) + 0.8 * i, start + pitch * (0.5 + 0.055 * i))
-                       for i in range(1, 8)]
-            points += [polar(222, start + pitch * 0.97)]
-        cut_out(context, points, 192)
-
-    relief.plate(painter, height=4, bevel=3)
-    relief.engrave(lambda context: ring_line(context, 208, 2.2), depth=2)
-    relief.engrave(lambda context: ring_line(context, 201, 1.6), depth=1.5)
+    count = 30
+    outline = [polar(saw_tooth(step % 24 / 24), step * TURN / (24 * count)) for step in range(24 * count)]
+    relief.plate(lambda context: cut_out(context, outline, 194), height=4, bevel=3)
+    relief.engrave(lambda context: ring_line(context, 210, 2.2), depth=2)
+    relief.engrave(lambda context: ring_line(context, 202.5, 1.6), depth=1.5)
 
 
 def ring_line(context, radius, width):
@@ -116,13 +114,13 @@ def scallops(relief):
 
 def lace(relief):
     """Lobes with a hole in each and a row of small holes inside, as of crochet."""
-    relief.plate(lambda context: lace_painter(context), height=4, bevel=3.2)
+    relief.plate(lace_painter, height=4, bevel=3.2)
     relief.half_round(199, 206, height=3.5, base=1)
 
 
 def lace_painter(context):
     cut_out(context, scalloped(30, 227, EDGE - 227), 199)
-    context.set_operator(0)
+    context.set_operator(cairo.OPERATOR_CLEAR)
     for place in range(30):
         for radius, angle, size in ((226.5, place + 0.5, 5.4), (215, place, 3.6), (213, place + 0.5, 2.4)):
             x, y = polar(radius, angle * TURN / 30)
@@ -142,30 +140,6 @@ def sun_rays(relief):
     relief.half_round(192, 207, height=6)
 
 
-def sun_flames(relief):
-    """Flames that curl one way, every second one shorter."""
-    count, pitch = 20, TURN / 20
-
-    def painter(context):
-        for place in range(count):
-            for tip, shift, half in ((EDGE, 0.0, 0.40), (225, 0.5, 0.32)):
-                middle = (place + shift) * pitch
-                left = [flame_edge(tip, middle, -half * pitch, pitch, i / 16) for i in range(17)]
-                right = [flame_edge(tip, middle, half * pitch, pitch, i / 16) for i in range(16, -1, -1)]
-                closed(context, left + right)
-        context.fill()
-
-    relief.plate(painter, height=6, bevel=7)
-    relief.open(relief.radius < 198)
-    relief.half_round(192, 206, height=6)
-
-
-def flame_edge(tip, middle, half, pitch, share):
-    radius = 199 + (tip - 199) * share
-    sway = 0.22 * pitch * math.sin(share * math.pi * 1.5)
-    return polar(radius, middle + sway + half * (1 - share) ** 0.8)
-
-
 BORDERS = {
     "Gear 12 teeth": gear_12,
     "Gear 24 teeth": gear_24,
@@ -174,6 +148,5 @@ BORDERS = {
     "Lace": lace,
     "Saw blade": saw_blade,
     "Scallops": scallops,
-    "Sun flames": sun_flames,
     "Sun rays": sun_rays,
 }

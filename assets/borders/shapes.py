@@ -21,6 +21,7 @@ def polar(radius, angle):
 
 
 def closed(context, points):
+    context.new_sub_path()
     for point in points:
         context.line_to(*point)
     context.close_path()

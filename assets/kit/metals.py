@@ -16,7 +16,7 @@ from kit.relief import SAMPLES, blurred, depth_inside
 METALS = {
     "Black Nickel": [(6, 7, 10), (20, 23, 29), (44, 49, 59), (82, 90, 104), (142, 151, 167), (218, 225, 233)],
     "Shiny Copper": [(38, 12, 4), (98, 36, 9), (170, 74, 18), (224, 112, 36), (246, 166, 104), (255, 228, 200)],
-    "Shiny Silver": [(24, 24, 28), (66, 67, 73), (112, 113, 119), (158, 159, 165), (201, 202, 207), (233, 233, 234)],
+    "Shiny Silver": [(24, 24, 28), (70, 71, 77), (120, 121, 127), (170, 171, 177), (211, 212, 216), (233, 233, 234)],
     "Shiny Gold": [(48, 27, 0), (112, 70, 0), (184, 124, 0), (236, 172, 8), (252, 213, 82), (255, 245, 186)],
 }
 SHADES = 63
@@ -64,7 +64,7 @@ def tones(relief):
     light = mirrored(x * LIGHT[0] + y * LIGHT[1])
     for (lamp_x, lamp_y), width, strength in LAMPS:
         light += strength * numpy.exp(-((x - lamp_x) ** 2 + (y - lamp_y) ** 2) / (2 * width * width))
-    light += 0.40 * upright**6 * turned(relief.angle)
+    light += 0.46 * upright**6 * turned(relief.angle)
     # Less light reaches what lies beside something higher.
     for reach, strength in ((1.0, 0.30), (3.0, 0.10)):
         hollow = blurred(relief.height, reach * SAMPLES) - relief.height
