@@ -7,7 +7,7 @@ Their names are what the user picks from in a list, so kinds of a thing begin wi
 import numpy
 from PIL import Image, ImageDraw, ImageFont
 
-from borders import bands, motifs, outlines, rims, strands, windows
+from borders import bands, dials, motifs, outlines, rims, strands, windows
 from kit import metals
 from kit.relief import Relief
 
@@ -16,11 +16,11 @@ RADIUS = 240
 # As light as metal may be on all three channels at once, so that nobody takes it for white.
 LIGHTEST_METAL = 235
 # The whole of it stays free for the design, whichever the border.
-FREE_RADIUS = 110
+FREE_RADIUS = 80
 
 BORDERS = {
     name: build
-    for kind in (bands, motifs, outlines, rims, strands, windows)
+    for kind in (bands, dials, motifs, outlines, rims, strands, windows)
     for name, build in kind.BORDERS.items()
 }
 

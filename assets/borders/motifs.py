@@ -1,1 +1,386 @@
-BORDERS = {}
+"""Borders of one figure repeated round the tag."""
+
+import math
+
+import cairo
+
+from borders.shapes import EDGE, closed, curve, filled, framed_floor, heart, leaf, polar, polygon, star
+from kit.relief import TURN, Motif, bevelled
+
+
+def disc(size):
+    def painter(context):
+        context.arc(0, 0, size, 0, TURN)
+        context.fill()
+    return painter
+
+
+def ball(size):
+    """A full hemisphere."""
+    return Motif(disc(size), size, 0.85 * size, size)
+
+
+def ball(size):
+    """A full hemisphere."""
+    return Motif(disc(size), size, 0.85 * size, size)
+
+
+def outlined(painter):
+    """Draws lines with the painter's path instead of filling it."""
+    def lines(context):
+        context.set_line_width(1.5)
+        painter(context)
+        context.stroke()
+    return lines
+
+
+def beads_small(relief):
+    relief.flat_ring(221, EDGE, height=0, bevel=1, polish=0.4)
+    relief.around(ball(5.6), 126, 232)
+    relief.half_round(219, 226, height=3.5)
+
+
+def beads_large(relief):
+    relief.around(ball(10.8), 66, EDGE - 11)
+
+
+def beads_mixed(relief):
+    """Pearls on a string, each big one between three small ones."""
+    relief.half_round(224.5, 228.5, height=2)
+    relief.around(ball(13), 20, 226.5)
+    for shift, size in ((0.29, 6.2), (0.5, 8), (0.71, 6.2)):
+        relief.around(ball(size), 20, 226.5, first=shift * TURN / 20)
+
+
+def stars(relief):
+    framed_floor(relief, 194)
+    # A star with straight slopes from its edges up to its middle has facets like a cut stone.
+    figure = Motif(lambda context: filled(context, star(5, 14.5, 6)), 15, 7, 7, shape=bevelled, soft=0.8)
+    relief.around(figure, 32, 214)
+
+
+def stars_open(relief):
+    relief.half_round(231, EDGE, height=5)
+    figure = Motif(lambda context: filled(context, star(5, 15, 6.2)), 16, 7, 7, shape=bevelled, soft=0.8)
+    relief.around(figure, 28, 212)
+
+
+def hearts(relief):
+    framed_floor(relief, 194)
+    figure = Motif(lambda context: (heart(context, 12), context.fill()), 14, 7, 10)
+    relief.around(figure, 36, 214)
+
+
+def diamonds(relief):
+    framed_floor(relief, 194)
+    gem = Motif(lambda context: filled(context, [(0, -14.5), (9.5, 0), (0, 14.5), (-9.5, 0)]), 15, 7, 8,
+                shape=bevelled, soft=0.8)
+    relief.around(gem, 48, 214)
+    relief.around(ball(3), 48, 223.5, first=TURN / 96)
+    relief.around(ball(3), 48, 204.5, first=TURN / 96)
+
+
+def flowers(relief):
+    framed_floor(relief, 192)
+    petals = Motif(daisy, 17, 4.5, 4, engraved=daisy_lines, depth=1.5)
+    relief.around(petals, 32, 213)
+    relief.around(ball(4.6), 32, 213, base=2)
+
+
+def daisy(context):
+    for petal in range(8):
+        context.save()
+        context.rotate(petal * TURN / 8)
+        curve(context, (0, -2), (5, -5, 6.6, -15.5, 0, -16), mirrored=True)
+        context.fill()
+        context.restore()
+
+
+def daisy_lines(context):
+    context.set_line_width(1.2)
+    for petal in range(8):
+        angle = petal * TURN / 8
+        context.move_to(*polar(6, angle))
+        context.line_to(*polar(13, angle))
+    context.stroke()
+
+
+def roses(relief):
+    """Five-petalled heraldic roses and leaves, on a string of beads."""
+    relief.half_round(231, EDGE, height=5)
+    relief.half_round(210, 214, height=2.5)
+    sepal = Motif(lambda context: (leaf(context, 17, 10), context.fill()), 18, 3, 4)
+    rose = Motif(rose_petals, 16, 5, 5.5)
+    heart_of_rose = Motif(rose_petals, 16, 5, 5.5)
+    for place in range(18):
+        angle = place * TURN / 18
+        for side in (-1, 1):
+            relief.stamp(sepal, 212, angle + side * 0.048, turn=side * TURN * 0.235)
+        relief.stamp(rose, 212, angle, turn=0)
+        relief.stamp(heart_of_rose, 212, angle, scale=0.56, turn=math.pi, base=3)
+        relief.stamp(ball(3), 212, angle, base=5)
+        relief.stamp(ball(4.4), 212, angle + TURN / 36)
+
+
+def rose_petals(context):
+    for petal in range(5):
+        context.arc(*polar(8.2, petal * TURN / 5), 6.9, 0, TURN)
+        context.fill()
+
+
+def leaf_ring(relief):
+    """A garland: a stem all round with leaves to both sides."""
+    relief.half_round(231, EDGE, height=5)
+    blade = leaf_motif(27, 19)
+    count = 44
+    for place in range(count):
+        angle = -place * TURN / count
+        relief.stamp(blade, 213, angle, turn=TURN * 0.155)
+        relief.stamp(blade, 211, angle - TURN / (2 * count), turn=TURN * 0.345)
+    relief.half_round(210, 214.4, height=2.2, base=3.5)
+
+
+def leaf_motif(length, width):
+    """A leaf with its veins, its stalk at the origin."""
+    def veins(context):
+        context.set_line_width(1.3)
+        context.move_to(0, 0)
+        context.line_to(0, -length * 0.9)
+        for share in (0.25, 0.45, 0.65):
+            for side in (-1, 1):
+                context.move_to(0, -length * share)
+                context.line_to(side * width * 0.3 * (1.1 - share), -length * (share + 0.16))
+        context.stroke()
+
+    return Motif(lambda context: (leaf(context, length, width), context.fill()), length, 5, width * 0.36,
+                 engraved=veins, depth=1.6)
+
+
+def laurel(relief):
+    """Two branches that rise from a bow below and nearly meet at the top."""
+    relief.half_round(232, EDGE, height=5)
+    blade, berry = leaf_motif(30, 18), ball(3.2)
+    steps = 27
+    for side in (-1, 1):
+        onwards = -side * TURN / 4
+        # From the top down, so that each leaf lies over the foot of the next one.
+        for step in range(steps, -1, -1):
+            angle = math.pi - side * (0.10 + step * 0.104)
+            if step == steps:
+                relief.stamp(blade, 210, angle, turn=onwards)
+                continue
+            for lean in (-0.52, 0.52):
+                relief.stamp(blade, 210, angle, turn=onwards + lean)
+            if step % 2:
+                relief.stamp(berry, 210, angle - side * 0.045, base=4)
+    relief.stamp(Motif(bow_shape, 30, 5, 4.5), 208, math.pi, turn=math.pi)
+    relief.stamp(ball(5.5), 208, math.pi, base=2)
+
+
+def bow_shape(context):
+    for side in (-1, 1):
+        curve(context, (0, 0), (6 * side, -13, 24 * side, -16, 25 * side, -4), (25 * side, 7, 8 * side, 7, 0, 0))
+        context.fill()
+        filled(context, [(0, 0), (17 * side, 18), (11 * side, 18), (8.5 * side, 23)])
+
+
+def ivy(relief):
+    """A stem that winds between the rims, with a leaf in every bend."""
+    framed_floor(relief, 188)
+    bends = 15
+
+    def stem(context):
+        context.set_line_width(3.6)
+        for step in range(721):
+            angle = step * TURN / 720
+            context.line_to(*polar(211.5 + 9 * math.cos(bends * angle), angle))
+        context.close_path()
+        context.stroke()
+
+    relief.plate(stem, height=3, bevel=1.8)
+    blade = Motif(ivy_leaf, 15, 5, 6, engraved=ivy_veins, depth=1.4)
+    for place in range(bends):
+        relief.stamp(blade, 209, place * TURN / bends, turn=math.pi)
+        relief.stamp(blade, 214.5, (place + 0.5) * TURN / bends)
+        for shift in (0.16, 0.84):
+            relief.stamp(ball(2.8), 203.5, (place + shift) * TURN / bends)
+
+
+def ivy_leaf(context):
+    curve(context, (0, 11), (5, 13, 11, 11, 12, 5), (12, 1.5, 10, 0, 7.5, -0.5), (11, -3, 10, -7, 6, -7.5),
+          (3.5, -8, 2.5, -11, 0, -14), mirrored=True)
+    context.fill()
+
+
+def ivy_veins(context):
+    context.set_line_width(1.2)
+    for point in ((0, -11), (8, 5), (-8, 5), (6, -5), (-6, -5)):
+        context.move_to(0, 10)
+        context.line_to(*point)
+    context.stroke()
+
+
+def shamrocks(relief):
+    framed_floor(relief, 192)
+    relief.around(Motif(shamrock, 17, 6, 7), 30, 213)
+
+
+def shamrock(context):
+    context.set_line_width(3.6)
+    context.move_to(0, 2)
+    context.curve_to(0.5, 8, 1.5, 12, 5, 15)
+    context.stroke()
+    for turn in (-TURN / 3.1, 0, TURN / 3.1):
+        context.save()
+        context.translate(0, 1.5)
+        context.rotate(turn)
+        context.translate(0, -8.4)
+        heart(context, 7.6)
+        context.fill()
+        context.restore()
+
+
+def paws(relief):
+    framed_floor(relief, 190)
+    figure = Motif(paw, 17, 6, 6)
+    for place in range(26):
+        relief.stamp(figure, 215 if place % 2 else 208.5, place * TURN / 26, turn=TURN / 4)
+
+
+def paw(context):
+    curve(context, (0, -2), (5, -2, 6.5, 3, 9.5, 6), (12, 9, 10, 14, 5.5, 13.2), (3, 12.7, 2, 12, 0, 12),
+          mirrored=True)
+    context.fill()
+    for x, y, turn, size in ((4.4, -9.2, 0.12, 1.0), (11, -2.4, 0.5, 0.9)):
+        for side in (-1, 1):
+            context.save()
+            context.translate(side * x, y)
+            context.rotate(side * turn)
+            context.scale(3.5 * size, 5.2 * size)
+            context.arc(0, 0, 1, 0, TURN)
+            context.restore()
+            context.fill()
+
+
+def arrowheads(relief):
+    """Points of flint one behind the other."""
+    framed_floor(relief, 192)
+    figure = Motif(arrowhead, 20, 7, 9, shape=bevelled, soft=0.8)
+    relief.around(figure, 36, 213, turn=TURN / 4)
+
+
+def arrowhead(context):
+    filled(context, [(0, -18), (11.5, 9), (4.5, 6.5), (5.5, 15), (0, 13), (-5.5, 15), (-4.5, 6.5), (-11.5, 9)])
+
+
+def snowflakes(relief):
+    framed_floor(relief, 190)
+    relief.around(Motif(snowflake, 18, 3.6, 1.9), 28, 212)
+    relief.around(ball(2.4), 28, 222, first=TURN / 56)
+    relief.around(ball(2.4), 28, 202.5, first=TURN / 56)
+
+
+def snowflake(context):
+    context.set_line_width(3.2)
+    for arm in range(6):
+        context.save()
+        context.rotate(arm * TURN / 6)
+        for line in (((0, 0), (0, -15.5)), ((0, -8), (-4.6, -12.6)), ((0, -8), (4.6, -12.6))):
+            context.move_to(*line[0])
+            context.line_to(*line[1])
+        context.stroke()
+        context.restore()
+
+
+def rivets(relief):
+    """A riveted plate with a line beside each row of heads."""
+    relief.flat_ring(194, EDGE, height=4, bevel=4)
+    for line in (202, 232):
+        relief.engrave(lambda context, line=line: ring(context, line), depth=1.6)
+    relief.around(Motif(disc(8.4), 9, 1.5, 2), 36, 217, base=3)
+    relief.around(ball(6.6), 36, 217, base=4)
+
+
+def screws(relief):
+    """A plate held by slotted screws, each turned a little differently."""
+    relief.flat_ring(196, EDGE, height=4, bevel=5)
+    relief.half_round(196, 204, height=3, base=3)
+    head = Motif(disc(9.2), 10, 3.4, 4, engraved=slot, depth=2.6)
+    seat = Motif(disc(11.2), 12, 0.5, 1)
+    for place in range(24):
+        angle = place * TURN / 24
+        relief.stamp(seat, 221, angle, base=1.5, polish=0.5)
+        relief.stamp(head, 221, angle, turn=place * 2.4, base=2)
+
+
+def slot(context):
+    context.set_line_cap(cairo.LINE_CAP_BUTT)
+    context.set_line_width(2.6)
+    context.move_to(0, -9)
+    context.line_to(0, 9)
+    context.stroke()
+
+
+def ring(context, radius):
+    context.set_line_width(1.8)
+    context.arc(0, 0, radius, 0, TURN)
+    context.stroke()
+
+
+def hexagon_nuts(relief):
+    relief.half_round(231, EDGE, height=5)
+    nut = Motif(nut_shape, 15, 5.5, 3.2, shape=bevelled)
+    relief.around(nut, 42, 213)
+
+
+def nut_shape(context):
+    closed(context, polygon(6, 15, TURN / 12))
+    context.new_sub_path()
+    context.arc_negative(0, 0, 6.2, TURN, 0)
+    context.fill()
+
+
+def petals(relief):
+    """A rosette: the petals of one big flower, two rows deep."""
+    blade = Motif(petal, 40, 6, 11, engraved=petal_line, depth=1.6)
+    relief.around(blade, 24, 200, first=TURN / 48, base=0)
+    relief.around(blade, 24, 194, base=1)
+    relief.open(relief.radius < 196)
+    relief.half_round(190, 202, height=6)
+
+
+def petal(context):
+    curve(context, (0, 4), (10, -4, 22, -18, 18.5, -29), (16, -36, 8, -39.2, 0, -39.2), mirrored=True)
+    context.fill()
+
+
+def petal_line(context):
+    context.set_line_width(1.5)
+    for angle in (-0.3, 0, 0.3):
+        context.move_to(0, 4)
+        context.line_to(*polar(27, angle))
+    context.stroke()
+
+
+BORDERS = {
+    "Arrowheads": arrowheads,
+    "Beads 1 small": beads_small,
+    "Beads 2 large": beads_large,
+    "Beads mixed": beads_mixed,
+    "Diamonds": diamonds,
+    "Flowers daisies": flowers,
+    "Flowers petals": petals,
+    "Flowers roses": roses,
+    "Hearts": hearts,
+    "Leaves": leaf_ring,
+    "Leaves ivy": ivy,
+    "Leaves laurel": laurel,
+    "Nuts": hexagon_nuts,
+    "Paws": paws,
+    "Rivets": rivets,
+    "Screws": screws,
+    "Shamrocks": shamrocks,
+    "Snowflakes": snowflakes,
+    "Stars": stars,
+    "Stars open": stars_open,
+}

@@ -1,7 +1,7 @@
 """GIF files of pictures in many close shades, a third smaller than a plain writer makes them.
 
 LZW stores a run of pixels that it has met before as one code. Shaded metal hardly ever repeats itself exactly,
-but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer. In a row of 63
+but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer. In a row of 48
 shades nobody sees the difference.
 """
 

@@ -1,7 +1,7 @@
 """The look of the four metals: the same light on the same polish, wherever a picture shows metal.
 
 A relief is lit once. The light on each point is a single number, its tone, from the darkest crevice (0) to the
-gleam (1); every metal is a row of colours for the tones. So a picture of all four metals needs 4 x 63 colours,
+gleam (1); every metal is a row of colours for the tones. So a picture of all four metals needs 4 x 48 colours,
 without any banding, in a palette of 256.
 """
 
@@ -19,7 +19,7 @@ METALS = {
     "Shiny Silver": [(24, 24, 28), (70, 71, 77), (120, 121, 127), (170, 171, 177), (211, 212, 216), (233, 233, 234)],
     "Shiny Gold": [(48, 27, 0), (112, 70, 0), (184, 124, 0), (236, 172, 8), (252, 213, 82), (255, 245, 186)],
 }
-SHADES = 63
+SHADES = 48
 WHITE = 255
 
 # Where the light comes from: the upper left.
@@ -73,7 +73,7 @@ def tones(relief):
 
 
 def shades(relief):
-    """The picture of a relief as numbers of shades, 0 to 62, at its size in pixels, and where it is metal. A
+    """The picture of a relief as numbers of shades at its size in pixels, and where it is metal. A
     dark line bounds the metal, so that it stands out from any design; no pixel is half metal."""
     depth = depth_inside(relief.solid, 2 * SAMPLES) / SAMPLES
     edge = numpy.clip((depth - 0.7) / 1.2, 0, 1)
