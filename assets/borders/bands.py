@@ -1,7 +1,5 @@
 """Borders whose ring carries a running pattern, or lettering of the user's own."""
 
-import math
-
 import cairo
 import numpy
 
@@ -185,27 +183,7 @@ def bar_shape(context):
     context.fill()
 
 
-def art_deco(relief):
-    """Fans of rays, one beside the other."""
-    framed_floor(relief, 190)
-    fan = Motif(fan_shape, 27, 4, 2.4, shape=bevelled)
-    relief.around(fan, 26, 199)
-    relief.half_round(188, 199, height=5)
-
-
-def fan_shape(context):
-    for ray in range(-3, 4):
-        angle = ray * 0.40
-        reach = 28.5 - 1.4 * abs(ray)
-        closed(context, [(math.sin(angle + off) * length, 3 - math.cos(angle + off) * length)
-                         for off, length in ((-0.17, 7), (-0.155, reach), (0, reach + 1.6), (0.155, reach), (0.17, 7))])
-    context.fill()
-    context.arc(0, 3, 5, 0, TURN)
-    context.fill()
-
-
 BORDERS = {
-    "Art deco fans": art_deco,
     "Castle wall": castle_wall,
     "Dragon scales": dragon_scales,
     "Film strip": film_strip,

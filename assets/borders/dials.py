@@ -1,6 +1,6 @@
 """Borders that are dials: lettering and ticks on a ring."""
 
-from borders.shapes import EDGE, filled, framed_floor
+from borders.shapes import filled, framed_floor
 from kit.relief import TURN, Motif, bevelled
 
 # Letters as lines, 20 high, their middle at the origin, and how wide each is.
@@ -44,7 +44,8 @@ def lettering(word, width, serifs=False):
 def clock(relief):
     framed_floor(relief, 186, outer_rim=230)
     for hour, numeral in enumerate(HOURS):
-        relief.stamp(Motif(lettering(numeral, 3.4, serifs=True), 26, 4, 2), 206, hour * TURN / 12)
+        relief.stamp(Motif(lettering(numeral, 4, serifs=True), 28, 5, 2.2), 206.5, hour * TURN / 12,
+                     scale=1.12)
     dot = Motif(lambda context: (context.arc(0, 0, 1.9, 0, TURN), context.fill()), 3, 2, 2)
     mark = Motif(lambda context: filled(context, [(0, 4.6), (3.6, 0), (0, -4.6), (-3.6, 0)]), 6, 3, 3.4, shape=bevelled)
     for minute in range(60):
@@ -56,7 +57,7 @@ def compass(relief):
     point = Motif(lambda context: filled(context, [(0, 30), (9, -8), (-9, -8)]), 31, 7, 8, shape=bevelled, soft=0.8)
     for quarter, letter in enumerate("NESW"):
         relief.stamp(point, 188, quarter * TURN / 4)
-        relief.stamp(Motif(lettering(letter, 4.4), 15, 5, 2.4), 212.5, quarter * TURN / 4)
+        relief.stamp(Motif(lettering(letter, 4.8), 16, 5, 2.6), 213, quarter * TURN / 4, scale=1.15)
     gem = Motif(lambda context: filled(context, [(0, 15), (6.5, 0), (0, -15), (-6.5, 0)]), 16, 5, 6, shape=bevelled)
     short, long = tick(7), tick(12)
     for step in range(72):
@@ -76,18 +77,7 @@ def tick(length):
     return Motif(painter, length, 2.2, 1.4)
 
 
-def speedometer(relief):
-    """An instrument: fine ticks all round, stouter ones and studs at every tenth."""
-    relief.floor(196, EDGE)
-    relief.half_round(226, EDGE, height=7)
-    for step in range(120):
-        length = 17 if step % 10 == 0 else 12 if step % 5 == 0 else 8
-        relief.stamp(tick(length), 224 - length / 2, step * TURN / 120)
-    relief.half_round(195, 202, height=4)
-
-
 BORDERS = {
     "Clock": clock,
     "Compass": compass,
-    "Dial ticks": speedometer,
 }

@@ -2,9 +2,7 @@
 
 import math
 
-import cairo
-
-from borders.shapes import EDGE, closed, curve, filled, framed_floor, heart, leaf, polar, polygon, star
+from borders.shapes import EDGE, curve, filled, framed_floor, heart, leaf, polar, star
 from kit.relief import TURN, Motif, bevelled
 
 
@@ -18,20 +16,6 @@ def disc(size):
 def ball(size):
     """A full hemisphere."""
     return Motif(disc(size), size, 0.85 * size, size)
-
-
-def ball(size):
-    """A full hemisphere."""
-    return Motif(disc(size), size, 0.85 * size, size)
-
-
-def outlined(painter):
-    """Draws lines with the painter's path instead of filling it."""
-    def lines(context):
-        context.set_line_width(1.5)
-        painter(context)
-        context.stroke()
-    return lines
 
 
 def beads_small(relief):
@@ -66,18 +50,10 @@ def stars_open(relief):
 
 
 def hearts(relief):
-    framed_floor(relief, 194)
-    figure = Motif(lambda context: (heart(context, 12), context.fill()), 14, 7, 10)
-    relief.around(figure, 36, 214)
-
-
-def diamonds(relief):
-    framed_floor(relief, 194)
-    gem = Motif(lambda context: filled(context, [(0, -14.5), (9.5, 0), (0, 14.5), (-9.5, 0)]), 15, 7, 8,
-                shape=bevelled, soft=0.8)
-    relief.around(gem, 48, 214)
-    relief.around(ball(3), 48, 223.5, first=TURN / 96)
-    relief.around(ball(3), 48, 204.5, first=TURN / 96)
+    relief.half_round(231, EDGE, height=5)
+    figure = Motif(lambda context: (heart(context, 13.5), context.fill()), 16, 8, 11)
+    relief.around(figure, 32, 212)
+    relief.around(ball(3.4), 32, 212, first=TURN / 64)
 
 
 def flowers(relief):
@@ -241,10 +217,10 @@ def shamrock(context):
 
 
 def paws(relief):
-    framed_floor(relief, 190)
+    relief.half_round(231, EDGE, height=5)
     figure = Motif(paw, 17, 6, 6)
     for place in range(26):
-        relief.stamp(figure, 215 if place % 2 else 208.5, place * TURN / 26, turn=TURN / 4)
+        relief.stamp(figure, 214 if place % 2 else 206, place * TURN / 26, turn=TURN / 4)
 
 
 def paw(context):
@@ -264,9 +240,9 @@ def paw(context):
 
 def arrowheads(relief):
     """Points of flint one behind the other."""
-    framed_floor(relief, 192)
+    relief.half_round(231, EDGE, height=5)
     figure = Motif(arrowhead, 20, 7, 9, shape=bevelled, soft=0.8)
-    relief.around(figure, 36, 213, turn=TURN / 4)
+    relief.around(figure, 34, 212, turn=TURN / 4)
 
 
 def arrowhead(context):
@@ -290,54 +266,6 @@ def snowflake(context):
             context.line_to(*line[1])
         context.stroke()
         context.restore()
-
-
-def rivets(relief):
-    """A riveted plate with a line beside each row of heads."""
-    relief.flat_ring(194, EDGE, height=4, bevel=4)
-    for line in (202, 232):
-        relief.engrave(lambda context, line=line: ring(context, line), depth=1.6)
-    relief.around(Motif(disc(8.4), 9, 1.5, 2), 36, 217, base=3)
-    relief.around(ball(6.6), 36, 217, base=4)
-
-
-def screws(relief):
-    """A plate held by slotted screws, each turned a little differently."""
-    relief.flat_ring(196, EDGE, height=4, bevel=5)
-    relief.half_round(196, 204, height=3, base=3)
-    head = Motif(disc(9.2), 10, 3.4, 4, engraved=slot, depth=2.6)
-    seat = Motif(disc(11.2), 12, 0.5, 1)
-    for place in range(24):
-        angle = place * TURN / 24
-        relief.stamp(seat, 221, angle, base=1.5, polish=0.5)
-        relief.stamp(head, 221, angle, turn=place * 2.4, base=2)
-
-
-def slot(context):
-    context.set_line_cap(cairo.LINE_CAP_BUTT)
-    context.set_line_width(2.6)
-    context.move_to(0, -9)
-    context.line_to(0, 9)
-    context.stroke()
-
-
-def ring(context, radius):
-    context.set_line_width(1.8)
-    context.arc(0, 0, radius, 0, TURN)
-    context.stroke()
-
-
-def hexagon_nuts(relief):
-    relief.half_round(231, EDGE, height=5)
-    nut = Motif(nut_shape, 15, 5.5, 3.2, shape=bevelled)
-    relief.around(nut, 42, 213)
-
-
-def nut_shape(context):
-    closed(context, polygon(6, 15, TURN / 12))
-    context.new_sub_path()
-    context.arc_negative(0, 0, 6.2, TURN, 0)
-    context.fill()
 
 
 def petals(relief):
@@ -367,7 +295,6 @@ BORDERS = {
     "Beads 1 small": beads_small,
     "Beads 2 large": beads_large,
     "Beads mixed": beads_mixed,
-    "Diamonds": diamonds,
     "Flowers daisies": flowers,
     "Flowers petals": petals,
     "Flowers roses": roses,
@@ -375,10 +302,7 @@ BORDERS = {
     "Leaves": leaf_ring,
     "Leaves ivy": ivy,
     "Leaves laurel": laurel,
-    "Nuts": hexagon_nuts,
     "Paws": paws,
-    "Rivets": rivets,
-    "Screws": screws,
     "Shamrocks": shamrocks,
     "Snowflakes": snowflakes,
     "Stars": stars,

@@ -43,10 +43,6 @@ def gear_24(relief):
     gear(relief, 24, 219, 197)
 
 
-def gear_48(relief):
-    gear(relief, 48, 227, 208)
-
-
 def bolt(relief, radius, angle, size):
     """A round head in a sunk seat."""
     x, y = polar(radius, angle)
@@ -130,7 +126,7 @@ def lace_painter(context):
 
 def sun_rays(relief):
     """Long and short facetted rays round a ring."""
-    count, pitch = 24, TURN / 24
+    pitch = TURN / 24
     off = abs((relief.angle / pitch + 0.5) % 1 - 0.5) * pitch * relief.radius
     short_off = abs(relief.angle / pitch % 1 - 0.5) * pitch * relief.radius
     for tip, aside, half in ((226, short_off, 15), (EDGE, off, 21)):
@@ -143,7 +139,6 @@ def sun_rays(relief):
 BORDERS = {
     "Gear 12 teeth": gear_12,
     "Gear 24 teeth": gear_24,
-    "Gear 48 teeth": gear_48,
     "Gear inside": gear_inside,
     "Lace": lace,
     "Saw blade": saw_blade,

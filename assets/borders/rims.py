@@ -29,13 +29,6 @@ def double(relief):
     relief.half_round(206, 215, height=4)
 
 
-def triple(relief):
-    relief.floor(196, EDGE)
-    relief.half_round(226, EDGE, height=6)
-    relief.half_round(210, 220, height=4.5)
-    relief.half_round(194, 204, height=4.5)
-
-
 def dished(relief):
     """A hollow moulding between two beads, like the frame of an old picture."""
     share = (relief.radius - 198) / 30
@@ -43,13 +36,6 @@ def dished(relief):
     relief.lay((relief.radius >= 194) & (relief.radius <= EDGE), hollow)
     relief.half_round(192, 200, height=4)
     relief.half_round(227, EDGE, height=5, base=9)
-
-
-def grooved(relief):
-    relief.flat_ring(190, EDGE, height=6, bevel=5)
-    for middle in (201, 208, 215, 222, 229):
-        off = (relief.radius - middle) / 1.5
-        relief.height -= (1.6 * numpy.exp(-0.5 * off * off)).astype("float32")
 
 
 def reeded(relief):
@@ -87,10 +73,8 @@ BORDERS = {
     "Rim 2 medium": medium,
     "Rim 3 wide": wide,
     "Rim double": double,
-    "Rim triple": triple,
     "Rim stepped": stepped,
     "Rim dished": dished,
-    "Rim grooved": grooved,
     "Rim hammered": hammered,
     "Rim milled": reeded,
 }

@@ -63,32 +63,6 @@ def rope_thick(relief):
     rope(relief, 205, EDGE, 44)
 
 
-def rope_framed(relief):
-    relief.floor(198, EDGE)
-    relief.half_round(231, EDGE, height=5)
-    rope(relief, 207, 229, 64)
-    relief.half_round(197, 205, height=4)
-
-
-def rope_double(relief):
-    rope(relief, 220, EDGE, 72)
-    rope(relief, 201, 219, 72, lean=-0.75)
-
-
-def celtic_twist(relief):
-    framed_floor(relief, 192)
-    plait(relief, 2, 213.5, 8.5, 18, half=4.6, height=4, lift=4, ribbon=True)
-    for place in range(36):
-        knob(relief, 213.5, place * TURN / 36, 2.6)
-
-
-def knob(relief, radius, angle, size):
-    x, y = radius * numpy.sin(angle), -radius * numpy.cos(angle)
-    square = (relief.x - x) ** 2 + (relief.y - y) ** 2
-    inside = square < size * size
-    relief.lay(inside, (1 + numpy.sqrt(numpy.clip(size * size - square, 0, None))).astype("float32"))
-
-
 def celtic_braid(relief):
     framed_floor(relief, 191)
     plait(relief, 3, 213, 10, 20, half=4.6, height=4.2, lift=4.5, ribbon=True)
@@ -97,13 +71,6 @@ def celtic_braid(relief):
 def celtic_knot(relief):
     framed_floor(relief, 187)
     plait(relief, 4, 212, 12.5, 16, half=4.0, height=4.2, lift=4.5, ribbon=True)
-
-
-def celtic_rings(relief):
-    """Rings that are linked into each other, over on one side and under on the other."""
-    framed_floor(relief, 191)
-    strands = [link(relief, 54, first, 212, 4, 10.5) for first in (0, 1)]
-    interlaced(relief, strands, half=3.4, height=3.6, lift=4)
 
 
 def link(relief, count, first, middle, straight, bend):
@@ -147,11 +114,7 @@ BORDERS = {
     "Barbed wire": barbed_wire,
     "Celtic braid": celtic_braid,
     "Celtic knot": celtic_knot,
-    "Celtic rings": celtic_rings,
-    "Celtic twist": celtic_twist,
     "Chain": chain,
     "Rope 1 thin": rope_thin,
     "Rope 2 thick": rope_thick,
-    "Rope double": rope_double,
-    "Rope framed": rope_framed,
 }

@@ -1,8 +1,8 @@
 """GIF files of pictures in many close shades, a third smaller than a plain writer makes them.
 
 LZW stores a run of pixels that it has met before as one code. Shaded metal hardly ever repeats itself exactly,
-but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer. In a row of 48
-shades nobody sees the difference.
+but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer, by more shades
+where the picture is so busy that nobody sees the difference.
 """
 
 import struct
@@ -11,6 +11,8 @@ CODE_BITS = 8
 CLEAR = 1 << CODE_BITS
 END = CLEAR + 1
 LARGEST_CODE = 4095
+# A full table of runs is still of use for a while; so many codes later new runs have earned their place.
+CODES_FROM_FULL_TABLE = 2000
 
 
 class Codes:
@@ -35,18 +37,20 @@ class Codes:
 
 
 def compressed(pixels, alike):
-    """The pixels as blocks of LZW codes. `alike` tells for each index the others it may be taken for."""
+    """The pixels as blocks of LZW codes. `alike` has for each pixel a table that tells for each index the others
+    it may be taken for."""
     codes = Codes()
     codes.add(CLEAR, CODE_BITS + 1)
     table, width = [{} for _ in range(END + 1)], CODE_BITS + 1
-    place, count = 0, len(pixels)
+    place, count, since_full = 0, len(pixels), 0
     while place < count:
         run = pixels[place]
         place += 1
         while place < count:
             longer = table[run].get(pixels[place])
             if longer is None:
-                longer = next((table[run][other] for other in alike[pixels[place]] if other in table[run]), None)
+                others = alike[place][pixels[place]]
+                longer = next((table[run][other] for other in others if other in table[run]), None)
             if longer is None:
                 break
             run = longer
@@ -60,18 +64,21 @@ def compressed(pixels, alike):
             table.append({})
             if len(table) > (1 << width) and width < 12:
                 width += 1
+        elif since_full < CODES_FROM_FULL_TABLE:
+            since_full += 1
         else:
             codes.add(CLEAR, width)
-            table, width = [{} for _ in range(END + 1)], CODE_BITS + 1
+            table, width, since_full = [{} for _ in range(END + 1)], CODE_BITS + 1, 0
     codes.add(END, width)
     return codes.blocks()
 
 
-def save_gif(pixels, palette, path, alike):
-    """Writes rows of indexes (a numpy array) and 256 colours (768 numbers) as a GIF without transparency."""
+def save_gif(pixels, palette, path, alike, slack):
+    """Writes rows of indexes (a numpy array) and 256 colours (768 numbers) as a GIF without transparency.
+    `slack` is a number for each pixel; `alike[slack][index]` are the indexes that the pixel may be taken for."""
     height, width = pixels.shape
     screen = struct.pack("<HHBBB", width, height, 0xF7, 0, 0)
     image = b"," + struct.pack("<HHHHB", 0, 0, width, height, 0) + bytes([CODE_BITS])
-    data = compressed(pixels.flatten().tolist(), alike)
+    data = compressed(pixels.flatten().tolist(), [alike[level] for level in slack.flatten().tolist()])
     path.parent.mkdir(parents=True, exist_ok=True)
     path.write_bytes(b"GIF87a" + screen + bytes(palette) + image + data + b";")

@@ -21,6 +21,7 @@ METALS = {
 }
 SHADES = 48
 WHITE = 255
+MOST_SLACK = 5
 
 # Where the light comes from: the upper left.
 LIGHT = (-0.55, -0.835)
@@ -118,11 +119,33 @@ def strip(relief):
     return picture
 
 
-def save_strip(picture, path):
-    """Writes a strip as a GIF. A pixel may come out a shade lighter or darker, in its own metal."""
+def neighbours(level):
+    """For each index of a strip the shades of its own metal that are at most `level` away, nearest first."""
     alike = [()] * 256
     for first in range(0, len(METALS) * SHADES, SHADES):
         for shade in range(SHADES):
-            beside = [first + other for other in (shade - 1, shade + 1) if 0 <= other < SHADES]
-            alike[first + shade] = tuple(beside)
-    gif.save_gif(numpy.asarray(picture), palette(), path, alike)
+            beside = [shade + side * away for away in range(1, level + 1) for side in (-1, 1)]
+            alike[first + shade] = tuple(first + other for other in beside if 0 <= other < SHADES)
+    return alike
+
+
+def slack(pixels):
+    """By how many shades each pixel of a strip may be off: one on smooth metal, more where it is next to much
+    lighter or darker metal."""
+    metal = pixels // SHADES
+    padded = numpy.pad(pixels.astype(int), 1, mode="edge")
+    lightest, darkest = pixels.astype(int), pixels.astype(int)
+    for row in range(3):
+        for column in range(3):
+            beside = padded[row : row + pixels.shape[0], column : column + pixels.shape[1]]
+            same = beside // SHADES == metal
+            lightest = numpy.where(same, numpy.maximum(lightest, beside), lightest)
+            darkest = numpy.where(same, numpy.minimum(darkest, beside), darkest)
+    return numpy.clip((lightest - darkest) // 2, 1, MOST_SLACK)
+
+
+def save_strip(picture, path):
+    """Writes a strip as a GIF. What is white stays white, and metal keeps to its own colours."""
+    pixels = numpy.asarray(picture)
+    alike = [neighbours(level) for level in range(MOST_SLACK + 1)]
+    gif.save_gif(pixels, palette(), path, alike, slack(pixels))
