@@ -9,12 +9,12 @@ from kit.relief import TURN, Motif, bevelled
 
 def greek_key(relief):
     """Hooks that spring from a base line, each turning back into itself."""
-    count, low, step = 32, 199.0, 6.4
+    count, low, step = 28, 198.5, 7.0
     pitch = TURN / count
     hook = [(0, 0), (4.1, 0), (4.1, 0.74), (1.45, 0.74), (1.45, 0.27), (2.85, 0.27), (2.85, 0.5)]
 
     def painter(context):
-        context.set_line_width(3.9)
+        context.set_line_width(5)
         context.set_line_join(cairo.LINE_JOIN_MITER)
         context.set_line_cap(cairo.LINE_CAP_BUTT)
         for place in range(count):
@@ -23,7 +23,7 @@ def greek_key(relief):
             context.stroke()
 
     framed_floor(relief, 194)
-    relief.plate(painter, height=4, bevel=1.9)
+    relief.plate(painter, height=5, bevel=2.5, polish=1.2)
 
 
 def waves(relief):

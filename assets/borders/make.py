@@ -17,6 +17,8 @@ RADIUS = 240
 LIGHTEST_METAL = 235
 # The whole of it stays free for the design, whichever the border.
 FREE_RADIUS = 80
+# In bytes, all files together: the program's folder is made to be copied.
+LARGEST_LIBRARY = 6_000_000
 
 BORDERS = {
     name: build
@@ -62,6 +64,9 @@ def make(data):
         file = folder / f"{name}.gif"
         metals.save_strip(border(name), file)
         check(name, Image.open(file))
+    total = sum(file.stat().st_size for file in folder.glob("*.gif"))
+    if total > LARGEST_LIBRARY:
+        raise SystemExit(f"the borders take {total} bytes")
 
 
 def sheets(data, folder):

@@ -84,24 +84,31 @@ def daisy_lines(context):
 def roses(relief):
     """Five-petalled heraldic roses and leaves, on a string of beads."""
     relief.half_round(231, EDGE, height=5)
-    relief.half_round(210, 214, height=2.5)
+    relief.half_round(208, 212, height=2.5)
     sepal = Motif(lambda context: (leaf(context, 17, 10), context.fill()), 18, 3, 4)
-    rose = Motif(rose_petals, 16, 5, 5.5)
-    heart_of_rose = Motif(rose_petals, 16, 5, 5.5)
+    rose = Motif(rose_petals, 16, 5, 5.5, engraved=rose_seams, depth=2.2)
     for place in range(18):
         angle = place * TURN / 18
         for side in (-1, 1):
-            relief.stamp(sepal, 212, angle + side * 0.048, turn=side * TURN * 0.235)
-        relief.stamp(rose, 212, angle, turn=0)
-        relief.stamp(heart_of_rose, 212, angle, scale=0.56, turn=math.pi, base=3)
-        relief.stamp(ball(3), 212, angle, base=5)
-        relief.stamp(ball(4.4), 212, angle + TURN / 36)
+            relief.stamp(sepal, 210, angle + side * 0.062, turn=side * TURN * 0.235, scale=1.25)
+        relief.stamp(rose, 210, angle, scale=1.25, polish=1)
+        relief.stamp(rose, 210, angle, scale=0.7, turn=math.pi, base=4, polish=1)
+        relief.stamp(ball(3.8), 210, angle, base=7)
+        relief.stamp(ball(5.2), 210, angle + TURN / 36)
 
 
 def rose_petals(context):
     for petal in range(5):
         context.arc(*polar(8.2, petal * TURN / 5), 6.9, 0, TURN)
         context.fill()
+
+
+def rose_seams(context):
+    context.set_line_width(1.3)
+    for petal in range(5):
+        context.move_to(0, 0)
+        context.line_to(*polar(11, (petal + 0.5) * TURN / 5))
+    context.stroke()
 
 
 def leaf_ring(relief):
@@ -157,7 +164,7 @@ def bow_shape(context):
     for side in (-1, 1):
         curve(context, (0, 0), (6 * side, -13, 24 * side, -16, 25 * side, -4), (25 * side, 7, 8 * side, 7, 0, 0))
         context.fill()
-        filled(context, [(0, 0), (17 * side, 18), (11 * side, 18), (8.5 * side, 23)])
+        filled(context, [(-side, 1), (5 * side, 1), (18 * side, 17), (12 * side, 17), (9.5 * side, 22)])
 
 
 def ivy(relief):
@@ -198,20 +205,19 @@ def ivy_veins(context):
 
 def shamrocks(relief):
     framed_floor(relief, 192)
-    relief.around(Motif(shamrock, 17, 6, 7), 30, 213)
+    relief.around(Motif(shamrock, 18, 5, 4.2), 28, 213)
 
 
 def shamrock(context):
-    context.set_line_width(3.6)
+    context.set_line_width(3.8)
     context.move_to(0, 2)
-    context.curve_to(0.5, 8, 1.5, 12, 5, 15)
+    context.curve_to(0.5, 8, 1.5, 12, 5.5, 15)
     context.stroke()
     for turn in (-TURN / 3.1, 0, TURN / 3.1):
         context.save()
         context.translate(0, 1.5)
         context.rotate(turn)
-        context.translate(0, -8.4)
-        heart(context, 7.6)
+        curve(context, (0, -1), (3.2, -3.4, 8.8, -6, 8.6, -11.6), (8.4, -16.4, 2, -17.4, 0, -13.2), mirrored=True)
         context.fill()
         context.restore()
 
@@ -250,18 +256,17 @@ def arrowhead(context):
 
 
 def snowflakes(relief):
-    framed_floor(relief, 190)
-    relief.around(Motif(snowflake, 18, 3.6, 1.9), 28, 212)
-    relief.around(ball(2.4), 28, 222, first=TURN / 56)
-    relief.around(ball(2.4), 28, 202.5, first=TURN / 56)
+    relief.half_round(231, EDGE, height=5)
+    relief.around(Motif(snowflake, 21, 4.2, 2.4), 26, 207.5)
+    relief.around(ball(3.6), 26, 218, first=TURN / 52)
 
 
 def snowflake(context):
-    context.set_line_width(3.2)
+    context.set_line_width(4.4)
     for arm in range(6):
         context.save()
         context.rotate(arm * TURN / 6)
-        for line in (((0, 0), (0, -15.5)), ((0, -8), (-4.6, -12.6)), ((0, -8), (4.6, -12.6))):
+        for line in (((0, 0), (0, -18)), ((0, -9.5), (-5.6, -15)), ((0, -9.5), (5.6, -15))):
             context.move_to(*line[0])
             context.line_to(*line[1])
         context.stroke()

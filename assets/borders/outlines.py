@@ -52,25 +52,6 @@ def bolt(relief, radius, angle, size):
     relief.height = numpy.where(away < size, relief.height + (0.75 * size * dome), relief.height).astype("float32")
 
 
-def gear_inside(relief):
-    """A ring with its teeth inwards, as in a planetary gear."""
-    count, pitch = 48, TURN / 48
-
-    def painter(context):
-        context.arc(0, 0, EDGE, 0, TURN)
-        context.new_sub_path()
-        teeth = []
-        for tooth in range(count):
-            middle = tooth * pitch
-            teeth += arc_line(217, middle - pitch * 0.62, middle - pitch * 0.38)
-            teeth += arc_line(202, middle - pitch * 0.18, middle + pitch * 0.18)
-        closed(context, reversed(teeth))
-        context.fill()
-
-    relief.plate(painter, height=5, bevel=4)
-    relief.half_round(229, EDGE, height=5, base=2)
-
-
 def saw_tooth(share):
     """How far out the edge of the blade runs, from the tip of one tooth (0) to the next one's (1)."""
     if share < 0.16:
@@ -139,7 +120,6 @@ def sun_rays(relief):
 BORDERS = {
     "Gear 12 teeth": gear_12,
     "Gear 24 teeth": gear_24,
-    "Gear inside": gear_inside,
     "Lace": lace,
     "Saw blade": saw_blade,
     "Scallops": scallops,

@@ -47,7 +47,7 @@ def heart_window(relief):
     bud = Motif(filling(lambda context: heart(context, 15)), 17, 7, 11)
     relief.stamp(bud, 164, 0)
     for side in (-1, 1):
-        relief.stamp(bud, 199, side * 2.32, turn=-side * 2.32 + math.pi * 0)
+        relief.stamp(bud, 199, side * 2.32, turn=-side * 2.32)
         relief.stamp(ball(5), 205, side * 2.10)
         relief.stamp(ball(5), 205, side * 2.54)
 

@@ -135,7 +135,7 @@ class Relief:
         self.solid &= ~where
         self.height[where] = 0
 
-    def floor(self, inner, outer, polish=0.55):
+    def floor(self, inner, outer, polish=0.5):
         """A dull ground for motifs to stand on."""
         self.lay((self.radius >= inner) & (self.radius <= outer), 0.0, polish)
 
@@ -165,8 +165,9 @@ class Relief:
         """Cuts what a painter draws on the whole picture into the metal."""
         self.height = self.height - depth * blurred(self.drawn(painter), soft)
 
-    def stamp(self, motif, radius, angle, turn=0.0, scale=1.0, mirror=False, base=0.0, polish=1.0):
-        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`."""
+    def stamp(self, motif, radius, angle, turn=0.0, scale=1.0, base=0.0, polish=1.15):
+        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`. What
+        stands out is rubbed a little brighter than plain metal."""
         x, y = radius * math.sin(angle), -radius * math.cos(angle)
         reach = math.ceil(motif.half * scale * 1.42) + 1
         box = tuple(
@@ -178,7 +179,7 @@ class Relief:
         sine, cosine = math.sin(angle + turn), math.cos(angle + turn)
         across = (right * cosine + down * sine) / scale
         along = (down * cosine - right * sine) / scale
-        cover, height = motif.at(-across if mirror else across, along)
+        cover, height = motif.at(across, along)
         inside = (cover > 0.5) & (abs(across) <= motif.half) & (abs(along) <= motif.half)
         self.height[box] = numpy.where(inside, base + height * scale, self.height[box])
         self.polish[box][inside] = polish
