@@ -2,7 +2,7 @@
 
 import numpy
 
-from borders.shapes import EDGE
+from borders.shapes import EDGE, polar
 from kit.relief import TURN, bevelled, blurred
 
 
@@ -55,15 +55,15 @@ def hammered(relief):
     for row, (radius, count) in enumerate([(188, 72), (202, 78), (216, 83), (230, 88), (244, 93)]):
         for place in range(count):
             angle = (place + 0.5 * (row % 2) + chance.uniform(-0.3, 0.3)) * TURN / count
-            reach = radius + chance.uniform(-4, 4)
-            dip(relief, surface, reach * numpy.sin(angle), -reach * numpy.cos(angle), chance.uniform(0, 0.5))
-    relief.flat_ring(194, EDGE, height=0, bevel=1)
-    fall = 5 * bevelled(numpy.minimum(relief.radius - 194, EDGE - relief.radius) / 5)
-    relief.height += (blurred(surface, 1.5) * 1.0 + fall).astype("float32") * relief.solid
+            x, y = polar(radius + chance.uniform(-4, 4), angle)
+            strike(relief, surface, x, y, chance.uniform(0, 0.5))
+    edge = 5 * bevelled(numpy.minimum(relief.radius - 194, EDGE - relief.radius) / 5)
+    relief.lay((relief.radius >= 194) & (relief.radius <= EDGE), blurred(surface, 1.5) + edge)
 
 
-def dip(relief, surface, x, y, bottom):
-    box = tuple(slice(max(0, int((place + 250 - 16) * 3)), max(0, int((place + 250 + 16) * 3))) for place in (y, x))
+def strike(relief, surface, x, y, bottom, reach=16):
+    """One blow of the hammer, which leaves a hollow down to `bottom`."""
+    box = relief.box(x, y, reach)
     square = (relief.x[box] - x) ** 2 + (relief.y[box] - y) ** 2
     numpy.minimum(surface[box], bottom + square * 0.022, out=surface[box])
 

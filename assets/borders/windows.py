@@ -134,7 +134,7 @@ def lobed_window(relief):
 
 
 def porthole(relief):
-    """A heavy ring with eight bolts and a hinge on either side."""
+    """A heavy ring held by eight bolts."""
     relief.flat_ring(184, EDGE, height=6, bevel=7)
     relief.half_round(182, 198, height=7, base=3)
     relief.half_round(231, EDGE, height=4, base=4)

@@ -165,16 +165,19 @@ class Relief:
         """Cuts what a painter draws on the whole picture into the metal."""
         self.height = self.height - depth * blurred(self.drawn(painter), soft)
 
-    def stamp(self, motif, radius, angle, turn=0.0, scale=1.0, base=0.0, polish=1.15):
-        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`. What
-        stands out is rubbed a little brighter than plain metal."""
-        x, y = radius * math.sin(angle), -radius * math.cos(angle)
-        reach = math.ceil(motif.half * scale * 1.42) + 1
-        box = tuple(
+    def box(self, x, y, reach):
+        """The slices of the fields that hold everything within `reach` of a point."""
+        return tuple(
             slice(max(0, int((place + self.centre - reach) * SAMPLES)),
                   max(0, int((place + self.centre + reach + 1) * SAMPLES)))
             for place in (y, x)
         )
+
+    def stamp(self, motif, radius, angle, turn=0.0, scale=1.0, base=0.0, polish=1.15):
+        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`. What
+        stands out is rubbed a little brighter than plain metal."""
+        x, y = radius * math.sin(angle), -radius * math.cos(angle)
+        box = self.box(x, y, math.ceil(motif.half * scale * 1.42) + 1)
         right, down = self.x[box] - x, self.y[box] - y
         sine, cosine = math.sin(angle + turn), math.cos(angle + turn)
         across = (right * cosine + down * sine) / scale
