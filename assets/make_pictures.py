@@ -3,8 +3,8 @@
 
     assets/make_pictures.py
 
-Needs Pillow and numpy, cairo for Python and rsvg-convert; `dev/setup.sh assets` installs them. Run it after any change of a drawing and commit what
-it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
+The tools that it needs are installed by `dev/setup.sh assets`. Run it after any change of a drawing and commit
+what it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
 same bytes.
 """
 

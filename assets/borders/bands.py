@@ -3,7 +3,8 @@
 import cairo
 import numpy
 
-from borders.shapes import EDGE, bent, closed, framed_floor, polar, ring_sector, star
+from borders.motifs import cut_star
+from borders.shapes import EDGE, bent, closed, framed_floor, polar, ring_sector
 from kit.relief import TURN, Motif, bevelled
 
 
@@ -54,13 +55,18 @@ def film_strip(relief):
         ring_sector(context, EDGE, 190, 0, TURN)
         context.fill()
         context.set_operator(cairo.OPERATOR_CLEAR)
-        for place in range(frames):
-            rounded_sector(context, 204.5, 225.5, (place + 0.06) * TURN / frames, (place + 0.94) * TURN / frames)
-        for place in range(holes):
-            for inner, outer in ((229.5, 235.5), (194.5, 200.5)):
-                rounded_sector(context, inner, outer, (place + 0.25) * TURN / holes, (place + 0.75) * TURN / holes)
+        windows_round(context, 204.5, 225.5, frames, 0.88)
+        windows_round(context, 229.5, 235.5, holes, 0.5)
+        windows_round(context, 194.5, 200.5, holes, 0.5)
 
     relief.plate(painter, height=2.5, bevel=1.6)
+
+
+def windows_round(context, inner, outer, count, share):
+    """So many pieces of a ring with rounded corners; `share` of the ring is theirs."""
+    for place in range(count):
+        middle, half = (place + 0.5) * TURN / count, share / 2 * TURN / count
+        rounded_sector(context, inner, outer, middle - half, middle + half)
 
 
 def rounded_sector(context, inner, outer, start, end, corner=1.5):
@@ -90,7 +96,8 @@ def castle_wall(relief):
         depth = numpy.minimum(numpy.minimum(relief.radius - inner, outer - relief.radius), beside)
         relief.lay(depth > 0, (1 + 3 * bevelled(depth / 3.2)).astype("float32"))
     across = abs((relief.angle / pitch + 0.5) % 1 - 0.5) * pitch * relief.radius
-    depth = numpy.minimum(numpy.minimum(relief.radius - 228.5, EDGE - 0.6 - relief.radius), 0.26 * pitch * 234 - across)
+    depth = numpy.minimum(relief.radius - 228.5, EDGE - 0.6 - relief.radius)
+    depth = numpy.minimum(depth, 0.26 * pitch * 234 - across)
     relief.lay(depth > 0, (1 + 3 * bevelled(depth / 3.2)).astype("float32"))
 
 
@@ -155,17 +162,11 @@ def text_band(relief):
 def text_band_stars(relief):
     """A band to write on above and below, with stars between the two lines."""
     text_band(relief)
-    big = Motif(lambda context: facets(context, 14), 15, 6, 6)
-    small = Motif(lambda context: facets(context, 8.5), 10, 4.5, 4)
+    big, small = cut_star(14), cut_star(8.5)
     for side in (-1, 1):
         relief.stamp(big, 213.5, side * TURN / 4)
         for aside in (-0.105, 0.105):
             relief.stamp(small, 213.5, side * TURN / 4 + aside)
-
-
-def facets(context, size):
-    closed(context, star(5, size, size * 0.42))
-    context.fill()
 
 
 def text_band_open(relief):

@@ -1,6 +1,7 @@
 """Borders that are dials: lettering and ticks on a ring."""
 
-from borders.shapes import filled, framed_floor
+from borders.motifs import disc
+from borders.shapes import figure, framed_floor
 from kit.relief import TURN, Motif, bevelled
 
 # Letters as lines, 20 high, their middle at the origin, and how wide each is.
@@ -46,19 +47,19 @@ def clock(relief):
     for hour, numeral in enumerate(HOURS):
         relief.stamp(Motif(lettering(numeral, 4, serifs=True), 28, 5, 2.2), 206.5, hour * TURN / 12,
                      scale=1.12)
-    dot = Motif(lambda context: (context.arc(0, 0, 1.9, 0, TURN), context.fill()), 3, 2, 2)
-    mark = Motif(lambda context: filled(context, [(0, 4.6), (3.6, 0), (0, -4.6), (-3.6, 0)]), 6, 3, 3.4, shape=bevelled)
+    dot = Motif(disc(1.9), 3, 2, 2)
+    mark = Motif(figure([(0, 4.6), (3.6, 0), (0, -4.6), (-3.6, 0)]), 6, 3, 3.4, shape=bevelled)
     for minute in range(60):
         relief.stamp(dot if minute % 5 else mark, 224.5, minute * TURN / 60)
 
 
 def compass(relief):
     framed_floor(relief, 190, outer_rim=231)
-    point = Motif(lambda context: filled(context, [(0, 30), (9, -8), (-9, -8)]), 31, 7, 8, shape=bevelled, soft=0.8)
+    point = Motif(figure([(0, 30), (9, -8), (-9, -8)]), 31, 7, 8, shape=bevelled, soft=0.8)
     for quarter, letter in enumerate("NESW"):
         relief.stamp(point, 188, quarter * TURN / 4)
         relief.stamp(Motif(lettering(letter, 4.8), 16, 5, 2.6), 213, quarter * TURN / 4, scale=1.15)
-    gem = Motif(lambda context: filled(context, [(0, 15), (6.5, 0), (0, -15), (-6.5, 0)]), 16, 5, 6, shape=bevelled)
+    gem = Motif(figure([(0, 15), (6.5, 0), (0, -15), (-6.5, 0)]), 16, 5, 6, shape=bevelled)
     short, long = tick(7), tick(12)
     for step in range(72):
         if step % 18 in (0, 1, 2, 16, 17):
@@ -66,7 +67,8 @@ def compass(relief):
         if step % 9 == 0:
             relief.stamp(gem, 212.5, step * TURN / 72)
         else:
-            relief.stamp(long if step % 3 == 0 else short, 227 - (6 if step % 3 == 0 else 3.5), step * TURN / 72)
+            mark, middle = (long, 221) if step % 3 == 0 else (short, 223.5)
+            relief.stamp(mark, middle, step * TURN / 72)
     relief.half_round(188, 196, height=4)
 
 

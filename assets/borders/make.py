@@ -1,7 +1,7 @@
 """The borders of tags: reliefs of metal, in all four metals, round a design.
 
-A border is a strip of four frames of 500 by 500 pixels, one for each metal. White lets the design show through.
-Their names are what the user picks from in a list, so kinds of a thing begin with the same word.
+A border is a strip of four frames of 500 by 500 pixels, one for each metal. White lets the design show
+through. Their names are what the user picks from in a list, so kinds of a thing begin with the same word.
 """
 
 import numpy

@@ -2,7 +2,7 @@
 
 import math
 
-from borders.shapes import EDGE, curve, filled, framed_floor, heart, leaf, polar, star
+from borders.shapes import EDGE, curve, figure, filled, framed_floor, heart, leaf, polar, star
 from kit.relief import TURN, Motif, bevelled
 
 
@@ -16,6 +16,11 @@ def disc(size):
 def ball(size):
     """A full hemisphere."""
     return Motif(disc(size), size, 0.85 * size, size)
+
+
+def cut_star(size):
+    """Straight slopes from the edges up to the middle give a star the facets of a cut stone."""
+    return Motif(figure(star(5, size, 0.42 * size)), size, 0.46 * size, 0.46 * size, shape=bevelled, soft=0.8)
 
 
 def beads_small(relief):
@@ -38,21 +43,18 @@ def beads_mixed(relief):
 
 def stars(relief):
     framed_floor(relief, 194)
-    # A star with straight slopes from its edges up to its middle has facets like a cut stone.
-    figure = Motif(lambda context: filled(context, star(5, 14.5, 6)), 15, 7, 7, shape=bevelled, soft=0.8)
-    relief.around(figure, 32, 214)
+    relief.around(cut_star(14.5), 32, 214)
 
 
 def stars_open(relief):
     relief.half_round(231, EDGE, height=5)
-    figure = Motif(lambda context: filled(context, star(5, 15, 6.2)), 16, 7, 7, shape=bevelled, soft=0.8)
-    relief.around(figure, 28, 212)
+    relief.around(cut_star(15), 28, 212)
 
 
 def hearts(relief):
     relief.half_round(231, EDGE, height=5)
-    figure = Motif(lambda context: (heart(context, 13.5), context.fill()), 16, 8, 11)
-    relief.around(figure, 32, 212)
+    motif = Motif(lambda context: (heart(context, 13.5), context.fill()), 16, 8, 11)
+    relief.around(motif, 32, 212)
     relief.around(ball(3.4), 32, 212, first=TURN / 64)
 
 
@@ -162,7 +164,8 @@ def laurel(relief):
 
 def bow_shape(context):
     for side in (-1, 1):
-        curve(context, (0, 0), (6 * side, -13, 24 * side, -16, 25 * side, -4), (25 * side, 7, 8 * side, 7, 0, 0))
+        curve(context, (0, 0), (6 * side, -13, 24 * side, -16, 25 * side, -4),
+              (25 * side, 7, 8 * side, 7, 0, 0))
         context.fill()
         filled(context, [(-side, 1), (5 * side, 1), (18 * side, 17), (12 * side, 17), (9.5 * side, 22)])
 
@@ -217,16 +220,17 @@ def shamrock(context):
         context.save()
         context.translate(0, 1.5)
         context.rotate(turn)
-        curve(context, (0, -1), (3.2, -3.4, 8.8, -6, 8.6, -11.6), (8.4, -16.4, 2, -17.4, 0, -13.2), mirrored=True)
+        curve(context, (0, -1), (3.2, -3.4, 8.8, -6, 8.6, -11.6), (8.4, -16.4, 2, -17.4, 0, -13.2),
+              mirrored=True)
         context.fill()
         context.restore()
 
 
 def paws(relief):
     relief.half_round(231, EDGE, height=5)
-    figure = Motif(paw, 17, 6, 6)
+    motif = Motif(paw, 17, 6, 6)
     for place in range(26):
-        relief.stamp(figure, 214 if place % 2 else 206, place * TURN / 26, turn=TURN / 4)
+        relief.stamp(motif, 214 if place % 2 else 206, place * TURN / 26, turn=TURN / 4)
 
 
 def paw(context):
@@ -247,12 +251,13 @@ def paw(context):
 def arrowheads(relief):
     """Points of flint one behind the other."""
     relief.half_round(231, EDGE, height=5)
-    figure = Motif(arrowhead, 20, 7, 9, shape=bevelled, soft=0.8)
-    relief.around(figure, 34, 212, turn=TURN / 4)
+    motif = Motif(arrowhead, 20, 7, 9, shape=bevelled, soft=0.8)
+    relief.around(motif, 34, 212, turn=TURN / 4)
 
 
 def arrowhead(context):
-    filled(context, [(0, -18), (11.5, 9), (4.5, 6.5), (5.5, 15), (0, 13), (-5.5, 15), (-4.5, 6.5), (-11.5, 9)])
+    half = [(0, -18), (11.5, 9), (4.5, 6.5), (5.5, 15)]
+    filled(context, half + [(0, 13)] + [(-x, y) for x, y in half[:0:-1]])
 
 
 def snowflakes(relief):

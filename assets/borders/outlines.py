@@ -48,8 +48,8 @@ def bolt(relief, radius, angle, size):
     x, y = polar(radius, angle)
     away = numpy.hypot(relief.x - x, relief.y - y)
     dome = numpy.sqrt(numpy.clip(1 - (away / (size + 0.1)) ** 2, 0, None))
-    relief.height = numpy.where(away < size + 1.6, relief.height - 2, relief.height)
-    relief.height = numpy.where(away < size, relief.height + (0.75 * size * dome), relief.height).astype("float32")
+    relief.height -= (2.0 * (away < size + 1.6)).astype("float32")
+    relief.height += (0.75 * size * dome).astype("float32")
 
 
 def saw_tooth(share):

@@ -32,6 +32,11 @@ def filled(context, points):
     context.fill()
 
 
+def figure(points):
+    """A painter of a figure with straight sides."""
+    return lambda context: filled(context, points)
+
+
 def curve(context, start, *pieces, mirrored=False):
     """A closed path of Bezier pieces (six numbers each); `mirrored` runs back along its left-hand image, so
     it starts and ends on the axis."""
@@ -67,7 +72,8 @@ def bent(points, step=0.02):
         count = max(1, math.ceil(abs(next_angle - angle) / step))
         for i in range(count):
             share = i / count
-            result.append(polar(radius + (next_radius - radius) * share, angle + (next_angle - angle) * share))
+            bend = angle + (next_angle - angle) * share
+            result.append(polar(radius + (next_radius - radius) * share, bend))
     return result + [polar(*points[-1])]
 
 
@@ -83,8 +89,8 @@ def heart(context, size):
           (0.84 * s, 0.28 * s, 0.34 * s, 0.58 * s, 0, 1.0 * s), mirrored=True)
 
 
-def leaf(context, length, width, waist=0.42):
+def leaf(context, length, width):
     """A pointed leaf from its stalk at the origin up to its tip."""
-    curve(context, (0, 0), (width * 0.55, -length * 0.06, width * 0.62, -length * waist, width * 0.42,
-                            -length * 0.62), (width * 0.28, -length * 0.8, width * 0.1, -length * 0.92, 0, -length),
-          mirrored=True)
+    w, h = width, -length
+    curve(context, (0, 0), (0.55 * w, 0.06 * h, 0.62 * w, 0.42 * h, 0.42 * w, 0.62 * h),
+          (0.28 * w, 0.8 * h, 0.1 * w, 0.92 * h, 0, h), mirrored=True)

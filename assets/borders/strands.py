@@ -21,8 +21,9 @@ def rope(relief, inner, outer, strands, lean=0.75):
 
 
 def interlaced(relief, strands, half, height, lift, gap=1.8, ribbon=False):
-    """Strands laid over and under each other. A strand is the distance of every sample from its middle line and
-    its level there, from -1 to 1; the higher one passes over. `gap` is the dark seam beside the upper one."""
+    """Strands laid over and under each other. A strand is the distance of every sample from its middle line
+    and its level there, from -1 to 1; the higher one passes over. `gap` is the dark seam beside the upper
+    one."""
     distances = numpy.stack([distance for distance, _ in strands])
     levels = numpy.stack([level for _, level in strands])
     order = numpy.argsort(levels, axis=0)

@@ -4,8 +4,8 @@ import math
 
 import numpy
 
-from borders.motifs import ball
-from borders.shapes import EDGE, closed, curve, heart, leaf, polar, polygon, star
+from borders.motifs import ball, cut_star, disc
+from borders.shapes import EDGE, closed, curve, figure, heart, leaf, polar, polygon, star
 from kit.relief import SAMPLES, TURN, Motif, bevelled, depth_inside
 
 
@@ -17,7 +17,8 @@ def window(relief, painter, rim=10):
     depth = depth_inside(plate, math.ceil(rim * SAMPLES)) / SAMPLES
     bow = numpy.sqrt(numpy.clip(1 - (2 * depth / rim - 1) ** 2, 0, 1))
     along = plate & (depth < rim) & (relief.radius <= EDGE)
-    relief.lay(along, numpy.maximum(0.42 * rim * bow, relief.height * (relief.radius > 229)).astype("float32"))
+    outer_rim = relief.height * (relief.radius > 229)
+    relief.lay(along, numpy.maximum(0.42 * rim * bow, outer_rim))
 
 
 def filling(painter):
@@ -54,15 +55,14 @@ def heart_window(relief):
 
 def shield_window(relief):
     def painter(context):
-        curve(context, (0, -146), (50, -146, 110, -152, 160, -162), (166, -30, 176, 130, 0, 222), mirrored=True)
+        curve(context, (0, -146), (50, -146, 110, -152, 160, -162), (166, -30, 176, 130, 0, 222),
+              mirrored=True)
         context.fill()
 
     window(relief, painter)
-    gem = Motif(filling(lambda context: closed(context, star(5, 20, 8.6))), 21, 8, 9, shape=bevelled, soft=0.8)
-    relief.stamp(gem, 192, 0)
+    relief.stamp(cut_star(20), 192, 0)
     for side in (-1, 1):
-        relief.stamp(Motif(filling(lambda context: closed(context, star(5, 13, 5.6))), 14, 6, 6, shape=bevelled,
-                           soft=0.8), 196, side * 0.26)
+        relief.stamp(cut_star(13), 196, side * 0.26)
         for angle, size in ((1.25, 4), (1.5, 6), (1.75, 6), (2.0, 6), (2.25, 6), (2.5, 4)):
             relief.stamp(ball(size), 208, side * angle)
 
@@ -71,7 +71,7 @@ def straight_window(relief, corners, first, reach=214):
     """A polygon with a bolt behind each side."""
     window(relief, corners_rounded(polygon(corners, reach - 8, first), 8))
     middle = (reach * math.cos(TURN / (2 * corners)) + 10 + 229) / 2
-    bolt = Motif(filling(lambda context: context.arc(0, 0, 9, 0, TURN)), 10, 2, 2.5)
+    bolt = Motif(disc(9), 10, 2, 2.5)
     for side in range(corners):
         angle = first + (side + 0.5) * TURN / corners
         if 229 - reach * math.cos(TURN / (2 * corners)) > 34:
@@ -110,7 +110,7 @@ def midrib(context):
 
 def star_window(relief):
     window(relief, corners_rounded(star(5, 208, 112), 6), rim=9)
-    gem = Motif(filling(lambda context: closed(context, star(5, 25, 10.5))), 26, 10, 11, shape=bevelled, soft=0.8)
+    gem = cut_star(25)
     for arm in range(5):
         relief.stamp(gem, 185, (arm + 0.5) * TURN / 5, turn=math.pi)
         for aside in (-0.22, 0.22):
@@ -138,8 +138,8 @@ def porthole(relief):
     relief.flat_ring(184, EDGE, height=6, bevel=7)
     relief.half_round(182, 198, height=7, base=3)
     relief.half_round(231, EDGE, height=4, base=4)
-    nut = Motif(filling(lambda context: closed(context, polygon(6, 13.5))), 14, 5, 3, shape=bevelled)
-    washer = Motif(filling(lambda context: context.arc(0, 0, 15, 0, TURN)), 16, 1.6, 2)
+    nut = Motif(figure(polygon(6, 13.5)), 14, 5, 3, shape=bevelled)
+    washer = Motif(disc(15), 16, 1.6, 2)
     for place in range(8):
         angle = (place + 0.5) * TURN / 8
         relief.stamp(washer, 214.5, angle, base=5)

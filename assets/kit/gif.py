@@ -1,8 +1,8 @@
 """GIF files of pictures in many close shades, a third smaller than a plain writer makes them.
 
-LZW stores a run of pixels that it has met before as one code. Shaded metal hardly ever repeats itself exactly,
-but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer, by more shades
-where the picture is so busy that nobody sees the difference.
+LZW stores a run of pixels that it has met before as one code. Shaded metal hardly ever repeats itself
+exactly, but nearly: so a pixel may be taken for one of a neighbouring shade where that makes a run longer, by
+more shades where the picture is so busy that nobody sees the difference.
 """
 
 import struct
@@ -37,8 +37,8 @@ class Codes:
 
 
 def compressed(pixels, alike):
-    """The pixels as blocks of LZW codes. `alike` has for each pixel a table that tells for each index the others
-    it may be taken for."""
+    """The pixels as blocks of LZW codes. `alike` has for each pixel a table that tells for each index the
+    others it may be taken for."""
     codes = Codes()
     codes.add(CLEAR, CODE_BITS + 1)
     table, width = [{} for _ in range(END + 1)], CODE_BITS + 1
@@ -75,7 +75,7 @@ def compressed(pixels, alike):
 
 def save_gif(pixels, palette, path, alike, slack):
     """Writes rows of indexes (a numpy array) and 256 colours (768 numbers) as a GIF without transparency.
-    `slack` is a number for each pixel; `alike[slack][index]` are the indexes that the pixel may be taken for."""
+    `slack` is a number for each pixel; `alike[slack][index]` are the indexes it may be taken for."""
     height, width = pixels.shape
     screen = struct.pack("<HHBBB", width, height, 0xF7, 0, 0)
     image = b"," + struct.pack("<HHHHB", 0, 0, width, height, 0) + bytes([CODE_BITS])

@@ -1,8 +1,8 @@
 """The look of the four metals: the same light on the same polish, wherever a picture shows metal.
 
-A relief is lit once. The light on each point is a single number, its tone, from the darkest crevice (0) to the
-gleam (1); every metal is a row of colours for the tones. So a picture of all four metals needs 4 x 48 colours,
-without any banding, in a palette of 256.
+A relief is lit once. The light on each point is a single number, its tone, from the darkest crevice (0) to
+the gleam (1); every metal is a row of colours for the tones. So a picture of all four metals needs 4 x 48
+colours: no banding, in a palette of 256.
 """
 
 import numpy
@@ -15,8 +15,12 @@ from kit.relief import SAMPLES, blurred, depth_inside
 # brightest stays below the white that stands for "no metal here".
 METALS = {
     "Black Nickel": [(6, 7, 10), (20, 23, 29), (44, 49, 59), (82, 90, 104), (142, 151, 167), (218, 225, 233)],
-    "Shiny Copper": [(38, 12, 4), (98, 36, 9), (170, 74, 18), (224, 112, 36), (246, 166, 104), (255, 228, 200)],
-    "Shiny Silver": [(24, 24, 28), (70, 71, 77), (120, 121, 127), (170, 171, 177), (211, 212, 216), (233, 233, 234)],
+    "Shiny Copper": [
+        (38, 12, 4), (98, 36, 9), (170, 74, 18), (224, 112, 36), (246, 166, 104), (255, 228, 200),
+    ],
+    "Shiny Silver": [
+        (24, 24, 28), (70, 71, 77), (120, 121, 127), (170, 171, 177), (211, 212, 216), (233, 233, 234),
+    ],
     "Shiny Gold": [(48, 27, 0), (112, 70, 0), (184, 124, 0), (236, 172, 8), (252, 213, 82), (255, 245, 186)],
 }
 SHADES = 48

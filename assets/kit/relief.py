@@ -1,7 +1,7 @@
 """Reliefs: how high the metal of a picture stands at every point, before any light falls on it.
 
-Lengths are pixels of the picture, angles are radians clockwise from the top, the y axis points down. A relief is
-sampled `SAMPLES` times a pixel in both directions, so that edges and reflections come out smooth.
+Lengths are pixels of the picture, angles are radians clockwise from the top, the y axis points down. A relief
+is sampled `SAMPLES` times a pixel in both directions, so that edges and reflections come out smooth.
 """
 
 import math
@@ -78,8 +78,8 @@ def raster(painter, side, centre, samples):
 class Motif:
     """A small figure to be stamped into reliefs, upright with its origin in the middle.
 
-    `half` is how far it reaches from its origin, `height` how high it stands, `bevel` how far from its outline
-    it reaches that height. `engraved` draws lines that are cut into it, `depth` deep.
+    `half` is how far it reaches from its origin, `height` how high it stands, `bevel` how far from its
+    outline it reaches that height. `engraved` draws lines that are cut into it, `depth` deep.
     """
 
     samples = 4
@@ -174,8 +174,8 @@ class Relief:
         )
 
     def stamp(self, motif, radius, angle, turn=0.0, scale=1.0, base=0.0, polish=1.15):
-        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`. What
-        stands out is rubbed a little brighter than plain metal."""
+        """A motif at so far from the centre in that direction, its top outwards, turned further by `turn`.
+        What stands out is rubbed a little brighter than plain metal."""
         x, y = radius * math.sin(angle), -radius * math.cos(angle)
         box = self.box(x, y, math.ceil(motif.half * scale * 1.42) + 1)
         right, down = self.x[box] - x, self.y[box] - y
