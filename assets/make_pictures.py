@@ -3,8 +3,8 @@
 
     assets/make_pictures.py
 
-Needs Pillow (python3-pil) and rsvg-convert (librsvg2-bin). Run it after any change of a drawing and commit what
-it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
+The tools that it needs are installed by `dev/setup.sh assets`. Run it after any change of a drawing and commit
+what it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
 same bytes.
 """
 
@@ -13,6 +13,9 @@ import pathlib
 import subprocess
 
 from PIL import Image
+
+from kit import metals
+from kit.relief import Relief
 
 ASSETS = pathlib.Path(__file__).resolve().parent
 SOURCE = ASSETS.parent / "src"
@@ -26,6 +29,12 @@ TOOLS = [
 ]
 ICON_SIDE = 14
 START_PICTURE_SIDE = 175
+METAL_SIDE = 100
+
+# The hole tool clears a disc of this radius, pen included, before it stamps the ring, whose dark outline just
+# covers the edge of the disc. (A radius of a whole pixel would leave a lone pixel at each of four sides.)
+HOLE_RADIUS = 43.7
+BLANK_RADIUS = 46.7
 
 # What a button leaves out of its picture, and from which coverage on (of 255) a pixel is ink: fainter ones
 # would stand as a speckle around the drawing.
@@ -95,11 +104,31 @@ def on_white(picture):
     return Image.alpha_composite(paper, picture).convert("RGB")
 
 
+def hole_rings():
+    """A grommet of each metal; white around it and in its hole."""
+    relief = Relief(METAL_SIDE, METAL_SIDE // 2)
+    relief.flat_ring(28, HOLE_RADIUS, height=2.5, bevel=3)
+    relief.half_round(28, 39, height=5, base=1)
+    return metals.strip(relief)
+
+
+def blank_tags():
+    """A polished tag of each metal with nothing on it yet."""
+    relief = Relief(METAL_SIDE, METAL_SIDE // 2)
+    # A shallow dish mirrors more of the room than a flat face.
+    relief.lay(relief.radius <= 40, (2.5 * (relief.radius / 38) ** 3).astype("float32"))
+    relief.flat_ring(34, BLANK_RADIUS, height=3.5, bevel=3, base=1)
+    relief.half_round(38, BLANK_RADIUS, height=3.5, base=2.5)
+    return metals.strip(relief)
+
+
 def main():
     CORE_STOCK.mkdir(parents=True, exist_ok=True)
     SHELL_STOCK.mkdir(parents=True, exist_ok=True)
     tool_icons().save(CORE_STOCK / "tool_icons.bmp")
     on_white(render("start_picture.svg", START_PICTURE_SIDE)).save(CORE_STOCK / "start_picture.bmp")
+    hole_rings().save(CORE_STOCK / "hole_rings.bmp")
+    blank_tags().save(CORE_STOCK / "blank_tags.bmp")
     # The smallest icon is a drawing of its own: fewer parts, each on whole pixels.
     render("window_icon_16.svg", 16).save(SHELL_STOCK / "window_icon_16.png")
     for side in (32, 48, 64):

@@ -12,6 +12,7 @@ class PlaatjesForm : public Form {
 public:
     explicit PlaatjesForm(FormServices services) : Form(services, "Plaatjes") {
         Img[0].Picture = StartPicture();
+        HolePic.Picture = HoleRings();
     }
 
     /// 0: what the image browser shows before a picture is picked; 1, 2: previews of the print jobs.
