@@ -12,6 +12,8 @@ class PlaatjesForm : public Form {
 public:
     explicit PlaatjesForm(FormServices services) : Form(services, "Plaatjes") {
         Img[0].Picture = StartPicture();
+        Img[1].Picture = AllDesignsPicture();
+        Img[2].Picture = AllClipartsPicture();
         HolePic.Picture = HoleRings();
     }
 

@@ -61,6 +61,16 @@ Image StartPicture() {
     return picture;
 }
 
+Image AllDesignsPicture() {
+    static const Image picture = DecodeBmp(stock_bytes::PrintAllDesigns()).value();
+    return picture;
+}
+
+Image AllClipartsPicture() {
+    static const Image picture = DecodeBmp(stock_bytes::PrintAllCliparts()).value();
+    return picture;
+}
+
 Image HoleRings() {
     static const Image picture = DecodeBmp(stock_bytes::HoleRings()).value();
     return picture;

@@ -127,6 +127,16 @@ TEST(StartPicture, IsADrawingOnWhite) {
     EXPECT_TRUE(sun);
 }
 
+TEST(PrintPreviews, ShowTwoDifferentSheets) {
+    for (const Image& preview : {AllDesignsPicture(), AllClipartsPicture()}) {
+        ASSERT_EQ(preview.Width(), 140);
+        ASSERT_EQ(preview.Height(), 140);
+        EXPECT_GT(Green(preview.At(60, 9)), 245) << "the head of the sheet";
+        EXPECT_EQ(preview.At(2, 2), RGB(220, 220, 190)) << "the dialog's own colour around it";
+    }
+    EXPECT_FALSE(AllDesignsPicture() == AllClipartsPicture());
+}
+
 bool IsDark(Colour c) {
     return Red(c) < 110 && Green(c) < 110 && Blue(c) < 110;
 }
