@@ -5,6 +5,11 @@
 set -euo pipefail
 
 run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
+# Fonts of many kinds for the texts on tags: the program offers what is installed.
+run_packages+=(fonts-bebas-neue fonts-yanone-kaffeesatz fonts-comfortaa fonts-quicksand fonts-play fonts-jura
+    fonts-ferrite-core fonts-sixtyfour fonts-cabinsketch fonts-comic-neue fonts-lobstertwo fonts-dancingscript
+    fonts-kristi fonts-ecolier-court fonts-sjfonts fonts-blankenburg fonts-isabella fonts-goudybookletter
+    fonts-oldstandard fonts-averia-serif-gwf fonts-gnutypewriter fonts-courier-prime)
 test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
     poppler-utils weasyprint faketime)

@@ -12,6 +12,9 @@ class PlaatjesForm : public Form {
 public:
     explicit PlaatjesForm(FormServices services) : Form(services, "Plaatjes") {
         Img[0].Picture = StartPicture();
+        Img[1].Picture = AllDesignsPicture();
+        Img[2].Picture = AllClipartsPicture();
+        HolePic.Picture = HoleRings();
     }
 
     /// 0: what the image browser shows before a picture is picked; 1, 2: previews of the print jobs.

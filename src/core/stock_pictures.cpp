@@ -1,5 +1,6 @@
 #include "core/stock_pictures.h"
 
+#include "core/materials.h"
 #include "core/stock_bytes.h"
 #include "surface/codecs.h"
 
@@ -10,34 +11,74 @@ namespace coinlet {
 
 namespace {
 
-constexpr int iconSide = 14, framesAStrip = 3;
+constexpr int iconSide = 14, framesAStrip = 3, tagSide = 100;
 constexpr std::size_t toolIcons = 16;
 
+Image Cut(const Image& sheet, int left, int top, int width, int height) {
+    Bitmap bitmap(width, height);
+    for (int y = 0; y < height; ++y)
+        std::copy_n(sheet.Row(top + y) + left, width, bitmap.Row(y));
+    return Image(std::move(bitmap));
+}
+
 /// The strips lie below each other in one bitmap, in the order of the buttons.
-std::array<Image, toolIcons> CutStrips(const Image& sheet) {
+std::array<Image, toolIcons> CutIcons(const Image& sheet) {
     std::array<Image, toolIcons> strips;
     int top = 0;
     for (Image& strip : strips) {
-        Bitmap bitmap(framesAStrip * iconSide, iconSide);
-        for (int y = 0; y < iconSide; ++y)
-            std::copy_n(sheet.Row(top + y), bitmap.Width(), bitmap.Row(y));
-        strip = Image(std::move(bitmap));
+        strip = Cut(sheet, 0, top, framesAStrip * iconSide, iconSide);
         top += iconSide;
     }
     return strips;
 }
 
+/// The tags stand side by side in one bitmap, in the order of the materials.
+std::array<Image, materials.size()> CutTags(const Image& sheet) {
+    std::array<Image, materials.size()> tags;
+    int left = 0;
+    for (Image& tag : tags) {
+        tag = Cut(sheet, left, 0, tagSide, tagSide);
+        left += tagSide;
+    }
+    return tags;
+}
+
+template <std::size_t count>
+Image At(const std::array<Image, count>& pictures, int index) {
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < count ? pictures[place] : Image();
+}
+
 }  // namespace
 
 Image ToolIconStrip(int index) {
-    static const std::array strips = CutStrips(DecodeBmp(stock_bytes::ToolIcons()).value());
-    const auto place = static_cast<std::size_t>(index);
-    return index >= 0 && place < strips.size() ? strips[place] : Image();
+    static const std::array strips = CutIcons(DecodeBmp(stock_bytes::ToolIcons()).value());
+    return At(strips, index);
 }
 
 Image StartPicture() {
     static const Image picture = DecodeBmp(stock_bytes::StartPicture()).value();
     return picture;
+}
+
+Image AllDesignsPicture() {
+    static const Image picture = DecodeBmp(stock_bytes::PrintAllDesigns()).value();
+    return picture;
+}
+
+Image AllClipartsPicture() {
+    static const Image picture = DecodeBmp(stock_bytes::PrintAllCliparts()).value();
+    return picture;
+}
+
+Image HoleRings() {
+    static const Image picture = DecodeBmp(stock_bytes::HoleRings()).value();
+    return picture;
+}
+
+Image BlankTag(int index) {
+    static const std::array tags = CutTags(DecodeBmp(stock_bytes::BlankTags()).value());
+    return At(tags, index);
 }
 
 }  // namespace coinlet

@@ -12,4 +12,17 @@ Image ToolIconStrip(int index);
 /// What the preview of the image browser shows until the user picks a picture: 175 by 175 pixels.
 Image StartPicture();
 
+/// What the preview of the print dialog shows for the jobs that print more than the canvas: a sheet with
+/// designs, and one with cliparts. 140 by 140 pixels.
+Image AllDesignsPicture();
+Image AllClipartsPicture();
+
+/// The ring of a hole in the four metals, side by side in the order of `materials`: 400 by 100 pixels. Around
+/// the rings and in their holes it is pure white, so that AND leaves a design there as it is.
+Image HoleRings();
+
+/// A blank tag of one metal, by its place in `materials`: 100 by 100 pixels, on white. The empty picture for
+/// an index outside 0 to 3.
+Image BlankTag(int index);
+
 }  // namespace coinlet

@@ -9,6 +9,7 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QRawFont>
 #include <QTransform>
 
 #include <algorithm>
@@ -50,10 +51,24 @@ QFont ToQFont(const FontSpec& spec, Edges edges) {
     return font;
 }
 
-/// Fonts of pictograms without an alphabet number their glyphs by single bytes.
+/// Fonts of pictograms may number their glyphs by single bytes, apart from all letters.
 bool IsSymbolFont(const QString& family) {
     const auto systems = QFontDatabase::writingSystems(family);
     return systems.contains(QFontDatabase::Symbol) && !systems.contains(QFontDatabase::Latin);
+}
+
+/// Such a font's glyphs for the letters of a text; a letter without one stays, since some have their pictures
+/// on the letters themselves.
+QString Glyphs(const QString& text, const QFont& font) {
+    constexpr char16_t firstGlyph = 0xF000;  // where the glyph of byte 0 would be
+    const QRawFont glyphs = QRawFont::fromFont(font);
+    QString result;
+    for (const QChar letter : text) {
+        const auto byte = static_cast<unsigned char>(ToCodePage(QString(letter).toStdString()).front());
+        const QChar glyph(static_cast<char16_t>(firstGlyph + byte));
+        result += glyphs.supportsCharacter(glyph) ? glyph : letter;
+    }
+    return result;
 }
 
 QString Printable(const FontSpec& spec, std::string_view text) {
@@ -64,12 +79,7 @@ QString Printable(const FontSpec& spec, std::string_view text) {
     };
     printable.removeIf(isControl);
     if (!IsSymbolFont(QString::fromStdString(spec.name))) return printable;
-
-    constexpr char16_t firstGlyph = 0xF000;  // where such fonts keep the glyph of byte 0
-    QString glyphs;
-    for (const char letter : ToCodePage(printable.toStdString()))
-        glyphs += QChar(static_cast<char16_t>(firstGlyph + static_cast<unsigned char>(letter)));
-    return glyphs;
+    return Glyphs(printable, ToQFont(spec, Edges::Crisp));
 }
 
 /// Where the ink of a text may fall, from the top left corner of its cell.

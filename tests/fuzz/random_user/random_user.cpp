@@ -31,14 +31,14 @@ std::string WriteFileLine(const std::string& path, const Bytes& bytes) {
     return line + '"';
 }
 
-/// Pictures for the image browser, a damaged one among them.
+/// Pictures for the image browser in place of the stock pictures: small ones, and a damaged one.
 std::vector<std::string> FirstLines() {
     constexpr std::size_t pixelBytes = 4464;  // 48 by 31 pixels of 3
     Bytes pixels(pixelBytes);
     std::iota(pixels.begin(), pixels.end(), std::uint8_t{0});
     const Bytes bitmap = BmpBytes{.width = 48, .height = 31, .bits = 24, .pixels = pixels}.File();
     const std::vector<std::uint8_t> indices{0, 1, 2, 3, 3, 2, 1, 0, 1};
-    return {WriteFileLine("Images/bitmap.bmp", bitmap),
+    return {"delete-folder Images", WriteFileLine("Images/bitmap.bmp", bitmap),
             WriteFileLine("Images/cut.bmp", Bytes(bitmap.begin(), bitmap.begin() + 99)),
             WriteFileLine("Images/small.gif",
                           GifBytes{.width = 3, .height = 3, .frames = {{0, 0, 3, 3, indices}}}.File()),

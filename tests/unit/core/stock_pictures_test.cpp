@@ -1,6 +1,8 @@
 // The pictures that the program carries: there, of the right size, and usable by the buttons that show them.
 #include "core/stock_pictures.h"
 
+#include "core/materials.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -123,6 +125,80 @@ TEST(StartPicture, IsADrawingOnWhite) {
         }
     }
     EXPECT_TRUE(sun);
+}
+
+TEST(PrintPreviews, ShowTwoDifferentSheets) {
+    for (const Image& preview : {AllDesignsPicture(), AllClipartsPicture()}) {
+        ASSERT_EQ(preview.Width(), 140);
+        ASSERT_EQ(preview.Height(), 140);
+        EXPECT_GT(Green(preview.At(60, 9)), 245) << "the head of the sheet";
+        EXPECT_EQ(preview.At(2, 2), RGB(220, 220, 190)) << "the dialog's own colour around it";
+    }
+    EXPECT_FALSE(AllDesignsPicture() == AllClipartsPicture());
+}
+
+bool IsDark(Colour c) {
+    return Red(c) < 110 && Green(c) < 110 && Blue(c) < 110;
+}
+
+/// Metal is never so light that it could be taken for the white around it.
+bool IsMetal(Colour c) {
+    return Red(c) < 235 || Green(c) < 235 || Blue(c) < 235;
+}
+
+class Metals : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(All, Metals, testing::Range(0, 4));
+
+TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
+    const Image rings = HoleRings();
+    ASSERT_EQ(rings.Width(), 400);
+    ASSERT_EQ(rings.Height(), 100);
+    const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 100; ++x) {
+            const int square = (x - 50) * (x - 50) + (y - 50) * (y - 50);
+            const Colour colour = rings.At(left + x, y);
+            if (square < 26 * 26 || square > 45 * 45) {
+                EXPECT_EQ(colour, white) << x << ", " << y;
+            } else if (square > 30 * 30 && square < 42 * 42) {
+                EXPECT_TRUE(IsMetal(colour)) << x << ", " << y;
+            } else {
+                EXPECT_TRUE(colour == white || IsMetal(colour)) << x << ", " << y;
+            }
+        }
+    }
+    EXPECT_TRUE(IsDark(rings.At(left + 50 - 43, 50))) << "the outline that bounds it from the design";
+}
+
+TEST_P(Metals, HaveABlankTagOnWhite) {
+    const Image tag = BlankTag(GetParam());
+    ASSERT_EQ(tag.Width(), 100);
+    ASSERT_EQ(tag.Height(), 100);
+    for (const int x : {0, 99}) {
+        for (const int y : {0, 99})
+            EXPECT_EQ(tag.At(x, y), white);
+    }
+    for (int x = 10; x <= 90; ++x)
+        EXPECT_TRUE(IsMetal(tag.At(x, 50))) << x;
+}
+
+/// Red before green before blue in copper and gold, and gold is the greener; the others are grey.
+TEST(BlankTag, HasTheHueOfItsMetal) {
+    constexpr int nickel = 0, copper = 1, silver = 2, gold = 3;
+    const auto middle = [](int metal) { return BlankTag(metal).At(65, 50); };
+    for (const int warm : {copper, gold}) {
+        EXPECT_GT(Red(middle(warm)), Green(middle(warm)) + 30);
+        EXPECT_GT(Green(middle(warm)), Blue(middle(warm)) + 30);
+    }
+    EXPECT_GT(Green(middle(gold)), Green(middle(copper)) + 30);
+    for (const int grey : {nickel, silver})
+        EXPECT_LT(std::abs(Red(middle(grey)) - Blue(middle(grey))), 30);
+    EXPECT_GT(Red(middle(silver)), Red(middle(nickel)) + 50);
+}
+
+TEST(BlankTag, IsEmptyForNoMetal) {
+    for (const int none : {-1, 4, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+        EXPECT_TRUE(BlankTag(none).Empty()) << none;
 }
 
 }  // namespace

@@ -1,11 +1,5 @@
-#!/usr/bin/python3
-"""Renders the drawings in this folder into the pictures that the program carries.
-
-    assets/make_pictures.py
-
-Needs Pillow (python3-pil) and rsvg-convert (librsvg2-bin). Run it after any change of a drawing and commit what
-it writes: the build takes the pictures as they are and needs none of these tools. The same drawings give the
-same bytes.
+"""The pictures that the forms carry: icons of the buttons, the pointer, stock pictures. They go into the sources,
+not into the data: the program holds them in itself.
 """
 
 import io
@@ -14,8 +8,11 @@ import subprocess
 
 from PIL import Image
 
-ASSETS = pathlib.Path(__file__).resolve().parent
-SOURCE = ASSETS.parent / "src"
+from kit import metals
+from kit.relief import Relief
+
+HERE = pathlib.Path(__file__).resolve().parent
+SOURCE = HERE.parent.parent / "src"
 CORE_STOCK = SOURCE / "core" / "stock"
 SHELL_STOCK = SOURCE / "shell" / "stock"
 
@@ -26,6 +23,13 @@ TOOLS = [
 ]
 ICON_SIDE = 14
 START_PICTURE_SIDE = 175
+PRINT_PREVIEW_SIDE = 140
+METAL_SIDE = 100
+
+# The hole tool clears a disc of this radius, pen included, before it stamps the ring, whose dark outline just
+# covers the edge of the disc. (A radius of a whole pixel would leave a lone pixel at each of four sides.)
+HOLE_RADIUS = 43.7
+BLANK_RADIUS = 46.7
 
 # What a button leaves out of its picture, and from which coverage on (of 255) a pixel is ink: fainter ones
 # would stand as a speckle around the drawing.
@@ -41,7 +45,7 @@ BODY_PRESSED = (165, 211, 236)
 
 def render(drawing, side):
     """A drawing of the given side in pixels, with its coverage (RGBA)."""
-    command = ["rsvg-convert", "--width", str(side), "--height", str(side), str(ASSETS / drawing)]
+    command = ["rsvg-convert", "--width", str(side), "--height", str(side), str(HERE / drawing)]
     png = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
     picture = Image.open(io.BytesIO(png)).convert("RGBA")
     if picture.size != (side, side):
@@ -95,11 +99,33 @@ def on_white(picture):
     return Image.alpha_composite(paper, picture).convert("RGB")
 
 
-def main():
+def hole_rings():
+    """A grommet of each metal; white around it and in its hole."""
+    relief = Relief(METAL_SIDE, METAL_SIDE // 2)
+    relief.flat_ring(28, HOLE_RADIUS, height=2.5, bevel=3)
+    relief.half_round(28, 39, height=5, base=1)
+    return metals.strip(relief)
+
+
+def blank_tags():
+    """A polished tag of each metal with nothing on it yet."""
+    relief = Relief(METAL_SIDE, METAL_SIDE // 2)
+    # A shallow dish mirrors more of the room than a flat face.
+    relief.lay(relief.radius <= 40, (2.5 * (relief.radius / 38) ** 3).astype("float32"))
+    relief.flat_ring(34, BLANK_RADIUS, height=3.5, bevel=3, base=1)
+    relief.half_round(38, BLANK_RADIUS, height=3.5, base=2.5)
+    return metals.strip(relief)
+
+
+def make(_data):
     CORE_STOCK.mkdir(parents=True, exist_ok=True)
     SHELL_STOCK.mkdir(parents=True, exist_ok=True)
     tool_icons().save(CORE_STOCK / "tool_icons.bmp")
     on_white(render("start_picture.svg", START_PICTURE_SIDE)).save(CORE_STOCK / "start_picture.bmp")
+    for job in ("print_all_designs", "print_all_cliparts"):
+        on_white(render(f"{job}.svg", PRINT_PREVIEW_SIDE)).save(CORE_STOCK / f"{job}.bmp")
+    hole_rings().save(CORE_STOCK / "hole_rings.bmp")
+    blank_tags().save(CORE_STOCK / "blank_tags.bmp")
     # The smallest icon is a drawing of its own: fewer parts, each on whole pixels.
     render("window_icon_16.svg", 16).save(SHELL_STOCK / "window_icon_16.png")
     for side in (32, 48, 64):
@@ -108,5 +134,14 @@ def main():
     render("tool_pointer.svg", 64).save(SHELL_STOCK / "tool_pointer@2x.png")
 
 
-if __name__ == "__main__":
-    main()
+def sheets(_data, folder):
+    """All of them on one page, on the grey of a button."""
+    page = Image.new("RGB", (640, 640), BODY_NORMAL)
+    x = y = row_height = 10
+    for file in sorted([*CORE_STOCK.iterdir(), *SHELL_STOCK.iterdir()], key=lambda path: path.name):
+        picture = Image.open(file).convert("RGBA")
+        if x + picture.width > page.width:
+            x, y, row_height = 10, y + row_height + 10, 0
+        page.paste(picture, (x, y), picture)
+        x, row_height = x + picture.width + 10, max(row_height, picture.height)
+    page.save(folder / "forms.png")
