@@ -4,40 +4,139 @@
 #include "filters/channels.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <vector>
 
 namespace coinlet {
 
-void FilterDefuse(FilterRun& run, std::int32_t reach) {
-    const int half = RoundHalfEven(reach / 2.0);
-    const auto thrown = [&run, reach, half] { return RoundWhole(run.random.Next() * reach - half); };
-    /// Where a throw leads; one that leads out of the picture counts as 0.
-    const auto moved = [](int from, int offset, int size) {
-        const std::int64_t to = std::int64_t{from} + offset;
-        return to < 0 || to >= size ? from : static_cast<int>(to);
-    };
-    for (int y = 0; y < run.Height(); ++y) {
-        std::uint8_t* to = run.work.Row(y);
-        for (int x = 0; x < run.Width(); ++x) {
-            const int column = moved(x, thrown(), run.Width());
-            const int row = moved(y, thrown(), run.Height());
-            std::copy_n(run.work.Row(row) + column * pixelBytes, colourChannels, to + x * pixelBytes);
-        }
-        run.RowDone(y);
+namespace {
+
+/// Of what is thrown in bulk: beyond it, numbers no longer fit the 16-bit lanes that they are added up in.
+constexpr std::int32_t greatestRange = 32'000;
+
+/// Throws `count` random numbers as dice from 0 to `range`: each the number times the range, to the nearest
+/// whole number. Tells false if one of them comes too close to the middle between two whole numbers; then the
+/// caller has to work the row out by its rule. The generator itself stays where it is.
+///
+/// Only the upper 32 bits h of each number are looked at. The number in full lies from h to h + 1 units of
+/// 2^-32, so that its product with the range lies from h range to (h + 1) range units; and what a rule in
+/// floating-point numbers adds in errors is far less than one unit more. A product from which that interval
+/// reaches no middle rounds the same way.
+bool Throw(const RandomGenerator& random, std::int32_t range, int count, std::int16_t* dice) {
+    constexpr std::uint64_t half = std::uint64_t{1} << 31;
+    const auto units = static_cast<std::uint32_t>(range);
+    std::uint64_t counter = random.Counter();
+    std::uint32_t closest = 0xFFFFFFFFu;
+    for (int i = 0; i < count; ++i) {
+        counter += RandomGenerator::step;
+        const auto upper = static_cast<std::uint32_t>(RandomGenerator::Mixed(counter) >> 32);
+        const std::uint64_t product = std::uint64_t{upper} * units + half;
+        dice[i] = static_cast<std::int16_t>(product >> 32);
+        // Just above a middle the lower half of the product is 0, just below it almost 2^32. Moved on by the
+        // range and a unit, both sides of it become the lowest numbers.
+        closest = std::min(closest, static_cast<std::uint32_t>(product) + units + 1);
     }
+    return closest >= units + 2;
+}
+
+/// Where a throw leads; one that leads out of the picture counts as 0.
+std::int64_t Moved(int from, int offset, int size) {
+    const std::int64_t to = std::int64_t{from} + offset;
+    return to < 0 || to >= size ? from : to;
+}
+
+/// Fills in, for each pixel of row y, where in the picture its new colour lies, in bytes.
+class Scatter {
+public:
+    Scatter(FilterRun& run, std::int32_t reach)
+        : run_(run),
+          reach_(reach),
+          half_(RoundHalfEven(reach / 2.0)),
+          dice_(2 * static_cast<std::size_t>(run.Width())) {}
+
+    void Aim(int y, std::ptrdiff_t* places) {
+        const int width = run_.Width(), height = run_.Height(), half = half_;
+        std::int16_t* dice = dice_.data();
+        if (reach_ >= 0 && reach_ <= greatestRange && Throw(run_.random, reach_, 2 * width, dice)) {
+            run_.random.Skip(2 * static_cast<std::uint64_t>(width));
+            for (int x = 0; x < width; ++x) {
+                // By ints: neither a row nor a throw comes near their end.
+                const int column = x + dice[2 * x] - half, row = y + dice[2 * x + 1] - half;
+                const int goodColumn = column < 0 || column >= width ? x : column;
+                const int goodRow = row < 0 || row >= height ? y : row;
+                places[x] = (std::ptrdiff_t{goodRow} * width + goodColumn) * pixelBytes;
+            }
+        } else {
+            for (int x = 0; x < width; ++x) {
+                const std::int64_t column = Moved(x, ByRule(), width);
+                const std::int64_t row = Moved(y, ByRule(), height);
+                places[x] = static_cast<std::ptrdiff_t>((row * width + column) * pixelBytes);
+            }
+        }
+    }
+
+private:
+    int ByRule() { return RoundWhole(run_.random.Next() * reach_ - half_); }
+
+    FilterRun& run_;
+    std::int32_t reach_;
+    int half_;
+    std::vector<std::int16_t> dice_;
+};
+
+}  // namespace
+
+void FilterDefuse(FilterRun& run, std::int32_t reach) {
+    WithVectorUnits(run.units, [=, &run] {
+        const int width = run.Width();
+        Scatter scatter(run, reach);
+        std::vector<std::ptrdiff_t> places(static_cast<std::size_t>(width));
+        std::uint8_t* picture = run.work.Bytes().data();
+        for (int y = 0; y < run.Height(); ++y) {
+            scatter.Aim(y, places.data());
+            const std::ptrdiff_t* from = places.data();
+            std::uint8_t* to = run.work.Row(y);
+            for (int x = 0; x < width; ++x)
+                std::memmove(to + x * pixelBytes, picture + from[x], pixelBytes);
+            run.RowDone(y);
+        }
+    });
 }
 
 void FilterAddNoise(FilterRun& run, std::int32_t strength) {
-    const double range = 2.0 * strength + 1;
-    const int end = run.Width() * pixelBytes;
-    for (int y = 0; y < run.Height(); ++y) {
-        const std::uint8_t* from = run.source.Row(y);
-        std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < end; i += pixelBytes) {
-            for (int j = i; j < i + colourChannels; ++j)
-                to[j] = RoundToByte(run.random.Next() * range - strength + from[j]);
+    WithVectorUnits(run.units, [=, &run] {
+        const double range = 2.0 * strength + 1;
+        const int width = run.Width(), end = width * pixelBytes;
+        const int throws = width * colourChannels;
+        const bool inBulk = strength >= 0 && strength < greatestRange / 2;
+        // The dice lie without gaps; then a pixel's three come to where its channels lie. The fourth that
+        // comes with them is the next pixel's first, and the spare byte's.
+        std::vector<std::int16_t> dice(static_cast<std::size_t>(throws) + 1);
+        std::vector<std::int16_t> added(static_cast<std::size_t>(end));
+        for (int y = 0; y < run.Height(); ++y) {
+            const std::uint8_t* from = run.source.Row(y);
+            std::uint8_t* to = run.work.Row(y);
+            if (inBulk && Throw(run.random, 2 * strength + 1, throws, dice.data())) {
+                run.random.Skip(static_cast<std::uint64_t>(throws));
+                std::int16_t* noise = added.data();
+                for (int x = 0; x < width; ++x)
+                    std::memcpy(noise + x * pixelBytes, dice.data() + x * colourChannels,
+                                pixelBytes * sizeof *noise);
+                const auto lowest = static_cast<std::int16_t>(strength);
+                for (int i = 0; i < end; ++i) {
+                    const auto value = static_cast<std::int16_t>(from[i] + noise[i] - lowest);
+                    to[i] = ClampToByte(value);
+                }
+            } else {
+                for (int i = 0; i < end; i += pixelBytes) {
+                    for (int j = i; j < i + colourChannels; ++j)
+                        to[j] = RoundToByte(run.random.Next() * range - strength + from[j]);
+                }
+            }
+            run.RowDone(y);
         }
-        run.RowDone(y);
-    }
+    });
 }
 
 }  // namespace coinlet
