@@ -109,35 +109,28 @@ void SpreadExcess(WideColour& colour) {
     }
 }
 
-/// A row of colours, each channel by itself, that may lie out of range, but not far.
-class WideRow {
-public:
-    explicit WideRow(int width)
-        : blues_(static_cast<std::size_t>(width)), greens_(blues_.size()), reds_(blues_.size()) {}
-
-    /// Moves each channel away from the mean.
-    void Take(const std::uint8_t* from, std::int16_t mean, NearestProduct product);
-    /// A round of SpreadExcess, which leaves a colour in range as it is; false if all are in range by now.
-    bool SpreadOnce();
-    void Put(std::uint8_t* to) const;
-
-private:
-    std::vector<std::int16_t> blues_, greens_, reds_;
+/// Some pixels in a row, each channel by itself, that may lie out of range, but not far. So few, since one
+/// that needs many rounds takes its neighbours along.
+constexpr int pieceWidth = 64;
+struct Piece {
+    std::array<std::int16_t, pieceWidth> blues, greens, reds;
 };
 
-void WideRow::Take(const std::uint8_t* from, std::int16_t mean, NearestProduct product) {
-    std::int16_t *blues = blues_.data(), *greens = greens_.data(), *reds = reds_.data();
-    const int width = static_cast<int>(blues_.size());
+/// Each channel moved away from the mean.
+Piece Moved(const std::uint8_t* from, std::int16_t mean, NearestProduct product) {
+    Piece piece;
     const auto moved = [=](std::uint32_t channel) {
         const auto difference = static_cast<std::int16_t>(static_cast<std::int16_t>(channel) - mean);
         return static_cast<std::int16_t>(product(difference) + mean);
     };
-    for (int x = 0; x < width; ++x) {
+    for (int x = 0; x < pieceWidth; ++x) {
         const std::uint32_t word = PixelAt(from, x);
-        blues[x] = moved(word & 0xFF);
-        greens[x] = moved(word >> 8 & 0xFF);
-        reds[x] = moved(word >> 16 & 0xFF);
+        const auto i = static_cast<std::size_t>(x);
+        piece.blues[i] = moved(word & 0xFF);
+        piece.greens[i] = moved(word >> 8 & 0xFF);
+        piece.reds[i] = moved(word >> 16 & 0xFF);
     }
+    return piece;
 }
 
 /// Brings one channel into range and gives half of what it loses to each of the two others.
@@ -150,13 +143,12 @@ void Deal(std::int16_t& channel, std::int16_t& second, std::int16_t& third) {
     channel = kept;
 }
 
-bool WideRow::SpreadOnce() {
-    std::int16_t *blues = blues_.data(), *greens = greens_.data(), *reds = reds_.data();
-    const int width = static_cast<int>(blues_.size());
-    std::int16_t outside = 0;  // Bits that no number from 0 to 255 has.
-    for (int x = 0; x < width; ++x) {
-        std::int16_t blue = blues[x], green = greens[x], red = reds[x];
-        outside = static_cast<std::int16_t>(outside | blue | green | red);
+/// A round of SpreadExcess for all, which leaves a colour in range as it is. Tells whether all are in range
+/// now.
+bool SpreadOnce(Piece& piece) {
+    std::int16_t bits = 0;
+    for (std::size_t i = 0; i < pieceWidth; ++i) {
+        std::int16_t blue = piece.blues[i], green = piece.greens[i], red = piece.reds[i];
         const bool noneAbove = std::max({blue, green, red}) <= 0,
                    noneBelow = std::min({blue, green, red}) >= 255;
         Deal(blue, green, red);
@@ -165,29 +157,37 @@ bool WideRow::SpreadOnce() {
         const auto settled = [=](std::int16_t dealt) {
             return static_cast<std::int16_t>(noneAbove ? 0 : noneBelow ? 255 : dealt);
         };
-        blues[x] = settled(blue);
-        greens[x] = settled(green);
-        reds[x] = settled(red);
+        piece.blues[i] = settled(blue);
+        piece.greens[i] = settled(green);
+        piece.reds[i] = settled(red);
+        bits = static_cast<std::int16_t>(bits | piece.blues[i] | piece.greens[i] | piece.reds[i]);
     }
-    return (outside & ~0xFF) != 0;
+    return (bits & ~0xFF) == 0;  // No number from 0 to 255 has others, each one outside has.
 }
 
-void WideRow::Put(std::uint8_t* to) const {
-    const std::int16_t *blues = blues_.data(), *greens = greens_.data(), *reds = reds_.data();
-    const int width = static_cast<int>(blues_.size());
+void Put(const Piece& piece, std::uint8_t* to) {
     const auto channel = [](std::int16_t value) { return static_cast<std::uint32_t>(value); };
-    for (int x = 0; x < width; ++x)
-        PutPixel(to, x, channel(blues[x]) | channel(greens[x]) << 8 | channel(reds[x]) << 16);
+    for (int x = 0; x < pieceWidth; ++x) {
+        const auto i = static_cast<std::size_t>(x);
+        PutPixel(to, x,
+                 channel(piece.blues[i]) | channel(piece.greens[i]) << 8 | channel(piece.reds[i]) << 16);
+    }
 }
 
 void ContrastByProducts(FilterRun& run, int mean, NearestProduct product) {
     WithVectorUnits(run.units, [=, &run] {
-        WideRow row(run.Width());
+        const std::size_t rowBytes = static_cast<std::size_t>(run.Width()) * pixelBytes;
+        constexpr std::size_t pieceBytes = pieceWidth * pixelBytes;
+        std::vector<std::uint8_t> row((rowBytes + pieceBytes - 1) / pieceBytes * pieceBytes);  // whole pieces
         for (int y = 0; y < run.Height(); ++y) {
-            row.Take(run.source.Row(y), static_cast<std::int16_t>(mean), product);
-            while (row.SpreadOnce()) {
+            std::copy_n(run.source.Row(y), rowBytes, row.data());
+            for (std::size_t i = 0; i < row.size(); i += pieceBytes) {
+                Piece piece = Moved(row.data() + i, static_cast<std::int16_t>(mean), product);
+                while (!SpreadOnce(piece)) {
+                }
+                Put(piece, row.data() + i);
             }
-            row.Put(run.work.Row(y));
+            std::copy_n(row.data(), rowBytes, run.work.Row(y));
             run.RowDone(y, meanTaken);
         }
     });

@@ -21,7 +21,7 @@ public:
 
 /// Runs a filter of the product on a picture, without a surface.
 inline Picture Filtered(int number, std::int32_t parameter, const Picture& picture, RandomGenerator& random,
-                        NotedPace& pace) {
+                        NotedPace& pace, VectorUnits units = WidestVectorUnits()) {
     PixelArray work(picture.W, picture.H), source(picture.W, picture.H);
     for (PixelArray* array : {&work, &source}) {
         for (int y = 0; y < picture.H; ++y)
@@ -30,7 +30,7 @@ inline Picture Filtered(int number, std::int32_t parameter, const Picture& pictu
                     array->Row(y)[4 * x + c] =
                         static_cast<std::uint8_t>(c == 3 ? 255 : picture(c + 1, x + 1, y + 1));
     }
-    FilterRun run(work, source, random, pace);
+    FilterRun run(work, source, random, pace, units);
     if (const NumberedFilter* filter = FindFilter(number)) filter->apply(run, parameter);
     Picture result(picture.W, picture.H);
     for (int y = 0; y < picture.H; ++y)
