@@ -87,12 +87,9 @@ void WalkExtremes(FilterRun& run, Extreme extreme, Value value) {
     });
 }
 
-std::uint8_t Lower(std::uint8_t a, std::uint8_t b) {
-    return std::min(a, b);
-}
-std::uint8_t Higher(std::uint8_t a, std::uint8_t b) {
-    return std::max(a, b);
-}
+// Not functions: each makes a walk of its own, into which it is pulled.
+constexpr auto lower = [](std::uint8_t a, std::uint8_t b) { return std::min(a, b); };
+constexpr auto higher = [](std::uint8_t a, std::uint8_t b) { return std::max(a, b); };
 
 /// Mean and spread of the 3 by 3 blocks around each byte of a row. The spread is the sum of the distances
 /// from the mean, at most 9 * 255.
@@ -159,15 +156,15 @@ void FilterPixelize(FilterRun& run, std::int32_t side) {
 }
 
 void FilterErode(FilterRun& run) {
-    WalkExtremes(run, Lower, [](std::uint8_t, std::uint8_t lowest) { return lowest; });
+    WalkExtremes(run, lower, [](std::uint8_t, std::uint8_t lowest) { return lowest; });
 }
 
 void FilterDilate(FilterRun& run) {
-    WalkExtremes(run, Higher, [](std::uint8_t, std::uint8_t highest) { return highest; });
+    WalkExtremes(run, higher, [](std::uint8_t, std::uint8_t highest) { return highest; });
 }
 
 void FilterConnection(FilterRun& run) {
-    WalkExtremes(run, Lower, [](std::uint8_t own, std::uint8_t lowest) {
+    WalkExtremes(run, lower, [](std::uint8_t own, std::uint8_t lowest) {
         return static_cast<std::uint8_t>(own - lowest);
     });
 }

@@ -239,7 +239,15 @@ void SaturateByProducts(FilterRun& run, NearestProduct product) {
 }  // namespace
 
 void FilterNegative(FilterRun& run) {
-    WalkWords(run, [](std::uint32_t word) { return ~word; });
+    WithVectorUnits(run.units, [&run] {
+        const int width = run.Width();
+        for (int y = 0; y < run.Height(); ++y) {
+            std::uint8_t* row = run.work.Row(y);
+            for (int x = 0; x < width; ++x)
+                PutPixel(row, x, ~PixelAt(row, x));
+            run.RowDone(y);
+        }
+    });
 }
 
 void FilterGrayscale(FilterRun& run) {

@@ -41,9 +41,10 @@ void WalkSource(FilterRun& run, Colour ground, Value value) {
     });
 }
 
-/// As WalkSource, but each channel looks at its lower right alone. What it looks at isn't written yet, so the
-/// untouched picture serves.
-void DifferDiagonally(FilterRun& run, Colour ground, int sign) {
+/// As WalkSource, but each channel looks at its lower right alone: difference(own, its). What it looks at
+/// isn't written yet, so the untouched picture serves.
+template <class Difference>
+void DifferDiagonally(FilterRun& run, Colour ground, Difference difference) {
     WithVectorUnits(run.units, [=, &run] {
         const int end = (run.Width() - 1) * pixelBytes;
         const auto groundRow = RowOf(ground, run.Width());
@@ -51,8 +52,11 @@ void DifferDiagonally(FilterRun& run, Colour ground, int sign) {
         for (int y = 0; y < run.Height() - 1; ++y) {
             const std::uint8_t *here = run.source.Row(y), *below = run.source.Row(y + 1);
             std::uint8_t* to = run.work.Row(y);
-            for (int i = 0; i < end; ++i)
-                to[i] = ClampToByte(std::abs(sign * (here[i] - below[i + pixelBytes]) + added[i]));
+            for (int i = 0; i < end; ++i) {
+                const auto value =
+                    static_cast<std::int16_t>(difference(here[i], below[i + pixelBytes]) + added[i]);
+                to[i] = ClampToByte(std::abs(value));
+            }
             run.RowDone(y);
         }
     });
@@ -74,11 +78,11 @@ void FilterRelief(FilterRun& run) {
 }
 
 void FilterDiagonalBack(FilterRun& run, Colour ground) {
-    DifferDiagonally(run, ground, 1);
+    DifferDiagonally(run, ground, [](int own, int other) { return own - other; });
 }
 
 void FilterDiagonalForward(FilterRun& run, Colour ground) {
-    DifferDiagonally(run, ground, -1);
+    DifferDiagonally(run, ground, [](int own, int other) { return other - own; });
 }
 
 void FilterGradientBack(FilterRun& run, Colour ground) {

@@ -25,6 +25,11 @@ VectorUnits WidestVectorUnits();
 #if defined(__x86_64__) && defined(__GNUC__)
 
 template <class Work>
+[[gnu::flatten]] void WithCommonUnits(Work work) {
+    work();
+}
+
+template <class Work>
 [[gnu::target("avx2,bmi,bmi2"), gnu::flatten]] void WithAvx2(Work work) {
     work();
 }
@@ -35,6 +40,11 @@ template <class Work>
 }
 
 #else
+
+template <class Work>
+void WithCommonUnits(Work work) {
+    work();
+}
 
 template <class Work>
 void WithAvx2(Work work) {
@@ -54,7 +64,7 @@ template <class Work>
 void WithVectorUnits(VectorUnits units, Work work) {
     switch (units) {
         case VectorUnits::Common:
-            return work();
+            return WithCommonUnits(work);
         case VectorUnits::Avx2:
             return WithAvx2(work);
         case VectorUnits::Avx512:
