@@ -15,27 +15,35 @@ namespace {
 /// Of what is thrown in bulk: beyond it, numbers no longer fit the 16-bit lanes that they are added up in.
 constexpr std::int32_t greatestRange = 32'000;
 
-/// Throws `count` random numbers as dice from 0 to `range`: each the number times the range, to the nearest
-/// whole number. Tells false if one of them comes too close to the middle between two whole numbers; then the
-/// caller has to work the row out by its rule. The generator itself stays where it is.
+/// Throws as many random numbers as there is room for in `uppers` as dice from 0 to `range`: each the number
+/// times the range, to the nearest whole number. Tells false if one of them comes too close to the middle
+/// between two whole numbers; then the caller has to work the row out by its rule. The generator itself stays
+/// where it is.
 ///
 /// Only the upper 32 bits h of each number are looked at. The number in full lies from h to h + 1 units of
 /// 2^-32, so that its product with the range lies from h range to (h + 1) range units; and what a rule in
 /// floating-point numbers adds in errors is far less than one unit more. A product from which that interval
 /// reaches no middle rounds the same way.
-bool Throw(const RandomGenerator& random, std::int32_t range, int count, std::int16_t* dice) {
-    constexpr std::uint64_t half = std::uint64_t{1} << 31;
-    const auto units = static_cast<std::uint32_t>(range);
+bool Throw(const RandomGenerator& random, std::int32_t range, std::vector<std::uint32_t>& uppers,
+           std::int16_t* dice) {
+    const std::size_t count = uppers.size();
+    std::uint32_t* upper = uppers.data();
     std::uint64_t counter = random.Counter();
-    std::uint32_t closest = 0xFFFFFFFFu;
-    for (int i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         counter += RandomGenerator::step;
-        const auto upper = static_cast<std::uint32_t>(RandomGenerator::Mixed(counter) >> 32);
-        const std::uint64_t product = std::uint64_t{upper} * units + half;
-        dice[i] = static_cast<std::int16_t>(product >> 32);
-        // Just above a middle the lower half of the product is 0, just below it almost 2^32. Moved on by the
-        // range and a unit, both sides of it become the lowest numbers.
-        closest = std::min(closest, static_cast<std::uint32_t>(product) + units + 1);
+        upper[i] = static_cast<std::uint32_t>(RandomGenerator::Mixed(counter) >> 32);
+    }
+    const auto units = static_cast<std::uint32_t>(range);
+    std::uint32_t closest = 0xFFFFFFFFu;
+    for (std::size_t i = 0; i < count; ++i) {
+        // The product by its upper 32 and lower 16 bits, half a whole one added: lanes of 64 bits would be
+        // half as many.
+        const std::uint32_t low = (upper[i] & 0xFFFFu) * units;
+        const std::uint32_t high = (upper[i] >> 16) * units + (low >> 16) + 0x8000u;
+        dice[i] = static_cast<std::int16_t>(high >> 16);
+        // Just above a middle the lower 32 bits are 0, just below it almost 2^32. Moved on by the range and a
+        // unit, both sides of it become the lowest numbers.
+        closest = std::min(closest, (high << 16 | (low & 0xFFFFu)) + units + 1);
     }
     return closest >= units + 2;
 }
@@ -53,12 +61,13 @@ public:
         : run_(run),
           reach_(reach),
           half_(RoundHalfEven(reach / 2.0)),
-          dice_(2 * static_cast<std::size_t>(run.Width())) {}
+          uppers_(2 * static_cast<std::size_t>(run.Width())),
+          dice_(uppers_.size()) {}
 
     void Aim(int y, std::ptrdiff_t* places) {
         const int width = run_.Width(), height = run_.Height(), half = half_;
         std::int16_t* dice = dice_.data();
-        if (reach_ >= 0 && reach_ <= greatestRange && Throw(run_.random, reach_, 2 * width, dice)) {
+        if (reach_ >= 0 && reach_ <= greatestRange && Throw(run_.random, reach_, uppers_, dice)) {
             run_.random.Skip(2 * static_cast<std::uint64_t>(width));
             for (int x = 0; x < width; ++x) {
                 // By ints: neither a row nor a throw comes near their end.
@@ -82,6 +91,7 @@ private:
     FilterRun& run_;
     std::int32_t reach_;
     int half_;
+    std::vector<std::uint32_t> uppers_;
     std::vector<std::int16_t> dice_;
 };
 
@@ -112,12 +122,13 @@ void FilterAddNoise(FilterRun& run, std::int32_t strength) {
         const bool inBulk = strength >= 0 && strength < greatestRange / 2;
         // The dice lie without gaps; then a pixel's three come to where its channels lie. The fourth that
         // comes with them is the next pixel's first, and the spare byte's.
-        std::vector<std::int16_t> dice(static_cast<std::size_t>(throws) + 1);
+        std::vector<std::uint32_t> uppers(static_cast<std::size_t>(throws));
+        std::vector<std::int16_t> dice(uppers.size() + 1);
         std::vector<std::int16_t> added(static_cast<std::size_t>(end));
         for (int y = 0; y < run.Height(); ++y) {
             const std::uint8_t* from = run.source.Row(y);
             std::uint8_t* to = run.work.Row(y);
-            if (inBulk && Throw(run.random, 2 * strength + 1, throws, dice.data())) {
+            if (inBulk && Throw(run.random, 2 * strength + 1, uppers, dice.data())) {
                 run.random.Skip(static_cast<std::uint64_t>(throws));
                 std::int16_t* noise = added.data();
                 for (int x = 0; x < width; ++x)
