@@ -138,7 +138,7 @@ void Diffuse(FilterRun& run, int damping) {
         AddBelow<kernel, 0>(errors, reached[1].data(), width);
         if constexpr (rowsBelow > 1) AddBelow<kernel, 1>(errors, reached[2].data(), width);
         std::ranges::fill(reached.front(), std::int16_t{0});
-        std::ranges::rotate(reached, reached.begin() + 1);
+        std::rotate(reached.begin(), reached.begin() + 1, reached.end());
         run.RowDone(y, meanTaken);
     }
 }

@@ -131,9 +131,10 @@ void FilterAddNoise(FilterRun& run, std::int32_t strength) {
             if (inBulk && Throw(run.random, 2 * strength + 1, uppers, dice.data())) {
                 run.random.Skip(static_cast<std::uint64_t>(throws));
                 std::int16_t* noise = added.data();
-                for (int x = 0; x < width; ++x)
+                for (int x = 0; x < width; ++x) {
                     std::memcpy(noise + x * pixelBytes, dice.data() + x * colourChannels,
                                 pixelBytes * sizeof *noise);
+                }
                 const auto lowest = static_cast<std::int16_t>(strength);
                 for (int i = 0; i < end; ++i) {
                     const auto value = static_cast<std::int16_t>(from[i] + noise[i] - lowest);
