@@ -1,5 +1,8 @@
 #include "plain_filters.h"
 
+#include "plain_neighbourhood_filters.h"
+#include "plain_pixels.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,170 +13,22 @@ namespace coinlet::bench {
 
 namespace {
 
-int Channel(const PixelArray& picture, int channel, int x, int y) {
-    return picture.Row(y)[x * pixelBytes + channel];
-}
-
-void Set(PixelArray& picture, int channel, int x, int y, int value) {
-    picture.Row(y)[x * pixelBytes + channel] = static_cast<std::uint8_t>(value);
-}
-
-int Clamp(int value) {
-    return value < 0 ? 0 : value > 255 ? 255 : value;
-}
-
-int ClampRound(double value) {
-    return Clamp(static_cast<int>(std::nearbyint(value)));
-}
-
-int ColourChannel(std::int32_t colour, int channel) {
-    return colour >> (16 - 8 * channel) & 0xFF;
-}
-
 int GrayAt(const PixelArray& picture, int x, int y) {
     return (Channel(picture, 0, x, y) + Channel(picture, 1, x, y) + Channel(picture, 2, x, y)) / 3;
 }
 
 int MeanOf(const PixelArray& picture) {
     std::int64_t sum = 0;
-    for (int y = 0; y < picture.Height(); ++y)
+    for (int y = 0; y < picture.Height(); ++y) {
         for (int x = 0; x < picture.Width(); ++x)
             sum += GrayAt(picture, x, y);
+    }
     return static_cast<int>(sum / (std::int64_t{picture.Width()} * picture.Height()));
-}
-
-int Ring(const PixelArray& picture, int channel, int x, int y) {
-    int sum = -Channel(picture, channel, x, y);
-    for (int row = y - 1; row <= y + 1; ++row)
-        for (int column = x - 1; column <= x + 1; ++column)
-            sum += Channel(picture, channel, column, row);
-    return sum;
-}
-
-/// Gives each channel but those of a border value(channel, x, y).
-template <class Value>
-void Walk(PixelArray& work, int border, Value value) {
-    for (int y = border; y < work.Height() - border; ++y)
-        for (int x = border; x < work.Width() - border; ++x)
-            for (int channel = 0; channel < colourChannels; ++channel)
-                Set(work, channel, x, y, value(channel, x, y));
 }
 
 void PutGray(PixelArray& work, int x, int y, int value) {
     for (int channel = 0; channel < colourChannels; ++channel)
         Set(work, channel, x, y, value);
-}
-
-void Neighbourhood(FilterNumber number, std::int32_t parameter, PixelArray& work, const PixelArray& source) {
-    const auto slope = [&](int channel, int x, int y) {
-        int sum = 0;
-        for (int row = y - 1; row <= y + 1; ++row)
-            sum += Channel(source, channel, x - 1, row) - Channel(source, channel, x + 1, row);
-        return sum;
-    };
-    switch (number) {
-        case FilterNumber::Sharpen:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return Clamp((Channel(work, c, x, y) * (parameter + 24) - 2 * Ring(work, c, x, y)) /
-                             (parameter + 8));
-            });
-        case FilterNumber::Edge:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return Clamp((Channel(work, c, x, y) * (parameter + 9) - Ring(work, c, x, y)) /
-                             (parameter + 1));
-            });
-        case FilterNumber::Blur:
-            return Walk(work, 1, [&](int c, int x, int y) { return Ring(work, c, x, y) / 8; });
-        case FilterNumber::Smooth:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return (Channel(work, c, x - 1, y) + Channel(work, c, x, y) + Channel(work, c, x, y - 1) +
-                        Channel(work, c, x, y + 1) + Channel(work, c, x + 1, y)) /
-                       5;
-            });
-        case FilterNumber::Contour:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return Clamp(8 * Channel(source, c, x, y) - Ring(source, c, x, y) +
-                             ColourChannel(parameter, c));
-            });
-        case FilterNumber::Relief:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                const int light = 2 * Channel(source, c, x - 1, y - 1) + Channel(source, c, x - 1, y) +
-                                  Channel(source, c, x, y - 1) - Channel(source, c, x, y + 1) -
-                                  Channel(source, c, x + 1, y) - 2 * Channel(source, c, x + 1, y + 1);
-                return Clamp((Channel(source, c, x, y) + light) / 2 + 50);
-            });
-        case FilterNumber::GradientBack:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return Clamp(slope(c, x, y) + ColourChannel(parameter, c));
-            });
-        default:
-            return Walk(work, 1, [&](int c, int x, int y) {
-                return Clamp(ColourChannel(parameter, c) - slope(c, x, y));
-            });
-    }
-}
-
-void Diagonal(int sign, std::int32_t parameter, PixelArray& work) {
-    for (int y = 0; y < work.Height() - 1; ++y)
-        for (int x = 0; x < work.Width() - 1; ++x)
-            for (int c = 0; c < colourChannels; ++c) {
-                const int difference = Channel(work, c, x, y) - Channel(work, c, x + 1, y + 1);
-                Set(work, c, x, y, Clamp(std::abs(sign * difference + ColourChannel(parameter, c))));
-            }
-}
-
-void Extremes(FilterNumber number, PixelArray& work, const PixelArray& source) {
-    Walk(work, 1, [&](int c, int x, int y) {
-        int lowest = 255, highest = 0;
-        for (int row = y - 1; row <= y + 1; ++row)
-            for (int column = x - 1; column <= x + 1; ++column) {
-                lowest = std::min(lowest, Channel(source, c, column, row));
-                highest = std::max(highest, Channel(source, c, column, row));
-            }
-        if (number == FilterNumber::Erode) return lowest;
-        return number == FilterNumber::Dilate ? highest : Channel(source, c, x, y) - lowest;
-    });
-}
-
-void Aquarel(PixelArray& work, const PixelArray& source) {
-    Walk(work, 2, [&](int c, int x, int y) {
-        int least = 99'999, result = 0;
-        for (int block = 0; block < 4; ++block) {
-            const int left = block % 2 == 0 ? x - 2 : x, top = block < 2 ? y - 2 : y;
-            int sum = 0, spread = 0;
-            for (int row = top; row < top + 3; ++row)
-                for (int column = left; column < left + 3; ++column)
-                    sum += Channel(source, c, column, row);
-            const int mean = sum / 9;
-            for (int row = top; row < top + 3; ++row)
-                for (int column = left; column < left + 3; ++column)
-                    spread += std::abs(Channel(source, c, column, row) - mean);
-            if (spread < least) {
-                least = spread;
-                result = mean;
-            }
-        }
-        return result;
-    });
-}
-
-void Pixelize(int side, PixelArray& work, const PixelArray& source) {
-    std::array<int, colourChannels> means{};
-    for (int y = 0; y < work.Height(); ++y)
-        for (int x = 0; x < work.Width(); ++x) {
-            if (x % side == 0) {
-                std::array<int, colourChannels> sums{};
-                int count = 0;
-                for (int row = y / side * side; row < std::min((y / side + 1) * side, work.Height()); ++row)
-                    for (int column = x; column < std::min(x + side, work.Width()); ++column, ++count)
-                        for (int c = 0; c < colourChannels; ++c)
-                            sums[static_cast<std::size_t>(c)] += Channel(source, c, column, row);
-                for (std::size_t c = 0; c < means.size(); ++c)
-                    means[c] = sums[c] / count;
-            }
-            for (int c = 0; c < colourChannels; ++c)
-                Set(work, c, x, y, means[static_cast<std::size_t>(c)]);
-        }
 }
 
 template <class Value>
@@ -186,7 +41,7 @@ void MapByTable(PixelArray& work, const PixelArray& source, Value value) {
 }
 
 void SwapColors(PixelArray& work, const PixelArray& source) {
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             const int blue = Channel(source, 0, x, y), green = Channel(source, 1, x, y),
                       red = Channel(source, 2, x, y);
@@ -194,6 +49,7 @@ void SwapColors(PixelArray& work, const PixelArray& source) {
             Set(work, 1, x, y, red);
             Set(work, 2, x, y, blue);
         }
+    }
 }
 
 void Contrast(std::int32_t percent, PixelArray& work, const PixelArray& source) {
@@ -209,10 +65,12 @@ void Contrast(std::int32_t percent, PixelArray& work, const PixelArray& source) 
         third += lost / 2;
         one -= lost;
     };
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
-            int b = table[source.Row(y)[x * pixelBytes]], g = table[source.Row(y)[x * pixelBytes + 1]],
-                r = table[source.Row(y)[x * pixelBytes + 2]];
+            const auto moved = [&](int channel) {
+                return table[static_cast<std::size_t>(Channel(source, channel, x, y))];
+            };
+            int b = moved(0), g = moved(1), r = moved(2);
             while (outside(b) || outside(g) || outside(r)) {
                 if (b <= 0 && g <= 0 && r <= 0) {
                     b = g = r = 0;
@@ -228,11 +86,12 @@ void Contrast(std::int32_t percent, PixelArray& work, const PixelArray& source) 
             Set(work, 1, x, y, g);
             Set(work, 2, x, y, r);
         }
+    }
 }
 
 void Saturation(std::int32_t percent, PixelArray& work, const PixelArray& source) {
     const double factor = static_cast<float>(percent / 100.0);
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             const int gray = GrayAt(source, x, y);
             for (int c = 0; c < colourChannels; ++c) {
@@ -240,15 +99,17 @@ void Saturation(std::int32_t percent, PixelArray& work, const PixelArray& source
                 Set(work, c, x, y, ClampRound(v + factor * (v - gray)));
             }
         }
+    }
 }
 
 void Stretch(PixelArray& work, const PixelArray& source) {
     int lowest = 255, highest = 0;
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             lowest = std::min(lowest, Channel(source, 1, x, y));
             highest = std::max(highest, Channel(source, 1, x, y));
         }
+    }
     const double range = highest - lowest;
     Walk(work, 0,
          [&](int c, int x, int y) { return ClampRound((Channel(source, c, x, y) - lowest) * 255 / range); });
@@ -256,7 +117,7 @@ void Stretch(PixelArray& work, const PixelArray& source) {
 
 void Defuse(std::int32_t reach, PixelArray& work, RandomGenerator& random) {
     const double half = std::nearbyint(reach / 2.0);
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             int dx = static_cast<int>(std::nearbyint(random.Next() * reach - half));
             int dy = static_cast<int>(std::nearbyint(random.Next() * reach - half));
@@ -265,22 +126,24 @@ void Defuse(std::int32_t reach, PixelArray& work, RandomGenerator& random) {
             for (int c = 0; c < colourChannels; ++c)
                 Set(work, c, x, y, Channel(work, c, x + dx, y + dy));
         }
+    }
 }
 
 void Threshold(std::int32_t colour, PixelArray& work, const PixelArray& source) {
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             bool below = true;
             for (int c = 0; c < colourChannels; ++c)
                 below = below && Channel(source, c, x, y) < ColourChannel(colour, c);
             PutGray(work, x, y, below ? 0 : 255);
         }
+    }
 }
 
 void SharpDither(PixelArray& work, const PixelArray& source) {
     const int threshold = MeanOf(source), width = work.Width(), height = work.Height();
     int carry = 0;
-    for (int y = 0; y < height; ++y)
+    for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const bool inside = x > 0 && x < width - 1 && y > 0 && y < height - 1;
             int sum = 0;
@@ -292,13 +155,15 @@ void SharpDither(PixelArray& work, const PixelArray& source) {
             PutGray(work, x, y, output);
             carry = (value - output) / 4;
         }
+    }
 }
 
 void OrderedDither(PixelArray& work, const PixelArray& source) {
     static constexpr int limits[4][4] = {{1, 9, 3, 11}, {13, 5, 15, 7}, {4, 12, 2, 10}, {16, 8, 14, 6}};
-    for (int y = 0; y < work.Height(); ++y)
+    for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x)
             PutGray(work, x, y, GrayAt(source, x, y) / 16 + 1 < limits[x % 4][y % 4] ? 0 : 255);
+    }
 }
 
 struct Tap {
@@ -320,12 +185,13 @@ void Diffuse(const std::vector<Tap>& taps, int divisor, int damping, PixelArray&
         for (int x = 0; x < width; ++x) {
             const int arrived = errors[0][static_cast<std::size_t>(x)] * 10 / damping;
             const int value = Clamp(arrived + GrayAt(source, x, y)), output = value < threshold ? 0 : 255;
+            const int error = value - output + greatest;
             PutGray(work, x, y, output);
             for (std::size_t k = 0; k < taps.size(); ++k) {
                 const int column = x + taps[k].column;
                 if (column < 0 || column >= width || y + taps[k].row >= height) continue;
                 errors[static_cast<std::size_t>(taps[k].row)][static_cast<std::size_t>(column)] +=
-                    parts[k][static_cast<std::size_t>(value - output + greatest)];
+                    parts[k][static_cast<std::size_t>(error)];
             }
         }
         std::rotate(errors.begin(), errors.begin() + 1, errors.end());
@@ -351,19 +217,19 @@ void PlainFilter(FilterNumber number, std::int32_t parameter, PixelArray& work, 
         case FilterNumber::Relief:
         case FilterNumber::GradientBack:
         case FilterNumber::GradientForward:
-            return Neighbourhood(number, parameter, work, source);
+            return PlainConvolution(number, parameter, work, source);
         case FilterNumber::DiagonalBack:
-            return Diagonal(1, parameter, work);
+            return PlainDiagonal(1, parameter, work);
         case FilterNumber::DiagonalForward:
-            return Diagonal(-1, parameter, work);
+            return PlainDiagonal(-1, parameter, work);
         case FilterNumber::Erode:
         case FilterNumber::Dilate:
         case FilterNumber::Connection:
-            return Extremes(number, work, source);
+            return PlainExtremes(number, work, source);
         case FilterNumber::Aquarel:
-            return Aquarel(work, source);
+            return PlainAquarel(work, source);
         case FilterNumber::Pixelize:
-            return Pixelize(parameter, work, source);
+            return PlainPixelize(parameter, work, source);
         case FilterNumber::Negative:
             return Walk(work, 0, [&](int c, int x, int y) { return 255 - Channel(source, c, x, y); });
         case FilterNumber::Grayscale:

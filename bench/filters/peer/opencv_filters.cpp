@@ -67,9 +67,10 @@ std::function<void()> Opposite(const cv::Mat& from, cv::Mat& to, std::int32_t co
 
 std::function<void()> Scattering(const cv::Mat& from, cv::Mat& to, int reach) {
     cv::Mat places(from.size(), CV_32FC2);
-    for (int y = 0; y < from.rows; ++y)
+    for (int y = 0; y < from.rows; ++y) {
         for (int x = 0; x < from.cols; ++x)
             places.at<cv::Vec2f>(y, x) = {float(x), float(y)};
+    }
     return [=, offsets = cv::Mat(from.size(), CV_32FC2)]() mutable {
         cv::randu(offsets, -reach / 2.0, reach / 2.0);
         cv::add(offsets, places, offsets);

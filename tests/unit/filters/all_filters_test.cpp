@@ -170,9 +170,10 @@ TEST_P(EveryUnit, StretchesEveryRange) {
         Picture picture = Painted(Kind::Noise, {35, 3}, random);
         const int lowest =
             256 - range > 1 ? static_cast<int>(random() % static_cast<unsigned>(256 - range)) : 0;
-        for (int y = 1; y <= 3; ++y)
+        for (int y = 1; y <= 3; ++y) {
             for (int x = 1; x <= 35; ++x)
                 picture(2, x, y) = lowest + picture(2, x, y) % (range + 1);
+        }
         HoldTogether(28, 0, picture, GetParam());
     }
 }
