@@ -156,10 +156,8 @@ void FilterContrast(FilterRun& run, std::int32_t percent) {
             return found + mean == moved[static_cast<std::size_t>(mean + difference)];
         });
     run.Reached(meanTaken);
-    if (product)
-        ContrastByProducts(run, mean, *product);
-    else
-        ContrastByTable(run, moved);
+    if (product) return ContrastByProducts(run, mean, *product);
+    ContrastByTable(run, moved);
 }
 
 }  // namespace coinlet
