@@ -20,8 +20,8 @@ VectorUnits WidestVectorUnits();
 // optimised, runs with the common instructions. So nothing built for a wide unit has a name that a linker
 // could give to others, and nothing is chosen before the program has started.
 //
-// The work must not hand out vectors wider than 16 bytes by value, and floating-point work must not depend on
-// products and sums being rounded once or twice: wide units could do both in one step.
+// The work must not hand out vectors wider than 16 bytes by value. Wide units could round a product and a sum
+// in one step; the build's flags forbid that, so every choice computes the same numbers.
 #if defined(__x86_64__) && defined(__GNUC__)
 
 template <class Work>
