@@ -10,7 +10,7 @@ namespace coinlet {
 namespace {
 
 // Tool buttons that open a dialog.
-constexpr std::array unfinishedTools{3, 4, 7};
+constexpr std::array unfinishedTools{3, 4};
 
 constexpr std::array<VistaButton MainForm::*, 1> unfinishedButtons{&MainForm::OkKnop};
 
