@@ -12,16 +12,20 @@ constexpr int distance = 5;  // between text and pointer
 /// The smallest box that holds all that isn't paper.
 QRect Inked(const QImage& image) {
     QRect box;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
             if (image.pixel(x, y) != paper) box |= QRect(x, y, 1, 1);
+        }
+    }
     return box;
 }
 
 bool IsCrisp(const QImage& image) {
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
             if (image.pixel(x, y) != paper && image.pixel(x, y) != ink) return false;
+        }
+    }
     return true;
 }
 

@@ -53,19 +53,32 @@ protected:
         form.Form_Load();
         form.Text1.SetText("abc");
     }
-    /// Draws, and gives the dots in the order of the rows.
     void Draw() {
         dots.asked.clear();
         form.DrawKnop.Click();
     }
     std::vector<Dot> Dots(Colour colour) const {
         std::vector<Dot> found;
-        for (int y = 0; y < canvasSide; ++y)
-            for (int x = 0; x < canvasSide; ++x)
+        for (int y = 0; y < canvasSide; ++y) {
+            for (int x = 0; x < canvasSide; ++x) {
                 if (form.Pic.surface.Point(x, y) == colour) found.push_back({x, y});
+            }
+        }
         return found;
     }
     bool HasDot(int x, int y, Colour colour = black) const { return form.Pic.surface.Point(x, y) == colour; }
+
+    /// A dot at the whole numbers nearest to the place; on a half either neighbour is near enough.
+    bool HasDotNear(double x, double y) const {
+        constexpr double half = 0.5 + 1e-6;
+        for (const double dotX : {std::floor(x), std::ceil(x)}) {
+            for (const double dotY : {std::floor(y), std::ceil(y)}) {
+                const bool near = std::abs(dotX - x) <= half && std::abs(dotY - y) <= half;
+                if (near && HasDot(static_cast<int>(dotX), static_cast<int>(dotY))) return true;
+            }
+        }
+        return false;
+    }
 
     DotFonts dots;
     Services dotServices{folder / "app", platform,  dots,    codecs,    clock,
@@ -141,13 +154,7 @@ TEST_F(CircelTextTest, EveryLetterStandsWhereItsAngleTells) {
                     const double out = onTop ? -radius - 40 : radius, half = (letter - 'a' + 1) / 2.0;
                     const double x = 250 + std::cos(a) * out + std::cos(b) * half;
                     const double y = 250 + std::sin(a) * out + std::sin(b) * half;
-                    bool near = false;
-                    for (const int dotX : {static_cast<int>(std::floor(x)), static_cast<int>(std::ceil(x))})
-                        for (const int dotY :
-                             {static_cast<int>(std::floor(y)), static_cast<int>(std::ceil(y))})
-                            near = near || (HasDot(dotX, dotY) && std::abs(dotX - x) <= 0.5001 &&
-                                            std::abs(dotY - y) <= 0.5001);
-                    EXPECT_TRUE(near) << i << ": " << x << ", " << y;
+                    EXPECT_TRUE(HasDotNear(x, y)) << i << ": " << x << ", " << y;
                 }
             }
         }

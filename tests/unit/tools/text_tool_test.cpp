@@ -6,8 +6,11 @@
 #include "surface/device.h"
 #include "unit/store/store_world.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -26,9 +29,10 @@ protected:
     /// One letter over what was there before, as a table of the pixels that aren't paper.
     using Picture = std::map<std::pair<int, int>, Colour>;
     static void Stamp(Picture& picture, int left, int top, Colour colour) {
-        for (int y = 0; y < letterHeight; ++y)
+        for (int y = 0; y < letterHeight; ++y) {
             for (int x = 0; x < letterWidth; ++x)
                 picture[{left + x, top + y}] = colour;
+        }
     }
     static void ExpectPicture(const Surface& surface, const Picture& expected) {
         for (int y = 0; y < surface.PixelHeight(); ++y) {
@@ -74,9 +78,11 @@ TEST_F(TextToolTest, OpenLettersAreWhiteInABlackOutline) {
     ASSERT_TRUE(DrawStyledText(main, sheet, 5, 6, "a"));
     Picture expected;
     // All places at a distance of two, counted along the axes.
-    for (int dy = -2; dy <= 2; ++dy)
-        for (int dx = -2; dx <= 2; ++dx)
+    for (int dy = -2; dy <= 2; ++dy) {
+        for (int dx = -2; dx <= 2; ++dx) {
             if (std::abs(dx) + std::abs(dy) == 2) Stamp(expected, 5 + dx, 6 + dy, black);
+        }
+    }
     Stamp(expected, 5, 6, white);
     ExpectPicture(sheet, expected);
     EXPECT_EQ(sheet.ForeColor, white);
@@ -162,10 +168,12 @@ TEST_F(TextToolTest, VerticalTextRunsUpwardFromThePointerToItsLeft) {
     EXPECT_EQ(main.VertPic.Height(), cellHeight * 15);
     tool.Place({100, 50});
     Picture expected;
-    for (int letter = 0; letter < 2; ++letter)
-        for (int along = 0; along < letterWidth; ++along)
+    for (int letter = 0; letter < 2; ++letter) {
+        for (int along = 0; along < letterWidth; ++along) {
             for (int down = 0; down < letterHeight; ++down)
                 expected[{100 - cellHeight + down, 50 - letter * cellWidth - along}] = black;
+        }
+    }
     ExpectPicture(main.Pic.surface, expected);
 }
 
@@ -179,9 +187,10 @@ TEST_F(TextToolTest, VerticalTextKnowsNoOutlineAndNoShadow) {
     main.SchaduwCheck.SetValue(true);
     main.PlaatsKnop.Click();
     tool.Place({100, 50});
-    for (int y = 0; y < canvasSide; ++y)
+    for (int y = 0; y < canvasSide; ++y) {
         for (int x = 0; x < canvasSide; ++x)
             ASSERT_EQ(main.Pic.surface.Point(x, y), ToColour(plain.Row(y)[x])) << x << ", " << y;
+    }
 }
 
 TEST_F(TextToolTest, TurningDropsWhatHasAChannelAtItsFull) {
