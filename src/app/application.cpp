@@ -17,6 +17,7 @@
 #include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
+#include "tools/text_tool.h"
 #include "tools/tool_strip.h"
 
 namespace coinlet {
@@ -33,6 +34,7 @@ struct Application::House {
         gestures.Add(FillTool(context));
         gestures.Add(EraseTool(context));
         gestures.Add(PickTool(context));
+        gestures.placeText = [this](GesturePoint pointer) { text.Place(pointer); };
         strip.openColourChooser = [this] {
             PMSForm chooser(context);
             services.platform.ShowModal(chooser);
@@ -53,6 +55,7 @@ struct Application::House {
     OpenDesign open{context};
     ClipboardCopy copy{context};
     ToolStrip strip{context};
+    TextTool text{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
     InfoPanelRows panelRows{context};

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
 namespace coinlet {
@@ -72,6 +73,37 @@ std::optional<unsigned char> CodePageByte(char32_t codePoint) {
     return static_cast<unsigned char>(upperStart + static_cast<std::size_t>(found - codePageUpper.begin()));
 }
 
+constexpr char32_t joiner = 0x200D;
+
+// Belongs to the letter before it: marks over and under letters, vowel signs, what tints a pictogram or tells
+// its style, the joiner itself.
+bool ExtendsLetter(char32_t c) {
+    struct Range {
+        char32_t first, last;
+    };
+    static constexpr Range ranges[] = {
+        {0x300, 0x36F},     {0x483, 0x489},  // Latin, Greek, Cyrillic
+        {0x591, 0x5BD},     {0x5BF, 0x5BF},     {0x5C1, 0x5C2},   {0x5C4, 0x5C5},
+        {0x5C7, 0x5C7},  // Hebrew
+        {0x610, 0x61A},     {0x64B, 0x65F},     {0x670, 0x670},   {0x6D6, 0x6DC},
+        {0x6DF, 0x6E4},     {0x6E7, 0x6E8},     {0x6EA, 0x6ED},  // Arabic
+        {0x900, 0x903},     {0x93A, 0x93C},     {0x93E, 0x94F},   {0x951, 0x957},
+        {0x962, 0x963},                                                              // Devanagari
+        {0xE31, 0xE31},     {0xE34, 0xE3A},     {0xE47, 0xE4E},                      // Thai
+        {0x1AB0, 0x1AFF},   {0x1DC0, 0x1DFF},   {0x20D0, 0x20FF}, {0xFE20, 0xFE2F},  // marks for all scripts
+        {0xFE00, 0xFE0F},   {0xE0100, 0xE01EF},                                      // styles
+        {0x1F3FB, 0x1F3FF}, {0xE0020, 0xE007F},                                      // tints, tags
+        {joiner, joiner},
+    };
+    return std::any_of(std::begin(ranges), std::end(ranges),
+                       [c](const Range& range) { return c >= range.first && c <= range.last; });
+}
+
+// Two of them are the flag of a country.
+bool IsFlagHalf(char32_t c) {
+    return c >= 0x1F1E6 && c <= 0x1F1FF;
+}
+
 char32_t LowerCodePoint(char32_t c) {
     // Where capitals stand: in one block before their small letters, or each just before its own.
     struct Capitals {
@@ -123,6 +155,22 @@ std::vector<std::string> Characters(std::string_view utf8) {
     ForEachCharacter(
         utf8, [&](std::optional<char32_t>, std::string_view bytes) { characters.emplace_back(bytes); });
     return characters;
+}
+
+std::vector<std::string> Graphemes(std::string_view utf8) {
+    std::vector<std::string> letters;
+    char32_t before = 0;
+    ForEachCharacter(utf8, [&](std::optional<char32_t> codePoint, std::string_view bytes) {
+        const char32_t c = codePoint.value_or(replacementCharacter);
+        const bool endsFlag = IsFlagHalf(c) && IsFlagHalf(before);
+        if (!letters.empty() && (ExtendsLetter(c) || before == joiner || endsFlag)) {
+            letters.back() += bytes;
+        } else {
+            letters.emplace_back(bytes);
+        }
+        before = endsFlag ? 0 : c;
+    });
+    return letters;
 }
 
 std::string Utf8(char32_t codePoint) {

@@ -16,6 +16,10 @@ std::string ToCodePage(std::string_view utf8);
 /// The characters of a UTF-8 text, each as a text of its own; malformed bytes stand alone.
 std::vector<std::string> Characters(std::string_view utf8);
 
+/// The letters of a UTF-8 text as a reader counts them: a character with the marks that stand on it, and the
+/// characters that make up one pictogram. Put together they are the text.
+std::vector<std::string> Graphemes(std::string_view utf8);
+
 /// The UTF-8 form of one code point; one outside Unicode gives U+FFFD.
 std::string Utf8(char32_t codePoint);
 

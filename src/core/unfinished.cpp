@@ -10,9 +10,9 @@ namespace coinlet {
 namespace {
 
 // Tool buttons that open a dialog.
-constexpr std::array unfinishedTools{3, 4, 7};
+constexpr std::array unfinishedTools{3, 4};
 
-constexpr std::array<VistaButton MainForm::*, 2> unfinishedButtons{&MainForm::OkKnop, &MainForm::PlaatsKnop};
+constexpr std::array<VistaButton MainForm::*, 1> unfinishedButtons{&MainForm::OkKnop};
 
 constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
     &MainForm::FileImport,     &MainForm::FilePrint,       &MainForm::ViewMyCollection,

@@ -1,5 +1,6 @@
 // Text by device calls: laid out in a rectangle, or turned about a point.
 
+#include "base/text.h"
 #include "surface/device.h"
 #include "surface/text_stamp.h"
 
@@ -119,7 +120,7 @@ Colour SetTextColor(DeviceContext hDC, Colour colour) {
 }
 
 HFONT CreateFontIndirectA(const LOGFONT& font) {
-    if (font.lfHeight == 0 || font.lfFaceName.size() > longestFaceName) return nullptr;
+    if (font.lfHeight == 0 || Characters(font.lfFaceName).size() > longestFaceName) return nullptr;
     return std::make_shared<const LOGFONT>(font);
 }
 

@@ -4,6 +4,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/unfinished.h"
+#include "designers/circel_text.h"
 #include "filters/color_change.h"
 #include "filters/remove_form.h"
 #include "tools/tool_codes.h"
@@ -69,7 +70,7 @@ constexpr std::array<ToolRow, 16> toolRows{{
     {"014"},
     {"015"},
     {"016", ShowEraserControls},
-    {"018"},
+    {"018", Open<CircelText>},
     {"019", ShowTextPanel},
     {"061", ArmPick},
     {"020", Open<RemoveForm>},

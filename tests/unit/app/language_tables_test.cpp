@@ -2,6 +2,7 @@
 #include "base/text.h"
 #include "controls/text_lines.h"
 #include "core/language.h"
+#include "designers/circel_text.h"
 #include "media/qt_font_engine.h"
 #include "store/open_file.h"
 #include "store/tekst_form.h"
@@ -47,6 +48,8 @@ TEST_P(LanguageTable, HasExplanationsThatFitTheirLabels) {
     ExpectFits("017", main.Label16);
     const OpenFile openFile(context);
     ExpectFits("040", openFile.Label2);
+    const CircelText circelText(context);
+    ExpectFits("050", circelText.Label8);
     const TekstForm tekstForm(context);
     ExpectFits("200", tekstForm.Label2);
 }

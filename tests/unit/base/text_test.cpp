@@ -77,6 +77,27 @@ TEST(Characters, AreTextsOfTheirOwn) {
     EXPECT_EQ(Characters(std::string_view("a\0b", 3)).size(), 3U);
 }
 
+TEST(Graphemes, AreLettersWithTheirMarks) {
+    EXPECT_EQ(Graphemes(""), Texts{});
+    EXPECT_EQ(Graphemes("aé€😀"), (Texts{"a", "é", "€", "😀"}));
+    EXPECT_EQ(Graphemes("e\u0301\u0323x"), (Texts{"e\u0301\u0323", "x"}));
+    EXPECT_EQ(Graphemes("שָׁם"), (Texts{"שָׁ", "ם"}));
+    EXPECT_EQ(Graphemes("\u0301a"), (Texts{"\u0301", "a"}));  // a mark on nothing
+}
+
+TEST(Graphemes, ArePictogramsAsAWhole) {
+    EXPECT_EQ(Graphemes("❤️!"), (Texts{"❤️", "!"}));
+    EXPECT_EQ(Graphemes("👍🏽👍"), (Texts{"👍🏽", "👍"}));
+    EXPECT_EQ(Graphemes("👨‍👩‍👧‍👦x"), (Texts{"👨‍👩‍👧‍👦", "x"}));
+    EXPECT_EQ(Graphemes("🇳🇱🇧🇪🇩"), (Texts{"🇳🇱", "🇧🇪", "🇩"}));
+    EXPECT_EQ(Graphemes("1\uFE0F\u20E32"), (Texts{"1\uFE0F\u20E3", "2"}));
+}
+
+TEST(Graphemes, MalformedBytesStandAlone) {
+    EXPECT_EQ(Graphemes("a\xE2\x82z"), (Texts{"a", "\xE2", "\x82", "z"}));
+    EXPECT_EQ(Graphemes(std::string_view("a\0b", 3)).size(), 3U);
+}
+
 TEST(Utf8, OneToFourBytes) {
     EXPECT_EQ(Utf8(U'A'), "A");
     EXPECT_EQ(Utf8(0x7F), "\x7F");

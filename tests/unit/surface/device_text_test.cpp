@@ -201,6 +201,9 @@ TEST(CreateFont, RefusesLongNamesAndNoHeight) {
     EXPECT_NE(CreateFontIndirectA(font), nullptr);
     font.lfFaceName = std::string(32, 'x');
     EXPECT_EQ(CreateFontIndirectA(font), nullptr);
+    // Characters count, not the bytes that they take.
+    font.lfFaceName = "文泉驿微米黑文泉驿微米黑";
+    EXPECT_NE(CreateFontIndirectA(font), nullptr);
     EXPECT_EQ(CreateFontIndirectA(Letters(0)), nullptr);
 }
 

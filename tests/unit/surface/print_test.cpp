@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <string>
 
 namespace coinlet {
 namespace {
@@ -63,6 +64,33 @@ TEST(Print, ABreakAtTheEndIsALineMore) {
     EXPECT_EQ(sheet.CurrentY, 8);
     sheet.Print("");
     EXPECT_EQ(sheet.CurrentY, 12);
+}
+
+// Most of such a text lies outside of any surface; what doesn't is drawn, wherever in the text it is.
+TEST(Print, ShowsAnyPartOfAVeryLongLine) {
+    std::string line;
+    for (int i = 0; i < 20000; ++i)
+        line += i % 3 == 0 ? "é" : i % 3 == 1 ? "a" : " ";
+    for (const int first : {0, 1, 2047, 4096, 9999, 17000, 19990}) {
+        Sheet sheet(12, 5);
+        sheet.CurrentX = static_cast<float>(-2 * first + 1);
+        sheet.Print(line);
+        for (int x = 0; x < 12; ++x) {
+            // A letter is one column of its two, and each third one is a blank.
+            const int column = x - 1 + 2 * first;
+            const int letter = column / 2;
+            const bool inked = column >= 0 && column % 2 == 0 && letter < 20000 && letter % 3 != 2;
+            EXPECT_EQ(sheet.Point(x, 0), inked ? black : white) << first << " " << x;
+            EXPECT_EQ(sheet.Point(x, 3), white) << first << " " << x;
+        }
+    }
+}
+
+TEST(PrintOn, LeavesTheCursorBehindAVeryLongLine) {
+    Sheet sheet(4, 4);
+    sheet.PrintOn(std::string(30000, 'x'));
+    EXPECT_EQ(sheet.CurrentX, 60000);
+    EXPECT_EQ(sheet.CurrentY, 0);
 }
 
 TEST(PrintOn, LeavesTheCursorBehindTheText) {

@@ -1,10 +1,13 @@
-#include "filters/dialog_looks.h"
+#pragma once
 
+#include "controls/control.h"
+#include "controls/shapes.h"
 #include "surface/surface.h"
 
 namespace coinlet {
 
-void SetEdge(Shape& edge, const Control& around) {
+/// Draws a thin edge around a control of a form that has none of its own.
+inline void SetEdge(Shape& edge, const Control& around) {
     constexpr Colour edgeColour = RGB(150, 150, 120);
     edge.BorderColor = edgeColour;
     edge.Move(around.Left() - twipsPerPixel, around.Top() - twipsPerPixel, around.Width() + 2 * twipsPerPixel,

@@ -1,0 +1,150 @@
+#include "designers/circel_text.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "designers/circel_text_layout.h"
+#include "designers/rotated_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace coinlet {
+
+namespace {
+
+constexpr Rectangle wholeCanvas{0, 0, canvasSide, canvasSide};
+constexpr int centre = canvasSide / 2;
+/// These digits are the ones that every angle here is computed with.
+constexpr double pi = 3.14159625;
+constexpr double halfTurn = 180, quarterTurn = 90;
+
+/// What a list of numbers offers, and what stands in it at first.
+struct NumberList {
+    int first, last, step, standard;
+};
+constexpr NumberList distances{0, 10, 1, 2}, radii{100, 200, 5, 185}, sizes{20, 120, 2, 30};
+
+void Fill(ComboBox& combo, const NumberList& list) {
+    for (int number = list.first; number <= list.last; number += list.step)
+        combo.AddItem(std::to_string(number));
+    combo.SetListIndex((list.standard - list.first) / list.step);
+}
+
+/// Where a letter is printed again and again so that together they make a ring of two pixels around it.
+struct Offset {
+    int x, y;
+};
+constexpr std::array<Offset, 8> ring{{{0, -2}, {1, -1}, {2, 0}, {1, 1}, {0, 2}, {-1, 1}, {-2, 0}, {-1, -1}}};
+
+/// Points. What a surface can't hold is the largest that it can.
+float FontSizeOf(const std::string& text) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(Val(text), -most, most));
+}
+
+double Radians(double degrees) {
+    return degrees / halfTurn * pi;
+}
+
+}  // namespace
+
+CircelText::CircelText(Context& context)
+    : Form(context.services.ForForms(), "CircelText"), context_(context) {
+    LayOutCircelText(*this);
+    Check1.Click = [this] { Check1_Click(); };
+    DrawKnop.Click = [this] { DrawKnop_Click(); };
+    ExportKnop.Click = [this] { ExportKnop_Click(); };
+    CancelKnop.Click = [this] { CancelKnop_Click(); };
+}
+
+void CircelText::Form_Load() {
+    Text1.SetText("Coinlet Designer");
+    Label8.Caption = LookupInfoText(context_, "050");
+    Fill(Combo1, distances);
+    Fill(Combo2, radii);
+    Fill(Combo3, sizes);
+    for (const std::string& family : context_.services.fonts.Families())
+        Combo4.AddItem(family);
+    Combo4.SetText("Arial");
+    Label9.BackColor = context_.main.ColorLabel.BackColor;
+    CopyCanvas();
+    Text1.SetFocus();
+}
+
+void CircelText::CopyCanvas() {
+    Pic.surface.PaintPicture(context_.main.Pic.surface.Image(), wholeCanvas, wholeCanvas);
+}
+
+Colour CircelText::InkColour() const {
+    return Check1.Value() ? context_.main.ColorLabel.BackColor : black;
+}
+
+void CircelText::Check1_Click() {
+    Label9.Visible = Check1.Value();
+}
+
+void CircelText::DrawKnop_Click() {
+    DrawCurvedText(Check2.Value());
+}
+
+// The angle grows clockwise from 3 o'clock. A text on top starts with its first letter at 9 o'clock, since
+// its radius is negative, and stands on the circle; one at the bottom starts with its last letter at 3
+// o'clock and hangs into the circle.
+void CircelText::DrawCurvedText(bool onTop) {
+    Surface& picture = Pic.surface;
+    picture.Cls();
+    picture.FontName = Combo4.Text();
+    picture.FontSize = FontSizeOf(Combo3.Text());
+    picture.ForeColor = InkColour();
+    picture.FontBold = Check3.Value();
+    picture.FontItalic = Check4.Value();
+    CopyCanvas();
+
+    const std::vector<std::string> letters = Graphemes(Text1.Text());
+    const std::size_t count = letters.size();
+    const double step = Val(Combo1.Text()) * (picture.FontSize / 10) + 2;  // degrees
+    const double radius = onTop ? -Val(Combo2.Text()) : Val(Combo2.Text());
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string& letter = onTop ? letters[i] : letters[count - 1 - i];
+        const double height = picture.TextHeight(letter), halfWidth = picture.TextWidth(letter) / 2;
+        const double turned = step * static_cast<double>(i);
+        const double outward = Radians(turned), along = Radians(turned + quarterTurn);
+        // The corner that a letter hangs by is at its head, which on top lies outside.
+        const double distance = onTop ? radius - height : radius;
+        DrawGlyph(letter, quarterTurn - turned,
+                  RoundHalfEven(std::cos(outward) * distance + std::cos(along) * halfWidth + centre),
+                  RoundHalfEven(std::sin(outward) * distance + std::sin(along) * halfWidth + centre));
+    }
+}
+
+void CircelText::DrawGlyph(std::string_view glyph, double rotation, int x, int y) {
+    Surface& picture = Pic.surface;
+    const int degrees = RoundHalfEven(rotation);
+    picture.ForeColor = InkColour();
+    if (Check5.Value()) {
+        for (const Offset& offset : ring)
+            DrawRotatedText(glyph, degrees, x + offset.x, y + offset.y, picture);
+        picture.ForeColor = white;
+    }
+    DrawRotatedText(glyph, degrees, x, y, picture);
+}
+
+void CircelText::ExportKnop_Click() {
+    context_.main.Pic.surface.PaintPicture(Pic.surface.Image(), wholeCanvas, wholeCanvas);
+    Unload();
+    ShowHint(context_, "001");
+}
+
+void CircelText::CancelKnop_Click() {
+    Unload();
+    ShowHint(context_, "001");
+}
+
+}  // namespace coinlet
