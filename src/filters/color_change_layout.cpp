@@ -1,5 +1,6 @@
 #include "filters/color_change_layout.h"
 
+#include "controls/edge.h"
 #include "controls/placing.h"
 #include "core/main_form.h"
 #include "filters/color_change.h"

@@ -1,5 +1,6 @@
 #include "filters/remove_form_layout.h"
 
+#include "controls/edge.h"
 #include "controls/placing.h"
 #include "core/main_form.h"
 #include "filters/dialog_looks.h"

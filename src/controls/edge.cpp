@@ -1,4 +1,4 @@
-#include "filters/dialog_looks.h"
+#include "controls/edge.h"
 
 #include "surface/surface.h"
 
