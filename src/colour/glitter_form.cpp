@@ -78,12 +78,12 @@ void GlitterForm::SlidePic_MouseMove(int button, float x, float y) {
 }
 
 void GlitterForm::HScroll_Change() {
-    SlidePic.SetLeft(-HScroll.Value());
+    SlidePic.SetLeft(0.0 - HScroll.Value());
     slideLeft_ = Pixels(SlidePic.Left());
 }
 
 void GlitterForm::VScroll_Change() {
-    SlidePic.SetTop(-VScroll.Value());
+    SlidePic.SetTop(0.0 - VScroll.Value());
     slideTop_ = Pixels(SlidePic.Top());
 }
 

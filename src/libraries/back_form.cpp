@@ -9,7 +9,7 @@
 #include "surface/codecs.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
 #include <string>
 
 namespace coinlet {
@@ -92,11 +92,16 @@ void BackForm::Option1_Click(int index) {
 }
 
 void BackForm::HScroll1_Change() {
-    const double top = HScroll1.Value() * cellSide;
+    const double top = double{cellSide} * HScroll1.Value();
     // What a row that is cut off lacks is blank, whatever stood there before.
     Pic.surface.Line(0, 0, rowWidth, cellSide, white, Box::Filled);
     Pic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, rowWidth, cellSide},
                              {0, top, rowWidth, cellSide});
+}
+
+std::string BackForm::NameOfCell(int cell) const {
+    const std::int64_t place = std::int64_t{HScroll1.Value()} * cellsARow + cell;
+    return place >= 0 && place < List1.ListCount() ? List1.List(static_cast<int>(place)) : std::string();
 }
 
 void BackForm::Pic_MouseDown(float x, float y) {
@@ -104,7 +109,7 @@ void BackForm::Pic_MouseDown(float x, float y) {
     const double offset = std::max(cell, 0) * cellSide;
     Orgineel.surface.PaintPicture(Pic.surface.Image(), oneCell, {offset, 0, cellSide, cellSide});
     // Beside the cells lies no back, and so no name.
-    context_.session.BackName = cell < 0 ? std::string() : List1.List(HScroll1.Value() * cellsARow + cell);
+    context_.session.BackName = cell < 0 ? std::string() : NameOfCell(cell);
     ShowName(context_.session.BackName);
 }
 

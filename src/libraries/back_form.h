@@ -9,6 +9,8 @@
 #include "controls/shapes.h"
 #include "controls/vista_button.h"
 
+#include <string>
+
 namespace coinlet {
 
 struct Context;
@@ -45,6 +47,8 @@ private:
     void LoadBackNames(int collection);
     /// The number of the collection's last row, counted from 0: the nearest to what its height gives.
     int LastRow() const;
+    /// The name of a cell of the row shown, counted from 0; empty for a cell that the list has no name for.
+    std::string NameOfCell(int cell) const;
     void ShowName(const std::string& name);
 
     Context& context_;

@@ -28,6 +28,7 @@ void PlaceCatalogue(BackForm& form) {
     SetEdge(form.Shape1[0], form.Pic);
     // Until a collection tells how many rows it has.
     form.HScroll1.SetRange(0, 0);
+    form.HScroll1.LargeChange = 1;
     PlaceByPixels(form.HScroll1, margin, sliderTop, rowWidth, sliderHeight);
 }
 

@@ -8,6 +8,8 @@
 #include "surface/codecs.h"
 
 #include <array>
+#include <initializer_list>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -108,7 +110,9 @@ void BorderForm::Option1_Click(int index) {
 }
 
 void BorderForm::HScroll1_Change() {
-    const auto& [name, x, y] = holePositions.at(static_cast<std::size_t>(HScroll1.Value()));
+    const int chosen = HScroll1.Value();
+    if (chosen < 0 || chosen >= std::ssize(holePositions)) return;
+    const auto& [name, x, y] = holePositions.at(static_cast<std::size_t>(chosen));
     holeX_ = x;
     holeY_ = y;
     DrawBorderPreview();

@@ -4,7 +4,8 @@
 #include "controls/placing.h"
 #include "libraries/border_form.h"
 
-#include <string>
+#include <cstddef>
+#include <initializer_list>
 
 namespace coinlet {
 
