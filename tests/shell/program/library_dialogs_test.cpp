@@ -35,9 +35,10 @@ protected:
     template <class ColourAt>
     void WritePicture(const std::string& file, int width, int height, const ColourAt& colourAt) {
         Bitmap bitmap(width, height);
-        for (int y = 0; y < height; ++y)
+        for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x)
                 bitmap.Row(y)[x] = colourAt(x, y);
+        }
         const auto error = SavePicture(Image(std::move(bitmap)), folder / file);
         ASSERT_FALSE(error) << error.message();
     }

@@ -61,12 +61,11 @@ TEST_F(BackFormTest, TakesPicturesOfAnySize) {
         int width, height, lastRow;
     };
     // The last row is the nearest whole number to height / 150 - 1, a half going to the even one.
-    for (const auto& [width, height, lastRow] :
-         {Sizes{1, 1, -1}, Sizes{600, 75, 0}, Sizes{600, 74, -1}, Sizes{700, 225, 0}, Sizes{600, 226, 1},
-          Sizes{600, 525, 2}, Sizes{600, 526, 3}}) {
-        AddPicture("Back-1.bak", width, height);
+    for (const Sizes& picture : {Sizes{1, 1, -1}, Sizes{600, 75, 0}, Sizes{600, 74, -1}, Sizes{700, 225, 0},
+                                 Sizes{600, 226, 1}, Sizes{600, 525, 2}, Sizes{600, 526, 3}}) {
+        AddPicture("Back-1.bak", picture.width, picture.height);
         Open([&](BackForm& dialog) {
-            EXPECT_EQ(dialog.HScroll1.Max(), lastRow) << height;
+            EXPECT_EQ(dialog.HScroll1.Max(), picture.lastRow) << picture.height;
             EXPECT_EQ(dialog.HScroll1.Value(), 0);
             EXPECT_EQ(dialog.Pic.surface.PixelWidth(), 600);
             EXPECT_EQ(dialog.Pic.surface.PixelHeight(), 150);

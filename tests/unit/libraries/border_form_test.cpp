@@ -73,9 +73,10 @@ TEST_F(BorderFormTest, PrintsTheMetalOnTheSidePanel) {
         dialog.Option1[1].SetValue(true);
         dialog.ExportKnop.Click();
     });
-    for (int y = 0; y < expected.PixelHeight(); ++y)
+    for (int y = 0; y < expected.PixelHeight(); ++y) {
         for (int x = 0; x < expected.PixelWidth(); ++x)
             ASSERT_EQ(main.InfoPic.surface.Point(x, y), expected.Point(x, y)) << x << ", " << y;
+    }
 }
 
 TEST_F(BorderFormTest, ListsRegularFilesAndNeverWaitsForAPipe) {
