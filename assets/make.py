@@ -21,7 +21,7 @@ DATA = ASSETS.parent / "data"
 # Each is a module assets/<name>/make.py with
 #     make(data)              writes its files into the folder of the data
 #     sheets(data, folder)    renders what it wrote into overview pictures
-KINDS = ["backs", "borders", "cliparts", "fonts", "forms", "glitter", "images"]
+KINDS = ["backs", "borders", "cliparts", "fonts", "forms", "glitter", "help", "images"]
 
 
 def main():

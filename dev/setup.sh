@@ -12,7 +12,7 @@ run_packages+=(fonts-bebas-neue fonts-yanone-kaffeesatz fonts-comfortaa fonts-qu
     fonts-oldstandard fonts-averia-serif-gwf fonts-gnutypewriter fonts-courier-prime)
 test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
-    poppler-utils)
+    poppler-utils weasyprint faketime)
 
 packages=("${run_packages[@]}")
 case "${1:-run}" in

@@ -1,12 +1,34 @@
-// Figures for every numbered filter on a noisy canvas and, where it stands in the menu, with the parameter of
-// the menu; without the screen.
+// Each numbered filter on a noisy canvas and, where it stands in the menu, with the parameter of the menu.
+// One line a filter, all measured in turns in one run:
+//
+//     Time     the filter built for the widest vector units, without the screen
+//     common   the same with the instructions that every processor of the kind has
+//     avx2     the same for AVX2
+//     plain    the rule written down without any thought of speed; it has to make the same picture
+//     library  the nearest operation of an image library, where there is one
+//     frame    the whole run through the core: transfers, progress bar and a service of events each row,
+//              but no window
+//     of_plain, of_library   the first divided by these
+//
+// Filters that see what they have just written have to be given the picture anew each time: their times
+// include a copy of it.
 
+#include "filters/filter_core.h"
 #include "filters/filter_table.h"
+#include "peer_filters.h"
+#include "plain_filters.h"
+#include "surface/device.h"
+#include "unit/store/store_world.h"
 
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
+#include <ctime>
+#include <functional>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -40,6 +62,8 @@ std::int32_t UsualParameter(FilterNumber number) {
             return 15;
         case FilterNumber::AddNoise:
             return 50;
+        case FilterNumber::Threshold:
+            return 0x808080;
         case FilterNumber::Saturation:
             return 140;
         case FilterNumber::Gamma:
@@ -49,27 +73,146 @@ std::int32_t UsualParameter(FilterNumber number) {
     }
 }
 
-void Apply(benchmark::State& state, const NumberedFilter& filter) {
-    PixelArray work(side, side), source(side, side);
-    std::mt19937 noise(1);
-    std::ranges::generate(source.Bytes(), [&noise] { return static_cast<std::uint8_t>(noise()); });
-    RandomGenerator random;
-    NoPace pace;
-    FilterRun run(work, source, random, pace);
-    const std::int32_t parameter = UsualParameter(filter.number);
-    for ([[maybe_unused]] auto _ : state) {
-        // Filters in place would otherwise work on what they made the last time.
-        std::ranges::copy(source.Bytes(), work.Bytes().begin());
-        filter.apply(run, parameter);
+bool SeesItsOutput(FilterNumber number) {
+    switch (number) {
+        case FilterNumber::Sharpen:
+        case FilterNumber::Blur:
+        case FilterNumber::Smooth:
+        case FilterNumber::Edge:
+        case FilterNumber::Defuse:
+            return true;
+        default:
+            return false;
     }
+}
+
+PixelArray NoisyPicture() {
+    PixelArray picture(side, side);
+    std::mt19937 noise(1);
+    std::ranges::generate(picture.Bytes(), [&noise] { return static_cast<std::uint8_t>(noise()); });
+    return picture;
+}
+
+void Copy(const PixelArray& from, PixelArray& to) {
+    std::ranges::copy(from.Bytes(), to.Bytes().begin());
+}
+
+bool SameColours(const PixelArray& a, const PixelArray& b) {
+    for (std::size_t i = 0; i < a.Bytes().size(); ++i)
+        if (i % pixelBytes < colourChannels && a.Bytes()[i] != b.Bytes()[i]) return false;
+    return true;
+}
+
+double ProcessSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// One of those that are compared.
+class Contender {
+public:
+    explicit Contender(
+        std::function<void()> work, std::function<void()> prepare = [] {})
+        : work_(std::move(work)), prepare_(std::move(prepare)) {}
+
+    /// Once to warm up, then some times measured.
+    void TakeTurn() {
+        constexpr int measured = 4;
+        if (!work_) return;
+        prepare_();
+        work_();
+        for (int i = 0; i < measured; ++i) {
+            prepare_();
+            const double start = ProcessSeconds();
+            work_();
+            seconds_.push_back(ProcessSeconds() - start);
+        }
+    }
+    /// The median of all turns; 0 if there is nothing to measure.
+    double Seconds() {
+        if (seconds_.empty()) return 0;
+        const auto middle = seconds_.begin() + static_cast<std::ptrdiff_t>(seconds_.size() / 2);
+        std::ranges::nth_element(seconds_, middle);
+        return *middle;
+    }
+
+private:
+    std::function<void()> work_, prepare_;
+    std::vector<double> seconds_;
+};
+
+void Compare(benchmark::State& state, const NumberedFilter& filter) {
+    const std::int32_t parameter = UsualParameter(filter.number);
+    const PixelArray source = NoisyPicture();
+    PixelArray ours(side, side), plain(side, side), peer(side, side);
+    NoPace pace;
+    RandomGenerator ourDice, plainDice, otherDice;
+    const auto restore = [&](PixelArray& picture) {
+        if (SeesItsOutput(filter.number)) Copy(source, picture);
+    };
+    const auto builtFor = [&](VectorUnits units, RandomGenerator& dice) {
+        return [&, units] {
+            restore(ours);
+            FilterRun run(ours, source, dice, pace, units);
+            filter.apply(run, parameter);
+        };
+    };
+    const auto plainly = [&] {
+        restore(plain);
+        bench::PlainFilter(filter.number, parameter, plain, source, plainDice);
+    };
+    for (PixelArray* picture : {&ours, &plain, &peer})
+        Copy(source, *picture);
+    test::StoreWorld world;
+    FilterCore core(world.context);
+    Surface& canvas = world.main.Pic.surface;
+    std::int32_t progress = 0;
+
+    builtFor(WidestVectorUnits(), ourDice)();
+    plainly();
+    if (!SameColours(ours, plain)) return state.SkipWithError("the plain rule makes another picture");
+
+    Contender widest(builtFor(WidestVectorUnits(), ourDice));
+    Contender common(builtFor(VectorUnits::Common, otherDice));
+    Contender avx2(ProcessorHas(VectorUnits::Avx2) ? builtFor(VectorUnits::Avx2, otherDice)
+                                                   : std::function<void()>());
+    Contender rule(plainly);
+    Contender library(bench::PeerFilter(filter.number, parameter, source, peer));
+    Contender frame(
+        [&] { core.FilterPicture(static_cast<std::int32_t>(filter.number), canvas, parameter, progress); },
+        [&] {
+            SetDIBits(canvas.hDC(), 0, side, source.Bytes(), BITMAPINFO{side, -side});
+        });
+    for ([[maybe_unused]] auto _ : state) {
+        constexpr int turns = 8;
+        for (int i = 0; i < turns; ++i) {
+            for (Contender* contender : std::array{&widest, &common, &avx2, &rule, &library, &frame})
+                contender->TakeTurn();
+        }
+        state.SetIterationTime(widest.Seconds());
+    }
+    const double seconds = widest.Seconds();
+    const auto tell = [&state](const char* name, double value) { state.counters[name] = value; };
+    tell("common", common.Seconds() * 1e6);
+    if (avx2.Seconds() > 0) tell("avx2", avx2.Seconds() * 1e6);
+    tell("plain", rule.Seconds() * 1e6);
+    tell("of_plain", seconds / rule.Seconds());
+    if (const double librarySeconds = library.Seconds(); librarySeconds > 0) {
+        tell("library", librarySeconds * 1e6);
+        tell("of_library", seconds / librarySeconds);
+    }
+    tell("frame", frame.Seconds() * 1e6);
 }
 
 [[maybe_unused]] const bool registered = [] {
     for (const NumberedFilter& filter : AllFilters()) {
         const std::string name = "Filter" + std::string(filter.name);
-        benchmark::RegisterBenchmark(name.c_str(), [&filter](benchmark::State& state) {
-            Apply(state, filter);
-        })->Unit(benchmark::kMicrosecond);
+        benchmark::RegisterBenchmark(name.c_str(),
+                                     [&filter](benchmark::State& state) { Compare(state, filter); })
+            ->Iterations(1)
+            ->UseManualTime()
+            ->Unit(benchmark::kMicrosecond);
     }
     return true;
 }();

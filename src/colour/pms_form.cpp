@@ -43,6 +43,7 @@ PMSForm::PMSForm(Context& context) : Form(context.services.ForForms(), "PMSForm"
     Pic.MouseDown = [this](int button, int, float x, float y) { Pic_MouseDown(button, x, y); };
     OkKnop.Click = [this] { OkKnop_Click(); };
     CancelKnop.Click = [this] { CancelKnop_Click(); };
+    DefaultButton = &OkKnop;
 }
 
 void PMSForm::Form_Load() {

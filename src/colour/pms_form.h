@@ -32,10 +32,10 @@ public:
     Label Label10{*this, "Label10"};
     Label Label11{*this, "Label11"};
     Label Label12{*this, "Label12"};
-    Label Label13{*this, "Label13"};  ///< What Combo1 is for.
-    ComboBox Combo1{*this, "Combo1"};
     Label Label1{*this, "Label1"};  ///< Number of the colour.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};
+    Label Label13{*this, "Label13"};  ///< What Combo1 is for.
+    ComboBox Combo1{*this, "Combo1"};
     PictureBox Pic{*this, "Pic"};  ///< The palette.
     VistaButton OkKnop{*this, "OkKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};

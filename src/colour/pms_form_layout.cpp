@@ -1,6 +1,7 @@
 #include "colour/pms_form_layout.h"
 
 #include "colour/pms_form.h"
+#include "controls/placing.h"
 
 #include <array>
 
@@ -41,10 +42,6 @@ constexpr std::array labels{
     LabelPlace{&PMSForm::Label13, column1, 196, 280, 16},
 };
 
-void Put(Control& control, int left, int top, int width, int height) {
-    control.Move(left * twipsPerPixel, top * twipsPerPixel, width * twipsPerPixel, height * twipsPerPixel);
-}
-
 }  // namespace
 
 void LayOutPmsForm(PMSForm& form) {
@@ -53,7 +50,7 @@ void LayOutPmsForm(PMSForm& form) {
     form.Height = formHeight * twipsPerPixel;
     form.BackColor = formColour;
     for (const LabelPlace& place : labels)
-        Put(form.*place.label, place.left, place.top, place.width, place.height);
+        PlaceByPixels(form.*place.label, place.left, place.top, place.width, place.height);
 
     form.Label15.Caption = formTitle;
     form.Label15.FontSize = 10;
@@ -64,15 +61,15 @@ void LayOutPmsForm(PMSForm& form) {
     form.Label1.Caption = "Color : ";
     form.Label13.Caption = "Search by number";
 
-    Put(form.HScroll1, column1, 164, 280, 20);
-    Put(form.Combo1, column1, 212, 280, 24);
+    PlaceByPixels(form.HScroll1, column1, 164, 280, 20);
+    PlaceByPixels(form.Combo1, column1, 212, 280, 24);
     form.Combo1.BackColor = fieldColour;
     form.Combo1.ForeColor = fieldText;
     const int columns = paletteColumns * boxPitch + 1;
     const int rows = static_cast<int>(palette.size()) / paletteColumns * boxPitch + 1;
-    Put(form.Pic, column1, 252, columns, rows);
-    Put(form.OkKnop, column1, 312, 136, 28);
-    Put(form.CancelKnop, 160, 312, 136, 28);
+    PlaceByPixels(form.Pic, column1, 252, columns, rows);
+    PlaceByPixels(form.OkKnop, column1, 312, 136, 28);
+    PlaceByPixels(form.CancelKnop, 160, 312, 136, 28);
     form.OkKnop.SetCaption("OK");
     form.CancelKnop.SetCaption("Cancel");
 }

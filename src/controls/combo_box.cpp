@@ -47,8 +47,10 @@ void ComboBox::UserEdits(const std::string& text) {
 void ComboBox::KeyPressed(int code, int shift) {
     Control::KeyPressed(code, shift);
     if (!Answers() || (code != keyUp && code != keyDown)) return;
-    const int row = RowAfterKey(code, ListIndex(), ListCount());
-    if (row != ListIndex()) UserPicks(row);
+    // From the row that was typed, as from one that was chosen.
+    const int start = ListIndex() >= 0 ? ListIndex() : rows_.Find(text_);
+    const int row = RowAfterKey(code, start, ListCount());
+    if (row != start) UserPicks(row);
 }
 
 void ComboBox::VisitProperties(PropertyVisitor& visitor) {

@@ -23,6 +23,11 @@ public:
     bool VerticalScroll = false;  ///< A scroll bar at the right, for multi-line boxes.
     bool Locked = false;          ///< The user can read and copy, but not change.
 
+    /// Has a screen select the text, so that what the user types next replaces it.
+    void SelectText() { ++selections_; }
+    /// How often that was done.
+    int Selections() const { return selections_; }
+
     Event<> Change;
 
     /// The user types one character behind the text; `Change` comes once a character. A control character
@@ -37,6 +42,7 @@ public:
 
 private:
     std::string text_;
+    int selections_ = 0;
 };
 
 /// What a typed character adds to a field: itself without control characters; a line end adds CR LF to a

@@ -1,5 +1,7 @@
 #include "filters/block_filters.h"
 
+#include "filters/pixel_words.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -9,52 +11,85 @@ namespace coinlet {
 
 namespace {
 
-using Channels = std::array<std::uint8_t, colourChannels>;
+/// Pixelizes by `side`, a sum of so many squared values being a Sum.
+template <class Sum>
+void PixelizeBySums(FilterRun& run, int side) {
+    const int width = run.Width(), height = run.Height(), rowBytes = width * pixelBytes;
+    const int blocks = (width + side - 1) / side;
+    // Of the present row of blocks: the sums of each column, of each block, its pixels, and its mean colour.
+    std::vector<std::int32_t> columns(static_cast<std::size_t>(rowBytes));
+    std::vector<Sum> sums(static_cast<std::size_t>(blocks) * pixelBytes);
+    std::vector<double> counts(sums.size());
+    std::vector<std::uint8_t> means(sums.size());
 
-/// The mean colour of the columns `left` to before `right` of the rows `top` to before `bottom`.
-Channels MeanColour(const PixelArray& picture, int left, int top, int right, int bottom) {
-    std::array<std::uint64_t, colourChannels> sums{};
-    for (int y = top; y < bottom; ++y) {
-        const std::uint8_t* row = picture.Row(y);
-        for (int x = left; x < right; ++x) {
-            for (int channel = 0; channel < colourChannels; ++channel)
-                sums[static_cast<std::size_t>(channel)] += row[x * pixelBytes + channel];
+    const auto measure = [&](int top, int bottom) {
+        std::ranges::fill(columns, 0);
+        for (int y = top; y < bottom; ++y) {
+            const std::uint8_t* row = run.source.Row(y);
+            std::int32_t* column = columns.data();
+            for (int i = 0; i < rowBytes; ++i)
+                column[i] += row[i];
         }
+        for (int block = 0; block < blocks; ++block) {
+            const int left = block * side, right = std::min(left + side, width);
+            std::array<Sum, pixelBytes> sum{};
+            for (int x = left; x < right; ++x) {
+                for (std::size_t channel = 0; channel < sum.size(); ++channel)
+                    sum[channel] += columns[static_cast<std::size_t>(x) * pixelBytes + channel];
+            }
+            const std::size_t first = static_cast<std::size_t>(block) * pixelBytes;
+            std::copy_n(sum.data(), sum.size(), sums.data() + first);
+            std::fill_n(counts.data() + first, sum.size(), double(right - left) * (bottom - top));
+        }
+        // Sums of squares of this size are whole in double precision, and so far from it that a quotient that
+        // isn't whole stays below the next whole number.
+        for (std::size_t i = 0; i < sums.size(); ++i)
+            means[i] = static_cast<std::uint8_t>(static_cast<int>(static_cast<double>(sums[i]) / counts[i]));
+    };
+
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* to = run.work.Row(y);
+        if (y % side != 0) {
+            std::copy_n(run.work.Row(y - 1), rowBytes, to);
+        } else {
+            measure(y, std::min(y + side, height));
+            for (int block = 0; block < blocks; ++block) {
+                const std::uint32_t mean = PixelAt(means.data(), block);
+                for (int x = block * side; x < std::min((block + 1) * side, width); ++x)
+                    PutPixel(to, x, mean);
+            }
+        }
+        run.RowDone(y);
     }
-    const auto count = static_cast<std::uint64_t>(right - left) * static_cast<std::uint64_t>(bottom - top);
-    Channels means{};
-    for (std::size_t channel = 0; channel < means.size(); ++channel)
-        means[channel] = static_cast<std::uint8_t>(sums[channel] / count);
-    return means;
 }
 
 /// Gives every channel inside the border value(its own, the extreme of the 3 by 3 around it): `extreme` picks
 /// one of two.
 template <class Extreme, class Value>
 void WalkExtremes(FilterRun& run, Extreme extreme, Value value) {
-    const int rowBytes = run.Width() * pixelBytes;
-    std::vector<std::uint8_t> columns(static_cast<std::size_t>(rowBytes));  // the extreme of three rows each
-    for (int y = 1; y < run.Height() - 1; ++y) {
-        const std::uint8_t *above = run.source.Row(y - 1), *here = run.source.Row(y),
-                           *below = run.source.Row(y + 1);
-        std::uint8_t* column = columns.data();
-        for (int i = 0; i < rowBytes; ++i)
-            column[i] = extreme(extreme(above[i], here[i]), below[i]);
-        std::uint8_t* to = run.work.Row(y);
-        for (int i = pixelBytes; i < rowBytes - pixelBytes; ++i) {
-            const std::uint8_t sides = extreme(column[i - pixelBytes], column[i + pixelBytes]);
-            to[i] = value(here[i], extreme(sides, column[i]));
+    WithVectorUnits(run.units, [=, &run] {
+        const int rowBytes = run.Width() * pixelBytes;
+        std::vector<std::uint8_t> columns(
+            static_cast<std::size_t>(rowBytes));  // the extreme of three rows each
+        for (int y = 1; y < run.Height() - 1; ++y) {
+            const std::uint8_t *above = run.source.Row(y - 1), *here = run.source.Row(y),
+                               *below = run.source.Row(y + 1);
+            std::uint8_t* column = columns.data();
+            for (int i = 0; i < rowBytes; ++i)
+                column[i] = extreme(extreme(above[i], here[i]), below[i]);
+            std::uint8_t* to = run.work.Row(y);
+            for (int i = pixelBytes; i < rowBytes - pixelBytes; ++i) {
+                const std::uint8_t sides = extreme(column[i - pixelBytes], column[i + pixelBytes]);
+                to[i] = value(here[i], extreme(sides, column[i]));
+            }
+            run.RowDone(y);
         }
-        run.RowDone(y);
-    }
+    });
 }
 
-std::uint8_t Lower(std::uint8_t a, std::uint8_t b) {
-    return std::min(a, b);
-}
-std::uint8_t Higher(std::uint8_t a, std::uint8_t b) {
-    return std::max(a, b);
-}
+// Not functions: each makes a walk of its own, into which it is pulled.
+constexpr auto lower = [](std::uint8_t a, std::uint8_t b) { return std::min(a, b); };
+constexpr auto higher = [](std::uint8_t a, std::uint8_t b) { return std::max(a, b); };
 
 /// Mean and spread of the 3 by 3 blocks around each byte of a row. The spread is the sum of the distances
 /// from the mean, at most 9 * 255.
@@ -109,54 +144,48 @@ void ChooseCalmest(const BlockRow& above, const BlockRow& below, int width, std:
 
 void FilterPixelize(FilterRun& run, std::int32_t side) {
     if (side < 1) return;
-    const int width = run.Width(), height = run.Height();
-    const int step = std::min(side, std::max({width, height, 1}));
-    for (int y = 0; y < height; ++y) {
-        std::uint8_t* to = run.work.Row(y);
-        if (y % step != 0) {
-            std::copy_n(run.work.Row(y - 1), width * pixelBytes, to);
-        } else {
-            const int bottom = std::min(y + step, height);
-            for (int left = 0; left < width; left += step) {
-                const int right = std::min(left + step, width);
-                const Channels mean = MeanColour(run.source, left, y, right, bottom);
-                for (int x = left; x < right; ++x)
-                    std::ranges::copy(mean, to + x * pixelBytes);
-            }
-        }
-        run.RowDone(y);
-    }
+    // Larger blocks than the picture are the picture.
+    const int step = std::min(side, std::max({run.Width(), run.Height(), 1}));
+    constexpr int greatestOfSmallSums = 2048;  // 255 * 2048 * 2048 fits 31 bits.
+    WithVectorUnits(run.units, [=, &run] {
+        if (step <= greatestOfSmallSums)
+            PixelizeBySums<std::int32_t>(run, step);
+        else
+            PixelizeBySums<std::int64_t>(run, step);
+    });
 }
 
 void FilterErode(FilterRun& run) {
-    WalkExtremes(run, Lower, [](std::uint8_t, std::uint8_t lowest) { return lowest; });
+    WalkExtremes(run, lower, [](std::uint8_t, std::uint8_t lowest) { return lowest; });
 }
 
 void FilterDilate(FilterRun& run) {
-    WalkExtremes(run, Higher, [](std::uint8_t, std::uint8_t highest) { return highest; });
+    WalkExtremes(run, higher, [](std::uint8_t, std::uint8_t highest) { return highest; });
 }
 
 void FilterConnection(FilterRun& run) {
-    WalkExtremes(run, Lower, [](std::uint8_t own, std::uint8_t lowest) {
+    WalkExtremes(run, lower, [](std::uint8_t own, std::uint8_t lowest) {
         return static_cast<std::uint8_t>(own - lowest);
     });
 }
 
 void FilterAquarel(FilterRun& run) {
-    const int width = run.Width(), height = run.Height();
-    if (width < 5 || height < 5) return;
-    // A pixel needs the blocks around the rows above and below it: three rows of blocks, used in turn.
-    std::array<BlockRow, 3> blocks{BlockRow(width), BlockRow(width), BlockRow(width)};
-    const auto blocksAround = [&blocks](int y) -> BlockRow& {
-        return blocks[static_cast<std::size_t>(y) % blocks.size()];
-    };
-    for (const int y : {1, 2})
-        blocksAround(y).Measure(run.source, y);
-    for (int y = 2; y < height - 2; ++y) {
-        blocksAround(y + 1).Measure(run.source, y + 1);
-        ChooseCalmest(blocksAround(y - 1), blocksAround(y + 1), width, run.work.Row(y));
-        run.RowDone(y);
-    }
+    WithVectorUnits(run.units, [&run] {
+        const int width = run.Width(), height = run.Height();
+        if (width < 5 || height < 5) return;
+        // A pixel needs the blocks around the rows above and below it: three rows of blocks, used in turn.
+        std::array<BlockRow, 3> blocks{BlockRow(width), BlockRow(width), BlockRow(width)};
+        const auto blocksAround = [&blocks](int y) -> BlockRow& {
+            return blocks[static_cast<std::size_t>(y) % blocks.size()];
+        };
+        for (const int y : {1, 2})
+            blocksAround(y).Measure(run.source, y);
+        for (int y = 2; y < height - 2; ++y) {
+            blocksAround(y + 1).Measure(run.source, y + 1);
+            ChooseCalmest(blocksAround(y - 1), blocksAround(y + 1), width, run.work.Row(y));
+            run.RowDone(y);
+        }
+    });
 }
 
 }  // namespace coinlet

@@ -37,9 +37,9 @@ inline int RoundWhole(double value) {
     return static_cast<int>(value + noFractions - noFractions);
 }
 
-/// The gray value of a pixel in memory, blue, green, red; all three weigh the same.
-constexpr int Gray(const std::uint8_t* pixel) {
-    return (pixel[0] + pixel[1] + pixel[2]) / 3;
+/// A percentage as a factor, in the single precision that it is kept in.
+inline double FactorOf(std::int64_t percent) {
+    return static_cast<float>(static_cast<double>(percent) / 100);
 }
 
 }  // namespace coinlet

@@ -2,6 +2,8 @@
 
 #include "filters/channels.h"
 #include "filters/mean_gray.h"
+#include "filters/pixel_words.h"
+#include "filters/place.h"
 
 #include <algorithm>
 #include <array>
@@ -12,75 +14,116 @@ namespace coinlet {
 
 namespace {
 
-void Put(std::uint8_t* pixel, int value) {
-    pixel[0] = pixel[1] = pixel[2] = static_cast<std::uint8_t>(value);
-}
+constexpr std::uint32_t whitePixel = 0xFFFFFF;
 
 /// Sharpens a row that isn't the first or the last, but for its ends: (10 v - ring) / 2.
 void SharpenRow(const PixelArray& picture, int y, std::uint8_t* to) {
     const std::uint8_t *above = picture.Row(y - 1), *here = picture.Row(y), *below = picture.Row(y + 1);
     const int end = (picture.Width() - 1) * pixelBytes;
     for (int i = pixelBytes; i < end; ++i) {
-        const int before = i - pixelBytes, behind = i + pixelBytes;
-        const int ring = above[before] + above[i] + above[behind] + here[before] + here[behind] +
-                         below[before] + below[i] + below[behind];
-        to[i] = ClampToByte((10 * here[i] - ring) / 2);
+        const Place place{above + i, here + i, below + i};
+        const auto doubled = static_cast<std::int16_t>(10 * place.At(0, 0) - place.Ring());
+        to[i] = ClampToByte(doubled / 2);
     }
+}
+
+/// What a row hands on from pixel to pixel: a quarter of the error of the last one.
+constexpr int greatestCarry = 255 / 4;
+
+/// By the sum of a gray and a carry, from -greatestCarry on.
+struct Step {
+    std::int8_t carry;
+    std::uint8_t output;
+};
+using Steps = std::array<Step, 255 + 2 * greatestCarry + 1>;
+
+Steps StepsFor(int threshold) {
+    Steps steps{};
+    for (int sum = -greatestCarry; sum <= 255 + greatestCarry; ++sum) {
+        const int value = ClampToByte(sum);
+        const int output = value < threshold ? 0 : 255;
+        steps[static_cast<std::size_t>(sum + greatestCarry)] = {
+            static_cast<std::int8_t>((value - output) / 4), static_cast<std::uint8_t>(output)};
+    }
+    return steps;
 }
 
 }  // namespace
 
 void FilterThreshold(FilterRun& run, Colour limit) {
-    const auto [red, green, blue] = SplitColor(limit);
-    const int end = run.Width() * pixelBytes;
-    for (int y = 0; y < run.Height(); ++y) {
-        const std::uint8_t* from = run.source.Row(y);
-        std::uint8_t* to = run.work.Row(y);
-        for (int i = 0; i < end; i += pixelBytes) {
-            const bool below = from[i] < blue && from[i + 1] < green && from[i + 2] < red;
-            Put(to + i, below ? 0 : 255);
+    WithVectorUnits(run.units, [=, &run] {
+        const ColourChannels limits = SplitColor(limit);
+        const auto red = static_cast<std::uint32_t>(limits.red),
+                   green = static_cast<std::uint32_t>(limits.green),
+                   blue = static_cast<std::uint32_t>(limits.blue);
+        const int width = run.Width();
+        for (int y = 0; y < run.Height(); ++y) {
+            const std::uint8_t* from = run.source.Row(y);
+            std::uint8_t* to = run.work.Row(y);
+            for (int x = 0; x < width; ++x) {
+                const std::uint32_t word = PixelAt(from, x);
+                const bool below =
+                    (word & 0xFF) < blue && (word >> 8 & 0xFF) < green && (word >> 16 & 0xFF) < red;
+                PutPixel(to, x, below ? 0 : whitePixel);
+            }
+            run.RowDone(y);
         }
-        run.RowDone(y);
-    }
+    });
 }
 
 void FilterSharpDither(FilterRun& run) {
-    constexpr int meanTaken = 5;
-    const int width = run.Width(), height = run.Height();
-    const int threshold = MeanGray(run.source);
-    run.Reached(meanTaken);
-    std::vector<std::uint8_t> sharp(static_cast<std::size_t>(width) * pixelBytes);
-    int carry = 0;  // from pixel to pixel, and from the end of a row to the next
-    for (int y = 0; y < height; ++y) {
-        std::copy_n(run.source.Row(y), sharp.size(), sharp.data());
-        if (y > 0 && y < height - 1) SharpenRow(run.source, y, sharp.data());
-        std::uint8_t* to = run.work.Row(y);
-        for (int x = 0; x < width; ++x) {
-            const int value = ClampToByte(Gray(sharp.data() + x * pixelBytes) + carry);
-            const int output = value < threshold ? 0 : 255;
-            Put(to + x * pixelBytes, output);
-            carry = (value - output) / 4;
+    WithVectorUnits(run.units, [&run] {
+        constexpr int meanTaken = 5;
+        const int width = run.Width(), height = run.Height();
+        const Steps steps = StepsFor(MeanGray(run.source));
+        run.Reached(meanTaken);
+        std::vector<std::uint8_t> sharpened(static_cast<std::size_t>(width) * pixelBytes);
+        std::vector<std::uint8_t> row(static_cast<std::size_t>(width));
+        std::ptrdiff_t carry = 0;  // from pixel to pixel, and from the end of a row to the next
+        for (int y = 0; y < height; ++y) {
+            std::uint8_t *sharp = sharpened.data(), *values = row.data(), *to = run.work.Row(y);
+            std::copy_n(run.source.Row(y), sharpened.size(), sharp);
+            if (y > 0 && y < height - 1) SharpenRow(run.source, y, sharp);
+            for (int x = 0; x < width; ++x)
+                values[x] = static_cast<std::uint8_t>(GrayOf(PixelAt(sharp, x)));
+            // A pixel waits for the one at its left: between them there is only this look into a table.
+            for (int x = 0; x < width; ++x) {
+                const Step* stepsFrom = steps.data() + greatestCarry + values[x];
+                const Step& step = stepsFrom[carry];
+                carry = step.carry;
+                values[x] = step.output;
+            }
+            for (int x = 0; x < width; ++x)
+                PutPixel(to, x, GrayPixel(values[x]));
+            run.RowDone(y, meanTaken);
         }
-        run.RowDone(y, meanTaken);
-    }
+    });
 }
 
 void FilterOrderedDither(FilterRun& run) {
-    constexpr std::size_t screenSide = 4;
-    // Rows of the picture's columns: limits[x modulo 4][y modulo 4].
-    constexpr std::array<std::array<int, screenSide>, screenSide> limits{
-        {{1, 9, 3, 11}, {13, 5, 15, 7}, {4, 12, 2, 10}, {16, 8, 14, 6}}};
-    for (int y = 0; y < run.Height(); ++y) {
-        const std::uint8_t* from = run.source.Row(y);
-        std::uint8_t* to = run.work.Row(y);
-        const auto row = static_cast<std::size_t>(y) % screenSide;
-        for (int x = 0; x < run.Width(); ++x) {
-            const int level = Gray(from + x * pixelBytes) / 16 + 1;
-            const int limit = limits[static_cast<std::size_t>(x) % screenSide][row];
-            Put(to + x * pixelBytes, level < limit ? 0 : 255);
+    WithVectorUnits(run.units, [&run] {
+        constexpr std::size_t screenSide = 4;
+        // Rows of the picture's columns: limits[x modulo 4][y modulo 4].
+        constexpr std::array<std::array<std::uint32_t, screenSide>, screenSide> limits{
+            {{1, 9, 3, 11}, {13, 5, 15, 7}, {4, 12, 2, 10}, {16, 8, 14, 6}}};
+        const int width = run.Width();
+        // The screen as wide as the picture, a row for each of its own.
+        std::array<std::vector<std::uint32_t>, screenSide> screen;
+        for (std::size_t row = 0; row < screen.size(); ++row) {
+            for (std::size_t x = 0; x < static_cast<std::size_t>(width); ++x)
+                screen[row].push_back(limits[x % screenSide][row]);
         }
-        run.RowDone(y);
-    }
+        for (int y = 0; y < run.Height(); ++y) {
+            const std::uint8_t* from = run.source.Row(y);
+            std::uint8_t* to = run.work.Row(y);
+            const std::uint32_t* limit = screen[static_cast<std::size_t>(y) % screenSide].data();
+            for (int x = 0; x < width; ++x) {
+                const std::uint32_t level = GrayOf(PixelAt(from, x)) / 16 + 1;
+                PutPixel(to, x, level < limit[x] ? 0 : whitePixel);
+            }
+            run.RowDone(y);
+        }
+    });
 }
 
 }  // namespace coinlet

@@ -2,6 +2,7 @@
 
 #include "base/random.h"
 #include "filters/pixel_array.h"
+#include "filters/vector_units.h"
 
 namespace coinlet {
 
@@ -19,13 +20,16 @@ public:
 /// columns count from 0. The spare byte of a pixel is nobody's: a filter may leave any value there.
 class FilterRun {
 public:
-    /// Both arrays have the same size and, at first, the same content. All must outlive the run.
-    FilterRun(PixelArray& toWriteTo, const PixelArray& untouched, RandomGenerator& dice, FilterPace& watcher)
-        : work(toWriteTo), source(untouched), random(dice), pace_(watcher) {}
+    /// Both arrays have the same size and, at first, the same content. All must outlive the run. The
+    /// processor must have the units.
+    FilterRun(PixelArray& toWriteTo, const PixelArray& untouched, RandomGenerator& dice, FilterPace& watcher,
+              VectorUnits built = WidestVectorUnits())
+        : work(toWriteTo), source(untouched), random(dice), units(built), pace_(watcher) {}
 
     PixelArray& work;          ///< The result; what a filter leaves out keeps its old colours.
     const PixelArray& source;  ///< For filters that mustn't see their own output.
     RandomGenerator& random;
+    const VectorUnits units;  ///< That filters are to use where they have a choice.
 
     int Width() const { return work.Width(); }
     int Height() const { return work.Height(); }

@@ -21,6 +21,22 @@ namespace coinlet {
 
 namespace {
 
+/// Opens its list at the row that the text tells, typed or chosen.
+class DropDown : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override {
+        const QString text = currentText();
+        if (itemText(currentIndex()) != text) {
+            const int row = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            const QSignalBlocker silent(*this);
+            if (row >= 0) setCurrentIndex(row);
+        }
+        QComboBox::showPopup();
+    }
+};
+
 class ComboBoxView : public ViewOf<ComboBox> {
 public:
     ComboBoxView(ComboBox& combo, QComboBox& widget, EventGate& gate)
@@ -102,7 +118,7 @@ private:
 }  // namespace
 
 ControlView* MakeComboBoxView(Control& control, QWidget& parent, EventGate& gate) {
-    return new ComboBoxView(static_cast<ComboBox&>(control), *new QComboBox(&parent), gate);
+    return new ComboBoxView(static_cast<ComboBox&>(control), *new DropDown(&parent), gate);
 }
 
 }  // namespace coinlet

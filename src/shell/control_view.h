@@ -34,6 +34,8 @@ public:
     virtual void Detach();
     /// The same after the control has ended; it isn't touched any more.
     void Abandon();
+    /// The focus has come to the control, by a key or because its form says so.
+    virtual void FocusComes() {}
     /// Shapes and lines that lie in the control, for views of containers.
     virtual void GatherOutlines() {}
 

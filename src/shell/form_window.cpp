@@ -164,8 +164,9 @@ void FormWindow::MirrorFocus() {
     const Control* focused = form_->Focus();
     ControlView* view = focused ? ViewOf(*focused) : nullptr;
     QWidget* wanted = view ? &view->KeyboardWidget() : this;
-    // As if by the tab key: a field then has its text selected, so that typing replaces it.
-    if (focusWidget() != wanted) wanted->setFocus(Qt::TabFocusReason);
+    if (focusWidget() == wanted) return;
+    wanted->setFocus(Qt::TabFocusReason);
+    if (view) view->FocusComes();
 }
 
 void FormWindow::Detach() {

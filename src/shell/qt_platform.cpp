@@ -188,8 +188,8 @@ void QtPlatform::ProgramEnding() {
 /// A dialog has closed. Some window managers give the focus back, some don't.
 void QtPlatform::FrontComesBack() {
     QWidget* front = FrontWindow();
-    if (Ended() || !front || ownDialogs_ > 0) return;
-    focusIsOnItsWay_ = !front->isActiveWindow();
+    if (Ended() || !front) return;
+    if (ownDialogs_ == 0) focusIsOnItsWay_ = !front->isActiveWindow();
     gate_.Quietly([front] { front->activateWindow(); });
 }
 

@@ -1,8 +1,10 @@
 #include "controls/scroll_bar.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
+#include "shell/look.h"
 #include "shell/views.h"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -11,6 +13,15 @@
 namespace coinlet {
 
 namespace {
+
+/// The bar that the arrow keys move is tinted like a button that the Enter key presses: the style itself
+/// shows no focus on scroll bars.
+QPalette BarPalette(bool focused) {
+    constexpr Colour focusTint = RGB(190, 222, 235);
+    QPalette palette = QApplication::palette();
+    if (focused) palette.setColor(QPalette::Button, ToQColor(focusTint));
+    return palette;
+}
 
 class ScrollBarView : public ViewOf<ScrollBar> {
 public:
@@ -25,6 +36,7 @@ public:
 protected:
     void MirrorContent() override {
         const ScrollBar& bar = model();
+        if (Differs(focused_, bar.HasFocus())) bar_.setPalette(BarPalette(focused_));
         const State state{
             bar.Min(),     bar.Max(), bar.Value(), std::max(1, bar.SmallChange), std::max(1, bar.LargeChange),
             bar.Reversed()};
@@ -62,6 +74,7 @@ private:
 
     QScrollBar& bar_;
     State state_;
+    bool focused_ = false;
 };
 
 }  // namespace

@@ -33,6 +33,7 @@ public:
 
 protected:
     virtual void ShowText(const QString& text) = 0;
+    virtual void SelectShownText() = 0;
     virtual void ShowLocked(bool locked) = 0;
 
     void MirrorContent() override {
@@ -42,9 +43,11 @@ protected:
         const bool backChanged = Differs(back_, box.BackColor);
         if (foreChanged || backChanged) Widget().setPalette(FieldPalette(fore_, back_));
         if (Differs(locked_, box.Locked)) ShowLocked(locked_);
-        if (!Differs(text_, box.Text())) return;
-        const QSignalBlocker silent(Widget());
-        ShowText(ToQString(text_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+        if (Differs(text_, box.Text())) {
+            const QSignalBlocker silent(Widget());
+            ShowText(ToQString(text_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+        }
+        if (Differs(selections_, box.Selections())) SelectShownText();
     }
 
     void Edited(const QString& text) {
@@ -60,6 +63,7 @@ private:
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;
     bool locked_ = false;
+    int selections_ = 0;
 };
 
 class LineView : public TextBoxView {
@@ -69,7 +73,12 @@ public:
         connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
+    /// Typing replaces the text. The widget selects it by itself only if its window is the active one by
+    /// now, which that of a dialog isn't yet.
+    void FocusComes() override { SelectShownText(); }
+
 protected:
+    void SelectShownText() override { line_.selectAll(); }
     void ShowText(const QString& text) override {
         const int cursor = line_.cursorPosition();
         line_.setText(text);
@@ -119,6 +128,7 @@ public:
     }
 
 protected:
+    void SelectShownText() override { lines_.selectAll(); }
     void ShowText(const QString& text) override {
         const int cursor = lines_.textCursor().position();
         lines_.setPlainText(text);

@@ -1,5 +1,7 @@
 #include "store/design_files.h"
 
+#include <algorithm>
+
 namespace coinlet {
 
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension) {
@@ -11,6 +13,20 @@ std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::strin
                                    std::string_view extension) {
     if (!IsFileName(std::string(name).append(extension))) return {};
     return DesignFile(applicationFolder, name, extension);
+}
+
+std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view name,
+                             std::string_view extension) {
+    const fs::path usual = DesignFile(applicationFolder, name, extension);
+    if (FileExists(usual)) return usual;
+    const fs::path folder = usual.parent_path();
+    for (const std::string& file : ListFiles(folder, "*" + std::string(extension)))
+        if (DesignOf(file) == name) return folder / file;
+    return usual;
+}
+
+std::string DesignOf(std::string_view file) {
+    return std::string(file.substr(0, file.size() - std::min(file.size(), designPicture.size())));
 }
 
 }  // namespace coinlet

@@ -20,4 +20,12 @@ std::string DesignFile(const fs::path& applicationFolder, std::string_view name,
 std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::string_view name,
                                    std::string_view extension);
 
+/// The file that holds this part of a stored design: `DesignFile`, or, where that isn't there, one with the
+/// extension in other letters. Stores that come from a system without regard to case hold ".PAT" and ".TXT".
+std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view name,
+                             std::string_view extension);
+
+/// The name of a design, from that of one of its files. A shorter name than an extension leaves an empty one.
+std::string DesignOf(std::string_view file);
+
 }  // namespace coinlet

@@ -45,9 +45,9 @@ void WriteDesignInfoText(const Context& context, std::string_view name, FileCall
 void ReadDesignInfoText(const Context& context, std::string_view name) {
     ListBox& rows = context.main.List2;
     rows.Clear();
-    const auto path = DesignPath(context.services.applicationFolder, name, designInfoText);
-    if (!path) return;
-    const auto bytes = ReadFile(*path, largestInfoText);
+    const fs::path& folder = context.services.applicationFolder;
+    if (!DesignPath(folder, name, designInfoText)) return;
+    const auto bytes = ReadFile(StoredDesignFile(folder, name, designInfoText), largestInfoText);
     if (!bytes) return;
     std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
     for (int item = 0; item < headerItems; ++item)

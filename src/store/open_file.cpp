@@ -11,7 +11,6 @@
 #include "store/info_text.h"
 #include "surface/codecs.h"
 
-#include <algorithm>
 #include <string>
 
 namespace coinlet {
@@ -23,21 +22,6 @@ constexpr std::string_view designPattern = "*.pat";
 constexpr double previewSide = 100;
 /// The side panel's size on the main form, in pixels; in the picture of a design it has the same width.
 constexpr double panelWidth = 178, panelHeight = 500;
-
-/// The name of a design, from that of its picture. A shorter name than an extension leaves an empty one.
-std::string DesignOf(const std::string& file) {
-    return file.substr(0, file.size() - std::min(file.size(), designPicture.size()));
-}
-
-/// The picture of a design. Stores that come from a system without regard to case hold ".PAT" as well.
-std::string PictureOf(const Context& context, const std::string& name) {
-    const fs::path usual = DesignFile(context.services.applicationFolder, name, designPicture);
-    if (FileExists(usual)) return usual;
-    const fs::path folder = usual.parent_path();
-    for (const std::string& file : ListFiles(folder, designPattern))
-        if (DesignOf(file) == name) return folder / file;
-    return usual;
-}
 
 }  // namespace
 
@@ -82,9 +66,13 @@ void OpenFile::Form_Load() {
     List1.SetFocus();
 }
 
+std::string OpenFile::PathOf(const std::string& name, std::string_view extension) const {
+    return StoredDesignFile(context_.services.applicationFolder, name, extension);
+}
+
 void OpenFile::List1_Click() {
     DelKnop.SetEnabled(true);
-    if (const auto picture = LoadPicture(PictureOf(context_, List1.Text()), context_.services.codecs))
+    if (const auto picture = LoadPicture(PathOf(List1.Text(), designPicture), context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
     const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - panelWidth, BackPic.surface.ScaleHeight()};
@@ -93,7 +81,7 @@ void OpenFile::List1_Click() {
 
 void OpenFile::OpenChosen() {
     const std::string name = List1.Text();
-    const std::string file = PictureOf(context_, name);
+    const std::string file = PathOf(name, designPicture);
     Session& session = context_.session;
     session.DesignFile = file;
     // Without a choice the name is empty, and a file called ".pat" isn't meant.
@@ -137,10 +125,10 @@ void OpenFile::DelKnop_Click() {
                                                 .standard = Answer::No});
     if (answer != Answer::Yes) return;
     // A file that can't be deleted, or is gone already, is passed over: the row goes all the same.
-    static_cast<void>(DeleteFile(PictureOf(context_, name)));
+    static_cast<void>(DeleteFile(PathOf(name, designPicture)));
     List1.RemoveItem(row);
     Image1.surface.Cls();
-    static_cast<void>(DeleteFile(DesignFile(context_.services.applicationFolder, name, designInfoText)));
+    static_cast<void>(DeleteFile(PathOf(name, designInfoText)));
 }
 
 }  // namespace coinlet

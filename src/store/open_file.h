@@ -7,6 +7,9 @@
 #include "controls/picture_box.h"
 #include "controls/vista_button.h"
 
+#include <string>
+#include <string_view>
+
 namespace coinlet {
 
 struct Context;
@@ -35,6 +38,8 @@ public:
 
 private:
     void LayOut();
+    /// A file of the design `name` in the store.
+    std::string PathOf(const std::string& name, std::string_view extension) const;
     /// Puts the chosen design on the canvas, or leaves the present one if it can't be read.
     void OpenChosen();
 

@@ -57,10 +57,15 @@ void TekstForm::DrawIcon() {
 void TekstForm::Form_Load() {
     Label2.Caption = LookupInfoText(context_, "200");
     const ListBox& rows = context_.main.List2;
-    std::string text;
-    for (int i = 0; i < rows.ListCount(); ++i)
-        text += rows.List(i) + "\r\n";
-    Text1.SetText(rows.ListCount() == 0 ? LookupInfoText(context_, "201") : text);
+    if (rows.ListCount() == 0) {
+        Text1.SetText(LookupInfoText(context_, "201"));
+        Text1.SelectText();
+    } else {
+        std::string text;
+        for (int i = 0; i < rows.ListCount(); ++i)
+            text += rows.List(i) + "\r\n";
+        Text1.SetText(text);
+    }
     Text1.SetFocus();
 }
 

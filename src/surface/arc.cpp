@@ -10,6 +10,8 @@ namespace coinlet {
 namespace {
 
 constexpr double fullTurn = 2 * std::numbers::pi;
+/// How far from the direction of an end a pixel still belongs to the arc.
+constexpr double endReach = 0.5;
 
 /// The same direction in 0 .. 2 pi.
 double Normalised(double angle) {
@@ -37,19 +39,13 @@ std::optional<Arc> Arc::Between(const ArcAngles& angles) {
 
 bool Arc::Contains(int x, int y) const {
     if (whole_) return true;
-    // Which side of the two rays the point is on says it, and costs far less than an angle. Only where it is
-    // on a ray, or nearly, is its angle compared, so that both ends count in.
+    // The distances from the two rays also tell on which side of them the point lies, and cost far less than
+    // an angle.
     const double afterStart = startX_ * y - startY_ * x, beforeEnd = endY_ * x - endX_ * y;
-    const double nearly = 1e-9 * (std::abs(static_cast<double>(x)) + std::abs(static_cast<double>(y)));
-    if (std::abs(afterStart) <= nearly || std::abs(beforeEnd) <= nearly) return ContainsAngleOf(x, y);
-    const bool after = afterStart > 0, before = beforeEnd > 0;
-    return span_ > std::numbers::pi ? after || before : after && before;
-}
-
-bool Arc::ContainsAngleOf(double x, double y) const {
-    const double angle = Normalised(std::atan2(y, x));
-    if (start_ <= end_) return (angle >= start_ && angle <= end_) || (angle == 0 && end_ == fullTurn);
-    return angle >= start_ || angle <= end_;
+    const bool after = afterStart >= 0, before = beforeEnd >= 0;
+    if (span_ > std::numbers::pi ? after || before : after && before) return true;
+    return (std::abs(afterStart) <= endReach && startX_ * x + startY_ * y > 0) ||
+           (std::abs(beforeEnd) <= endReach && endX_ * x + endY_ * y > 0);
 }
 
 }  // namespace coinlet

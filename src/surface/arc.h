@@ -15,13 +15,13 @@ public:
     static std::optional<Arc> Between(const ArcAngles& angles);
 
     bool IsWholeTurn() const { return whole_; }
-    /// If the direction of a point lies in the arc; y grows upward here. The origin itself counts as lying at
-    /// angle 0.
+    /// If the pixel at a point belongs to the arc; y grows upward here. It does if its direction lies in the
+    /// arc, or if it is within half a pixel of one of the two rays in the directions of the ends: so the
+    /// pixel that an end falls on belongs to the arc, and a line that is drawn on from there leaves no gap.
     bool Contains(int x, int y) const;
 
 private:
     Arc() = default;
-    bool ContainsAngleOf(double x, double y) const;
 
     bool whole_ = false;
     double start_ = 0, end_ = 0;  ///< In 0 .. 2 pi.

@@ -124,6 +124,12 @@ bool IsInside(const Bitmap& bitmap, const PixelRect& area) {
     return area.left >= 0 && area.top >= 0 && area.right <= bitmap.Width() && area.bottom <= bitmap.Height();
 }
 
+/// The box that a pen fills which goes along the edge of the box of a thin pen.
+PixelRect Widened(const PixelRect& path, int penWidth) {
+    const int before = penWidth / 2, after = penWidth - 1 - before;
+    return {path.left - before, path.top - before, path.right + after, path.bottom + after};
+}
+
 template <class Paint>
 void DrawThinCircle(Bitmap& bitmap, const PixelRect& edges, const Paint& paint) {
     const int radius = edges.Width() / 2, centreX = edges.left + radius, centreY = edges.top + radius;
@@ -168,17 +174,13 @@ int RoundedBox::Inset(int row) const {
     return whole < inset ? whole + 1 : whole;
 }
 
-RoundedBox EllipseOutside(int x, int y, int semiAxisX, int semiAxisY, int penWidth) {
-    const int before = penWidth / 2, after = penWidth - before;
-    const PixelRect edges{x - semiAxisX - before, y - semiAxisY - before, x + semiAxisX + after,
-                          y + semiAxisY + after};
+RoundedBox EllipseOutside(const PixelRect& path, int penWidth) {
+    const PixelRect edges = Widened(path, penWidth);
     return {edges, edges.Width() / 2.0, edges.Height() / 2.0};
 }
 
 RoundedBox BoxOutside(const PixelRect& path, int cornerWidth, int cornerHeight, int penWidth) {
-    const int before = penWidth / 2, after = penWidth - 1 - before;
-    return {{path.left - before, path.top - before, path.right + after, path.bottom + after},
-            (std::max(cornerWidth, 1) + penWidth - 1) / 2.0,
+    return {Widened(path, penWidth), (std::max(cornerWidth, 1) + penWidth - 1) / 2.0,
             (std::max(cornerHeight, 1) + penWidth - 1) / 2.0};
 }
 

@@ -20,13 +20,14 @@ struct RoundedBox {
     int Inset(int row) const;
 };
 
-/// Semi-axes and centres of ellipses may go up to this, so that a radius of a thousand million is fine.
+/// The edges of ellipses may go up to this, so that a radius of a thousand million is fine.
 constexpr int ellipseReach = 1 << 28;
 
-/// The outer edge of what a pen draws along an ellipse about the pixel (x, y).
-RoundedBox EllipseOutside(int x, int y, int semiAxisX, int semiAxisY, int penWidth);
+/// The outer edge of what a pen draws along the ellipse that fills `path`, the box of the pixels that a thin
+/// pen would touch as its outermost ones.
+RoundedBox EllipseOutside(const PixelRect& path, int penWidth);
 /// The outer edge of what a pen draws along a box whose corners are ellipses of that width and height in
-/// pixels. `path` holds the pixels that a thin pen would touch as its outermost ones.
+/// pixels. `path` is that of a thin pen, too.
 RoundedBox BoxOutside(const PixelRect& path, int cornerWidth, int cornerHeight, int penWidth);
 
 /// Draws a ring with the outer edge `outside` and a pen's width, clipped to the bitmap; each pixel once. Its

@@ -62,6 +62,15 @@ void DrawLine(Surface& surface, const PixelLine& line, const Ink& ink) {
     });
 }
 
+/// The box of pixels that an ellipse fills. Its four edges are rounded, not its centre and its semi-axes: one
+/// that is drawn into a box of even size then ends at the edges of the box. Nothing if an edge is NaN.
+std::optional<PixelRect> EllipsePath(double x, double y, double semiAxisX, double semiAxisY) {
+    const double left = x - semiAxisX, top = y - semiAxisY, right = x + semiAxisX, bottom = y + semiAxisY;
+    if (std::isnan(left) || std::isnan(top) || std::isnan(right) || std::isnan(bottom)) return {};
+    return PixelRect{Rounded(left, ellipseReach), Rounded(top, ellipseReach),
+                     Rounded(right, ellipseReach) + 1, Rounded(bottom, ellipseReach) + 1};
+}
+
 void DrawBox(Surface& surface, PixelPoint first, PixelPoint opposite, const Ink& ink, Box kind) {
     const PixelRect path = PenBounds(first, opposite, 1);
     if (kind == Box::Filled) {
@@ -87,8 +96,8 @@ void Surface::PSet(double x, double y, std::optional<Colour> colour) {
     MoveCursor(*this, x, y);
     const double column = PixelX(x), row = PixelY(y);
     if (std::isnan(column) || std::isnan(row)) return;
-    const RoundedBox dot =
-        EllipseOutside(Rounded(column, lineReach), Rounded(row, lineReach), 0, 0, PenWidth(*this));
+    const int left = Rounded(column, lineReach), top = Rounded(row, lineReach);
+    const RoundedBox dot = EllipseOutside({left, top, left + 1, top + 1}, PenWidth(*this));
     DrawWithin(*this, dot.edges, [&](Bitmap& bitmap) {
         FillRoundedBox(bitmap, dot, InkOf(*this, colour.value_or(ForeColor)));
     });
@@ -119,19 +128,19 @@ void Surface::Circle(double x, double y, double radius, std::optional<Colour> co
     const double column = PixelX(x), row = PixelY(y);
     const double semiAxisX = std::abs(PixelLengthX(aspect > 1 ? radius / aspect : radius));
     const double semiAxisY = std::abs(PixelLengthY(aspect < 1 ? radius * aspect : radius));
-    if (std::isnan(column) || std::isnan(row) || std::isnan(semiAxisX) || std::isnan(semiAxisY)) return;
     if (radius < 0 || !(aspect > 0)) return;
     const std::optional<Arc> part = arc ? Arc::Between(*arc) : std::nullopt;
     if (arc && !part) return;
+    const std::optional<PixelRect> path = EllipsePath(column, row, semiAxisX, semiAxisY);
+    if (!path) return;
 
-    const int centreX = Rounded(column, ellipseReach), centreY = Rounded(row, ellipseReach);
     const int penWidth = PenWidth(*this);
-    const RoundedBox outside = EllipseOutside(centreX, centreY, Rounded(semiAxisX, ellipseReach),
-                                              Rounded(semiAxisY, ellipseReach), penWidth);
+    const RoundedBox outside = EllipseOutside(*path, penWidth);
     const Ink ink = InkOf(*this, colour.value_or(ForeColor));
     DrawWithin(*this, outside.edges, [&](Bitmap& bitmap) {
         if (part && !part->IsWholeTurn()) {
-            DrawRingPart(bitmap, outside, penWidth, ink, centreX, centreY, *part);
+            DrawRingPart(bitmap, outside, penWidth, ink, Rounded(column, ellipseReach),
+                         Rounded(row, ellipseReach), *part);
         } else {
             DrawRing(bitmap, outside, penWidth, ink, FillOf(*this));
         }

@@ -159,8 +159,8 @@ public:
     /// A circle, or with `aspect` (height divided by width) an ellipse whose longer semi-axis is `radius`:
     /// the vertical one above 1, the horizontal one below. With `arc` only that part, counter-clockwise from
     /// start to end; equal angles are the whole ellipse, an end of 0 is a full turn. Whole figures are filled
-    /// with `FillColor` if `FillStyle` is solidFill. A negative radius or an aspect not above 0 draws
-    /// nothing.
+    /// with `FillColor` if `FillStyle` is solidFill. The edges of the ellipse are rounded to pixels. A
+    /// negative radius or an aspect not above 0 draws nothing.
     void Circle(double x, double y, double radius, std::optional<Colour> colour = {},
                 std::optional<ArcAngles> arc = {}, double aspect = 1);
 

@@ -125,5 +125,54 @@ TEST_F(ProgramRoad, DesignIsOpenedAfterTheProgramWasKilled) {
     }
 }
 
+TEST_F(ProgramRoad, NameOfTheOpenDesignIsReplacedByTyping) {
+    SaveAs("tag");
+    ASSERT_FALSE(Stored("tag").Empty());
+    ASSERT_TRUE(MainIsInFront());
+    Key("ctrl+o");
+    Front();
+    Key("Down");
+    Key("Return");
+    ASSERT_TRUE(MainIsInFront());
+    SaveAs("other");
+    EXPECT_FALSE(Stored("other").Empty());
+    EXPECT_TRUE(MainIsInFront());
+}
+
+TEST_F(ProgramRoad, PromptOfTheInfoTextIsReplacedByTyping) {
+    Choose(OpenMenu(form.Bewerken), form.BewerkenInformation);
+    EXPECT_EQ(screen.TitleOf(Front()), "Coinlet Info Text");
+    Key("a");
+    Key("Return");
+    Key("b");
+    Key("Tab");
+    Key("space");
+    ASSERT_TRUE(MainIsInFront());
+    SaveAs("tag");
+    ASSERT_TRUE(MainIsInFront());
+    const auto bytes = ReadFile(folder / "Ontwerpen" / "tag.txt");
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(std::string(bytes->begin(), bytes->end()),
+              "Ivo Kestrell Software 2014\r\n--------------------------\r\na\r\nb\r\n\r\n");
+}
+
+TEST_F(ProgramRoad, DialogHasTheKeysAgainAfterItsQuestion) {
+    SaveAs("tag");
+    ASSERT_FALSE(Stored("tag").Empty());
+    ASSERT_TRUE(MainIsInFront());
+    SaveAs("tag");
+    Front(1);
+    // Not over the older one: it gets another name.
+    Key("Escape");
+    ASSERT_TRUE(Comes([&] { return screen.Windows().size() == 2; }));
+    const OpenWindow dialog = Front();
+    EXPECT_EQ(screen.TitleOf(dialog), "Save Coinlet");
+    ASSERT_TRUE(Comes([&] { return screen.HasTheKeys(dialog); }));
+    Key("2");
+    Key("Return");
+    EXPECT_FALSE(Stored("tag2").Empty());
+    EXPECT_TRUE(MainIsInFront());
+}
+
 }  // namespace
 }  // namespace coinlet::test

@@ -66,6 +66,12 @@ std::string Screen::TitleOf(const OpenWindow& window) const {
             static_cast<std::size_t>(xcb_get_property_value_length(title.get()))};
 }
 
+bool Screen::HasTheKeys(const OpenWindow& window) const {
+    const Owned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    return focus && focus->focus == window.id;
+}
+
 void Screen::AskToClose(const OpenWindow& window) const {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;

@@ -29,6 +29,8 @@ public:
     /// The windows that are shown, the lowest first.
     std::vector<OpenWindow> Windows() const;
     std::string TitleOf(const OpenWindow& window) const;
+    /// If what is typed now goes to the window.
+    bool HasTheKeys(const OpenWindow& window) const;
     /// Asks the program to close the window, as the close box on its frame does.
     void AskToClose(const OpenWindow& window) const;
     static QImage Grab(const QRect& part);

@@ -1,13 +1,16 @@
-// Every filter against its rule worked out slowly, on pictures of many sizes and kinds.
+// Every filter against its rule worked out slowly, on pictures of many sizes and kinds, built for every kind
+// of vector units that the processor has.
 
 #include "filtered.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
 #include <string>
+#include <tuple>
 
 namespace coinlet {
 namespace {
@@ -17,7 +20,7 @@ using test::Picture;
 struct Size {
     int width, height;
 };
-constexpr std::array<Size, 16> sizes{{{1, 1},
+constexpr std::array<Size, 18> sizes{{{1, 1},
                                       {1, 2},
                                       {2, 1},
                                       {2, 2},
@@ -32,7 +35,9 @@ constexpr std::array<Size, 16> sizes{{{1, 1},
                                       {5, 7},
                                       {8, 9},
                                       {17, 12},
-                                      {40, 31}}};
+                                      {40, 31},
+                                      {131, 7},
+                                      {200, 6}}};
 
 constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
@@ -91,28 +96,161 @@ std::string Difference(const Picture& expected, const Picture& found) {
     return {};
 }
 
+const char* NameOf(VectorUnits units) {
+    switch (units) {
+        case VectorUnits::Common:
+            return "Common";
+        case VectorUnits::Avx2:
+            return "Avx2";
+        case VectorUnits::Avx512:
+            return "Avx512";
+    }
+    return "";
+}
+
+/// Runs a filter by its rule and by the product, on the same picture and dice, and holds them together.
+void HoldTogether(int number, std::int32_t parameter, const Picture& picture, VectorUnits units,
+                  std::uint64_t diceBefore = 0) {
+    RandomGenerator dice, sameDice;
+    dice.Skip(diceBefore);
+    sameDice.Skip(diceBefore);
+    test::NotedPace pace;
+    const Picture expected = test::SlowFilter(number, parameter, picture, dice);
+    const Picture found = test::Filtered(number, parameter, picture, sameDice, pace, units);
+    ASSERT_EQ(Difference(expected, found), "")
+        << picture.W << " by " << picture.H << ", parameter " << parameter;
+    ASSERT_EQ(dice.Next(), sameDice.Next()) << "as many dice";
+}
+
+class EveryUnit : public testing::TestWithParam<VectorUnits> {
+protected:
+    void SetUp() override {
+        if (!ProcessorHas(GetParam())) GTEST_SKIP() << "this processor has no " << NameOf(GetParam());
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Units, EveryUnit, testing::ValuesIn(allVectorUnits),
+                         [](const auto& test) { return std::string(NameOf(test.param)); });
+
+TEST(VectorUnits, OfTheCommonKindAreThere) {
+    EXPECT_TRUE(ProcessorHas(VectorUnits::Common));
+    EXPECT_TRUE(ProcessorHas(WidestVectorUnits()));
+}
+
+TEST_P(EveryUnit, DoesTheWorkOnce) {
+    int times = 0;
+    WithVectorUnits(GetParam(), [&times] { ++times; });
+    EXPECT_EQ(times, 1);
+}
+
+TEST_P(EveryUnit, KeepsTheRuleOfSharpenAndEdgeForEveryDivisor) {
+    std::mt19937 random(11);
+    for (std::int32_t parameter = -30; parameter <= 45; ++parameter) {
+        for (const Kind kind : {Kind::Noise, Kind::Extremes, Kind::Soft}) {
+            const Picture picture = Painted(kind, {41, 12}, random);
+            for (const int number : {1, 6})
+                HoldTogether(number, parameter, picture, GetParam());
+        }
+    }
+}
+
+TEST_P(EveryUnit, KeepsTheRuleOfColoursForEveryPercentage) {
+    std::mt19937 random(12);
+    for (std::int32_t percent = -70; percent <= 220; ++percent) {
+        for (const Kind kind : {Kind::Noise, Kind::Extremes, Kind::Soft}) {
+            const Picture picture = Painted(kind, {40, 12}, random);
+            for (const int number : {14, 17, 30})
+                HoldTogether(number, percent, picture, GetParam());
+        }
+    }
+}
+
+TEST_P(EveryUnit, StretchesEveryRange) {
+    std::mt19937 random(13);
+    for (int range = 1; range <= 255; ++range) {
+        Picture picture = Painted(Kind::Noise, {35, 3}, random);
+        const int lowest =
+            256 - range > 1 ? static_cast<int>(random() % static_cast<unsigned>(256 - range)) : 0;
+        for (int y = 1; y <= 3; ++y) {
+            for (int x = 1; x <= 35; ++x)
+                picture(2, x, y) = lowest + picture(2, x, y) % (range + 1);
+        }
+        HoldTogether(28, 0, picture, GetParam());
+    }
+}
+
+TEST_P(EveryUnit, ThrowsDiceOfEveryRange) {
+    std::mt19937 random(14);
+    const Picture picture = Painted(Kind::Soft, {203, 40}, random);
+    for (const std::int32_t strength : {1, 2, 13, 50, 51, 127, 500, 4000, 15'999, 16'000, 16'001, 70'000}) {
+        HoldTogether(29, strength, picture, GetParam(), random() % 1'000'000);
+        for (const std::int32_t reach : {2 * strength, 2 * strength + 1, -strength})
+            HoldTogether(4, reach, picture, GetParam(), random() % 1'000'000);
+    }
+}
+
+TEST_P(EveryUnit, RoundsDiceByAllTheirBits) {
+    // The upper 32 bits of these numbers alone would be rounded to the other side.
+    constexpr std::uint64_t noiseNumber = 3'769'074, scatterNumber = 4'893'836;
+    const auto isClose = [](std::uint64_t number, std::int32_t range) {
+        RandomGenerator random;
+        random.Skip(number - 1);
+        const double all = random.Next(), upper = std::floor(all * 0x1p32) * 0x1p-32;
+        return std::nearbyint(all * range) != std::nearbyint(upper * range);
+    };
+    ASSERT_TRUE(isClose(noiseNumber, 255));
+    ASSERT_TRUE(isClose(scatterNumber, 1000));
+    HoldTogether(29, 127, test::Flat(5, 1, 128, 128, 128), GetParam(), noiseNumber - 5);
+    std::mt19937 random(15);
+    HoldTogether(4, 1000, Painted(Kind::Noise, {200, 1}, random), GetParam(), scatterNumber - 1);
+}
+
+TEST_P(EveryUnit, PixelizesByBlocksLargerThanPictures) {
+    std::mt19937 random(16);
+    for (const std::int32_t side : {9, 64, 2047, 2048, 2049, 2100, 3000})
+        HoldTogether(15, side, Painted(Kind::Noise, {2100, 3}, random), GetParam());
+}
+
 class EveryFilter : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(Numbers, EveryFilter, testing::Range(1, 32),
                          [](const auto& test) { return std::string(FindFilter(test.param)->name); });
 
-TEST_P(EveryFilter, KeepsItsRuleOnEveryPicture) {
-    std::mt19937 random(static_cast<unsigned>(GetParam()));
+class EveryFilterInEveryUnit : public testing::TestWithParam<std::tuple<int, VectorUnits>> {
+protected:
+    void SetUp() override {
+        const VectorUnits units = std::get<1>(GetParam());
+        if (!ProcessorHas(units)) GTEST_SKIP() << "this processor has no " << NameOf(units);
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Numbers, EveryFilterInEveryUnit,
+                         testing::Combine(testing::Range(1, 32), testing::ValuesIn(allVectorUnits)),
+                         [](const auto& test) {
+                             return std::string(FindFilter(std::get<0>(test.param))->name) +
+                                    NameOf(std::get<1>(test.param));
+                         });
+
+TEST_P(EveryFilterInEveryUnit, KeepsItsRuleOnEveryPicture) {
+    const auto [number, units] = GetParam();
+    std::mt19937 random(static_cast<unsigned>(number));
     for (const Size size : sizes) {
         for (const Kind kind :
              {Kind::Noise, Kind::Extremes, Kind::Soft, Kind::FlatColour, Kind::White, Kind::Black}) {
-            for (const std::int32_t parameter : parameters) {
-                const Picture picture = Painted(kind, size, random);
-                RandomGenerator dice, sameDice;
-                test::NotedPace pace;
-                const Picture expected = test::SlowFilter(GetParam(), parameter, picture, dice);
-                const Picture found = test::Filtered(GetParam(), parameter, picture, sameDice, pace);
-                ASSERT_EQ(Difference(expected, found), "")
-                    << size.width << " by " << size.height << ", kind " << static_cast<int>(kind)
-                    << ", parameter " << parameter;
-                ASSERT_EQ(dice.Next(), sameDice.Next()) << "as many dice";
-            }
+            for (const std::int32_t parameter : parameters)
+                HoldTogether(number, parameter, Painted(kind, size, random), units);
+            if (HasFatalFailure()) FAIL() << "kind " << static_cast<int>(kind);
         }
     }
+}
+
+TEST_P(EveryFilterInEveryUnit, TellsTheSameProgress) {
+    const auto [number, units] = GetParam();
+    std::mt19937 paint(8);
+    const Picture picture = Painted(Kind::Soft, {70, 21}, paint);
+    RandomGenerator random, sameRandom;
+    test::NotedPace common, pace;
+    test::Filtered(number, 10, picture, random, common, VectorUnits::Common);
+    test::Filtered(number, 10, picture, sameRandom, pace, units);
+    EXPECT_EQ(common.percents, pace.percents);
+    EXPECT_EQ(common.rows, pace.rows);
 }
 
 TEST_P(EveryFilter, TakesAPictureOfNoPixels) {

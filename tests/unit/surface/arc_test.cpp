@@ -58,7 +58,14 @@ TEST_F(ArcTest, AnglesCountModuloAFullTurn) {
     EXPECT_EQ(Drawn(15, ArcAngles{1 + 4 * pi, 2 - 6 * pi}), Drawn(15, ArcAngles{1, 2}));
 }
 
-/// Every pixel of the outline belongs to the arc if its angle, as seen from the centre, lies between the two.
+/// How far (x, y) is from the ray that leaves the origin in that direction.
+double DistanceFromRay(double x, double y, double direction) {
+    const double along = x * std::cos(direction) + y * std::sin(direction);
+    return along > 0 ? std::abs(y * std::cos(direction) - x * std::sin(direction)) : std::hypot(x, y);
+}
+
+/// Every pixel of the outline belongs to the arc if its angle, as seen from the centre, lies between the two,
+/// or if an end of the arc falls on it.
 TEST_F(ArcTest, IsThePartOfTheOutlineBetweenItsAngles) {
     std::mt19937 random(17);
     std::uniform_int_distribution<int> radius(0, 30), pen(1, 6);
@@ -78,7 +85,10 @@ TEST_F(ArcTest, IsThePartOfTheOutlineBetweenItsAngles) {
                 if (direction < 0) direction += 2 * pi;
                 const bool between = arc.start <= arc.end ? direction >= arc.start && direction <= arc.end
                                                           : direction >= arc.start || direction <= arc.end;
-                ASSERT_EQ(part.Point(x, y) == black, between && whole.Point(x, y) == black)
+                const double nearest = std::min(DistanceFromRay(x - 40, 40 - y, arc.start),
+                                                DistanceFromRay(x - 40, 40 - y, arc.end));
+                ASSERT_EQ(part.Point(x, y) == black,
+                          (between || nearest <= 0.5) && whole.Point(x, y) == black)
                     << x << ' ' << y << " in " << arc.start << ' ' << arc.end;
             }
         }

@@ -67,13 +67,23 @@ TEST_F(EllipseTest, TheAspectIsHeightByWidthAndTheRadiusTheLongerSemiAxis) {
     }
 }
 
-TEST_F(EllipseTest, CentreAndSemiAxesRoundHalvesToTheEvenNeighbour) {
+TEST_F(EllipseTest, EdgesRoundHalvesToTheEvenNeighbour) {
     Surface halves = Blank(40, 40), whole = Blank(40, 40);
-    halves.Circle(20.5, 19.5, 10.5, black, {}, 0.5);  // semi-axes 10.5 and 5.25
-    whole.Circle(20, 20, 10, black, {}, 0.5);
+    halves.Circle(20.5, 20, 10, black, {}, 0.55);  // from 10.5 to 30.5 and from 14.5 to 25.5
+    whole.Circle(20, 20, 10, black, {}, 0.6);      // from 10 to 30 and from 14 to 26
     EXPECT_EQ(halves.Image(), whole.Image());
     EXPECT_EQ(halves.CurrentX, 20.5F);
-    EXPECT_EQ(halves.CurrentY, 19.5F);
+    EXPECT_EQ(halves.CurrentY, 20);
+}
+
+TEST_F(EllipseTest, AnEllipseInABoxOfEvenSizeEndsAtItsEdges) {
+    Surface surface = Blank(8, 6);
+    surface.Circle(3.5, 2.5, 2.5, black, {}, 0.6);  // from 1 to 6 and from 1 to 4
+    EXPECT_EQ(GridOf(surface),
+              Grid({"........", "..####..", ".#....#.", ".#....#.", "..####..", "........"}));
+    Surface smallest = Blank(4, 4);
+    smallest.Circle(1.5, 1.5, 0.5);
+    EXPECT_EQ(GridOf(smallest), Grid({"....", ".##.", ".##.", "...."}));
 }
 
 /// The rule: a disc is the pixels of the ellipse half a pixel larger each way, its outline those of them with

@@ -110,6 +110,34 @@ TEST_F(ShapeToolsTest, QuatroFillsEachQuarter) {
     }
 }
 
+TEST_F(ShapeToolsTest, AnEllipseIsAsLargeAsItsBoxOfEvenSize) {
+    // Centre (2.5, 2.5), 1.5 each way: the columns and rows 1 to 4.
+    EXPECT_EQ(GridOf(Drawn(23, 1, 1, 4, 4, 6)),
+              Grid({"......", "..##..", ".#..#.", ".#..#.", "..##..", "......"}));
+    EXPECT_EQ(GridOf(Drawn(23, 1, 1, 2, 2, 4)), Grid({"....", ".##.", ".##.", "...."}));
+}
+
+/// The figures are coloured by filling them, so what is outside mustn't be one region with what is inside.
+TEST_F(ShapeToolsTest, ClosedFiguresKeepAFillIn) {
+    constexpr int margin = 8, largest = 60;
+    for (const int code : {21, 22, 23, 24, 25, 26, 27, 28, 29, 32, 35, 36}) {
+        for (int size = 0; size < 2 * (largest - 12); ++size) {
+            const int width = 12 + size / 2, height = code % 2 == 0 ? width + size % 2 : largest - size / 4;
+            const auto left = static_cast<float>(margin + size % 2);
+            Surface surface = Blank(largest + 2 * margin, largest + 2 * margin);
+            DrawShape(surface, code,
+                      {left, margin, left + static_cast<float>(width), static_cast<float>(margin + height),
+                       static_cast<float>(width + 1), static_cast<float>(height + 1)},
+                      {.cornerSize = 10});
+            surface.FillColor = RGB(255, 0, 0);
+            ExtFloodFill(surface.hDC(), 0, 0, white, FLOODFILLSURFACE);
+            // Two fifths down every figure is open in the middle.
+            EXPECT_EQ(surface.Point(static_cast<double>(left) + width / 2.0, margin + height * 0.4), white)
+                << "code " << code << ", " << width << " by " << height;
+        }
+    }
+}
+
 TEST_F(ShapeToolsTest, RasterHasALineEachStep) {
     EXPECT_EQ(GridOf(Drawn(31, 0, 0, 6, 6, 8, {.rasterStep = 3})),
               Grid({"#######.", "#..#..#.", "#..#..#.", "#######.", "#..#..#.", "#..#..#.", "######..",
