@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "app/library_menu.h"
 #include "app/start_up.h"
 #include "colour/pms_form.h"
 #include "core/help_menu.h"
@@ -39,6 +40,7 @@ struct Application::House {
             PMSForm chooser(context);
             services.platform.ShowModal(chooser);
         };
+        BindLibraryMenu(context);
         main.Load = [this] { StartUp(context); };
     }
 

@@ -1,10 +1,9 @@
 #include "colour/pms_table.h"
 
-#include "base/files.h"
 #include "base/numbers.h"
-#include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/row_file.h"
 
 #include <algorithm>
 #include <limits>
@@ -14,7 +13,6 @@ namespace coinlet {
 namespace {
 
 constexpr std::string_view tableFile = "\\Data\\PMS-Colors.txt";
-constexpr std::size_t largestTable = std::size_t{16} << 20;
 
 // Of the name beside a swatch of the side panel, in pixels.
 constexpr int nameLeft = 44, nameRight = 180, nameHeight = 20;
@@ -26,11 +24,7 @@ constexpr Colour nameColour = RGB(50, 50, 50);
 void LoadPmsColors(Context& context) {
     ListBox& table = context.main.PMSlist;
     table.Clear();
-    const auto bytes = ReadFile(Beneath(context.services.applicationFolder, tableFile), largestTable);
-    if (!bytes) return;
-    const std::string_view content(reinterpret_cast<const char*>(bytes->data()), bytes->size());
-    for (const std::string& line : Lines(FromCodePage(content)))
-        if (!TrimBlanks(line).empty()) table.AddItem(line);
+    AddRowsOfFile(table, Beneath(context.services.applicationFolder, tableFile));
 }
 
 std::optional<PmsFields> SplitPmsLine(std::string_view line) {

@@ -2,16 +2,11 @@
 
 #include "controls/control.h"
 #include "controls/shapes.h"
-#include "surface/surface.h"
 
 namespace coinlet {
 
-/// Draws a thin edge around a control of a form that has none of its own.
-inline void SetEdge(Shape& edge, const Control& around) {
-    constexpr Colour edgeColour = RGB(150, 150, 120);
-    edge.BorderColor = edgeColour;
-    edge.Move(around.Left() - twipsPerPixel, around.Top() - twipsPerPixel, around.Width() + 2 * twipsPerPixel,
-              around.Height() + 2 * twipsPerPixel);
-}
+/// Makes `edge` a thin line around a control that has none of its own, such as a picture. Both lie in the
+/// same container, which is placed in twips; the control has its place by then.
+void SetEdge(Shape& edge, const Control& around);
 
 }  // namespace coinlet

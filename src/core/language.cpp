@@ -4,13 +4,13 @@
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/row_file.h"
 
 namespace coinlet {
 
 namespace {
 
 constexpr std::size_t keyLength = 3;
-constexpr std::size_t largestTable = std::size_t{16} << 20;
 
 /// What follows the key and the one character that parts it from the text.
 std::string TextOfLine(const std::string& line) {
@@ -29,11 +29,7 @@ void LoadLanguage(Context& context, const std::string& languageName) {
     const std::string fileName = languageName + ".txt";
     if (IsFileName(fileName)) {
         const fs::path path = Beneath(context.services.applicationFolder, "\\Data") / fileName;
-        if (const auto bytes = ReadFile(path, largestTable)) {
-            const std::string_view content(reinterpret_cast<const char*>(bytes->data()), bytes->size());
-            for (const std::string& line : Lines(FromCodePage(content)))
-                if (!TrimBlanks(line).empty()) main.InfoList.AddItem(line);
-        }
+        AddRowsOfFile(main.InfoList, path);
     }
 
     const bool dutch = languageName == "Nederlands";

@@ -14,10 +14,9 @@ constexpr std::array unfinishedTools{3, 4};
 
 constexpr std::array<VistaButton MainForm::*, 1> unfinishedButtons{&MainForm::OkKnop};
 
-constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
-    &MainForm::FileImport,     &MainForm::FilePrint,       &MainForm::ViewMyCollection,
-    &MainForm::LibraryBorders, &MainForm::LibraryBackside, &MainForm::LibraryGlitter,
-    &MainForm::ClipartGroot,   &MainForm::Symbolen};
+constexpr std::array<MenuItem MainForm::*, 5> unfinishedEntries{&MainForm::FileImport, &MainForm::FilePrint,
+                                                                &MainForm::ViewMyCollection,
+                                                                &MainForm::ClipartGroot, &MainForm::Symbolen};
 
 constexpr std::array<ControlArray<MenuItem> MainForm::*, 1> unfinishedMenus{&MainForm::FlipPic};
 

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/row_file.h"
 #include "store/design_files.h"
 
 #include <algorithm>
@@ -51,9 +52,7 @@ void ReadDesignInfoText(const Context& context, std::string_view name) {
     std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
     for (int item = 0; item < headerItems; ++item)
         text = AfterItem(text);
-    for (const std::string& line : Lines(FromCodePage(text))) {
-        if (!TrimBlanks(line).empty()) rows.AddItem(line);
-    }
+    AddRows(rows, text);
 }
 
 }  // namespace coinlet

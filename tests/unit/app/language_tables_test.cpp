@@ -1,8 +1,10 @@
 // The texts that the program comes with: every hint and explanation fits its place in both languages.
 #include "base/text.h"
+#include "colour/glitter_form.h"
 #include "controls/text_lines.h"
 #include "core/language.h"
 #include "designers/circel_text.h"
+#include "libraries/back_form.h"
 #include "media/qt_font_engine.h"
 #include "store/open_file.h"
 #include "store/tekst_form.h"
@@ -52,6 +54,10 @@ TEST_P(LanguageTable, HasExplanationsThatFitTheirLabels) {
     ExpectFits("050", circelText.Label8);
     const TekstForm tekstForm(context);
     ExpectFits("200", tekstForm.Label2);
+    const BackForm backForm(context);
+    ExpectFits("080", backForm.Label4);
+    const GlitterForm glitterForm(context);
+    ExpectFits("141", glitterForm.Label1);
 }
 
 TEST_P(LanguageTable, HasEachKeyOnceInOrder) {

@@ -1,6 +1,7 @@
 // What may stand in the folder of designs beside designs: nothing of it hangs or breaks the dialog.
 #include "store/open_file.h"
 
+#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <functional>
@@ -192,25 +193,11 @@ TEST_F(OpenFileTest, KeepsItsControlsApartAndInside) {
     const OpenFile dialog(context);
     const std::vector<const Control*> shown{&dialog.Label2,  &dialog.List1,  &dialog.Label1,
                                             &dialog.DelKnop, &dialog.OkKnop, &dialog.CancelKnop};
-    const auto right = [](const Control& c) { return c.Left() + c.Width(); };
-    const auto bottom = [](const Control& c) { return c.Top() + c.Height(); };
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        const Control& control = *shown[i];
-        EXPECT_GE(control.Left(), 0) << control.Name();
-        EXPECT_GE(control.Top(), 0) << control.Name();
-        EXPECT_LE(right(control), dialog.Width) << control.Name();
-        EXPECT_LE(bottom(control), dialog.Height) << control.Name();
-        for (std::size_t j = 0; j < i; ++j) {
-            const Control& other = *shown[j];
-            EXPECT_TRUE(right(control) <= other.Left() || right(other) <= control.Left() ||
-                        bottom(control) <= other.Top() || bottom(other) <= control.Top())
-                << control.Name() << " over " << other.Name();
-        }
-    }
+    ExpectApartAndInside(dialog, shown);
     EXPECT_GE(dialog.Image1.Left(), dialog.Label1.Left());
     EXPECT_GE(dialog.Image1.Top(), dialog.Label1.Top());
-    EXPECT_LE(right(dialog.Image1), right(dialog.Label1));
-    EXPECT_LE(bottom(dialog.Image1), bottom(dialog.Label1));
+    EXPECT_LE(RightOf(dialog.Image1), RightOf(dialog.Label1));
+    EXPECT_LE(BottomOf(dialog.Image1), BottomOf(dialog.Label1));
 }
 
 }  // namespace

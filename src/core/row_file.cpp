@@ -1,0 +1,26 @@
+#include "core/row_file.h"
+
+#include "base/text.h"
+#include "controls/list_box.h"
+
+#include <cstddef>
+
+namespace coinlet {
+
+namespace {
+
+constexpr std::size_t largestFile = std::size_t{16} << 20;
+
+}  // namespace
+
+void AddRows(ListBox& list, std::string_view text) {
+    for (const std::string& line : Lines(FromCodePage(text)))
+        if (!TrimBlanks(line).empty()) list.AddItem(line);
+}
+
+void AddRowsOfFile(ListBox& list, const fs::path& path) {
+    if (const auto bytes = ReadFile(path, largestFile))
+        AddRows(list, {reinterpret_cast<const char*>(bytes->data()), bytes->size()});
+}
+
+}  // namespace coinlet
