@@ -12,14 +12,12 @@ namespace {
 // Tool buttons that open a dialog.
 constexpr std::array unfinishedTools{3, 4, 7};
 
-constexpr std::array<VistaButton MainForm::*, 2> unfinishedButtons{&MainForm::OkKnop, &MainForm::PlaatsKnop};
+constexpr std::array<VistaButton MainForm::*, 1> unfinishedButtons{&MainForm::PlaatsKnop};
 
 constexpr std::array<MenuItem MainForm::*, 8> unfinishedEntries{
     &MainForm::FileImport,     &MainForm::FilePrint,       &MainForm::ViewMyCollection,
     &MainForm::LibraryBorders, &MainForm::LibraryBackside, &MainForm::LibraryGlitter,
     &MainForm::ClipartGroot,   &MainForm::Symbolen};
-
-constexpr std::array<ControlArray<MenuItem> MainForm::*, 1> unfinishedMenus{&MainForm::FlipPic};
 
 }  // namespace
 
@@ -36,12 +34,6 @@ void DisableUnfinished(MainForm& main) {
         (main.*button).SetEnabled(false);
     for (const auto entry : unfinishedEntries)
         (main.*entry).Enabled = false;
-    for (const auto menu : unfinishedMenus) {
-        ControlArray<MenuItem>& entries = main.*menu;
-        for (int i = entries.First(); i <= entries.Last(); ++i) {
-            if (entries[i].Entries().empty()) entries[i].Enabled = false;
-        }
-    }
 }
 
 }  // namespace coinlet
