@@ -1,9 +1,9 @@
-// Figures for the turns of the canvas and for the paste that goes row by row, without the events served between.
-
-#include "surface/rotation.h"
+// Figures for the turns of the canvas and for the paste that goes row by row, without the events served
+// between.
 
 #include "support/block_fonts.h"
 #include "surface/device.h"
+#include "surface/rotation.h"
 
 #include <benchmark/benchmark.h>
 #include <random>

@@ -117,6 +117,9 @@ void LayOutCanvas(MainForm& main) {
     for (ListBox* hidden : {&main.InfoList, &main.PMSlist, &main.List2})
         hidden->Visible = false;
 
+    // A copied area is white on white more often than not.
+    main.ClipPic.Border = true;
+
     main.XYcor.AutoSize = true;
     main.XYcor.Transparent = false;
     main.XYcor.BackColor = RGB(255, 255, 225);
