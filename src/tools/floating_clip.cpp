@@ -9,6 +9,7 @@
 #include "surface/device.h"
 #include "tools/tool_codes.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -93,12 +94,11 @@ void FloatingClip::PasteWithoutBackground() {
     const int rows = clip.PixelHeight() - leftBehind;
     for (int y = 0; y < rows; ++y) {
         // Events are served between the rows: the image may be another one by now, or somewhere else.
-        const int columns = clip.PixelWidth() - leftBehind;
+        const int columns = std::max(0, clip.PixelWidth() - leftBehind);
         const int left = RoundHalfEven(main.ClipPic.Left() + pasteOffset);
         const int top = RoundHalfEven(main.ClipPic.Top() + pasteOffset + y);
-        if (columns > 0)
-            TransparentBlt(main.Pic.surface.hDC(), left, top, columns, 1, clip.hDC(), 0, y, columns, 1,
-                           background);
+        TransparentBlt(main.Pic.surface.hDC(), left, top, columns, 1, clip.hDC(), 0, y, columns, 1,
+                       background);
         platform.DoEvents();
         main.Pic.surface.Refresh();
     }
