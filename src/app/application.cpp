@@ -12,8 +12,12 @@
 #include "store/clipboard_copy.h"
 #include "store/file_menu.h"
 #include "store/open_design.h"
+#include "tools/copy_tool.h"
 #include "tools/fill_tools.h"
+#include "tools/flip_menu.h"
+#include "tools/floating_clip.h"
 #include "tools/gesture_engine.h"
+#include "tools/hole_tool.h"
 #include "tools/image_browser.h"
 #include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
@@ -36,6 +40,8 @@ struct Application::House {
         gestures.Add(EraseTool(context));
         gestures.Add(PickTool(context));
         gestures.placeText = [this](GesturePoint pointer) { text.Place(pointer); };
+        gestures.Add(CopyTool(context));
+        gestures.Add(HoleTool(context));
         strip.openColourChooser = [this] {
             PMSForm chooser(context);
             services.platform.ShowModal(chooser);
@@ -60,6 +66,8 @@ struct Application::House {
     TextTool text{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
+    FloatingClip clip{context};
+    FlipMenu flips{context};
     InfoPanelRows panelRows{context};
     FilterMenu filters{context, filterCore};
 };

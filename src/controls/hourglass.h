@@ -6,18 +6,19 @@
 namespace coinlet {
 
 /// A piece of work that takes its time: the hourglass shows on the whole screen until it ends, however that
-/// comes about. The pointer is then the tools' one again.
+/// comes about. Then comes the pointer `after`, by default the tools' one.
 class Hourglass {
 public:
-    explicit Hourglass(Platform& platform) : platform_(platform) {
+    explicit Hourglass(Platform& platform, int after = toolPointer) : platform_(platform), after_(after) {
         platform_.Screen.MousePointer = hourglassPointer;
     }
-    ~Hourglass() { platform_.Screen.MousePointer = toolPointer; }
+    ~Hourglass() { platform_.Screen.MousePointer = after_; }
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 
 private:
     Platform& platform_;
+    int after_;
 };
 
 }  // namespace coinlet

@@ -63,6 +63,7 @@ void PictureBox::VisitProperties(PropertyVisitor& visitor) {
     VisitField(visitor, "CurrentX", surface.CurrentX);
     VisitField(visitor, "CurrentY", surface.CurrentY);
     VisitField(visitor, "AutoSize", surface.AutoSize);
+    VisitField(visitor, "Border", Border);
     VisitProperty(
         visitor, "ScaleMode", PropertyKind::Number, [this] { return surface.ScaleMode(); },
         [this](int mode) { surface.SetScaleMode(mode); });

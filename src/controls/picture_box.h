@@ -20,6 +20,11 @@ public:
     /// the size leaves, from its top left pixel on.
     bool FixedBitmap = false;
 
+    /// True: a dotted line of one pixel runs around the picture on the screen, so that a picture can be told
+    /// from what it lies on. The line begins at the place of the control, and the picture inside it. For
+    /// pictures without controls in them.
+    bool Border = false;
+
     /// The size assigned; or, after a picture resized the surface (`AutoSize`), the size of the bitmap.
     double Width() const override;
     double Height() const override;

@@ -16,6 +16,8 @@ constexpr Colour fieldText = RGB(220, 220, 250);
 constexpr Colour boardColour = RGB(60, 64, 72);
 constexpr Colour sliderPanelColour = RGB(206, 206, 174);
 
+constexpr int rulerHeight = 20;
+
 constexpr double Twips(int pixels) {
     return pixels * twipsPerPixel;
 }
@@ -80,10 +82,9 @@ void LayOutCanvas(MainForm& main) {
     main.LabelPic.Move(75, 180, 10650, 7935);
     main.LabelPic.surface.SetBackColor(boardColour);
 
-    main.HoekPic.Move(180, 270, Twips(21), Twips(20));
-    main.TopPic.Move(495, 270, Twips(canvasSide), Twips(20));
+    main.TopPic.Move(495, 270, Twips(canvasSide), Twips(rulerHeight));
     main.LeftPic.Move(180, 570, Twips(21), Twips(canvasSide));
-    main.HoekKnop.Move(0, 0, 21, 20);
+    NarrowCorner(main);
     main.HoekKnop.SetCaption(" Paste ");
     main.HoekKnop.ToolTipText = " Paste Image on Coinlet ";
     main.HoekKnop.Visible = false;
@@ -115,6 +116,9 @@ void LayOutCanvas(MainForm& main) {
         hidden->Visible = false;
     for (ListBox* hidden : {&main.InfoList, &main.PMSlist, &main.List2})
         hidden->Visible = false;
+
+    // A copied area is white on white more often than not.
+    main.ClipPic.Border = true;
 
     main.XYcor.AutoSize = true;
     main.XYcor.Transparent = false;
@@ -277,7 +281,22 @@ void LayOutFoot(MainForm& main) {
     main.NummerLabel.ForeColor = RGB(110, 110, 90);
 }
 
+void ShowCorner(MainForm& main, int width) {
+    main.HoekPic.Move(180, 270, Twips(width), Twips(rulerHeight));
+    main.HoekKnop.Move(0, 0, width, rulerHeight);
+}
+
 }  // namespace
+
+void NarrowCorner(MainForm& main) {
+    constexpr int rulerWidth = 21;
+    ShowCorner(main, rulerWidth);
+}
+
+void WidenCorner(MainForm& main) {
+    constexpr int captionWidth = 52;
+    ShowCorner(main, captionWidth);
+}
 
 void LayOutMain(MainForm& main) {
     main.Width = 16470;

@@ -7,6 +7,18 @@
 
 namespace coinlet {
 
+namespace {
+
+void LetImagesBePicked(MainForm& main, ImagesButton button, bool may) {
+    if (button == ImagesButton::Hidden) {
+        main.ImgKnop.Visible = may;
+    } else {
+        main.ImgKnop.SetEnabled(may);
+    }
+}
+
+}  // namespace
+
 void ShowProgress(Context& context, int value, int maximum) {
     constexpr double widthPerPercent = 1.15;  // The bar is 115 pixels wide.
     constexpr int tubeHalf = 7, edgeGreen = 130, middleGreen = 200, greenStep = 10;
@@ -26,17 +38,17 @@ void ClearProgress(Context& context) {
     context.main.Bar.surface.SetPicture({});
 }
 
-ProgressShown::ProgressShown(Context& context) : context_(context) {
+ProgressShown::ProgressShown(Context& context, ImagesButton button) : context_(context), button_(button) {
     context.services.platform.Screen.MousePointer = hourglassPointer;
     ClearProgress(context);
     context.main.Bar.Visible = true;
-    context.main.ImgKnop.Visible = false;
+    LetImagesBePicked(context.main, button, false);
 }
 
 ProgressShown::~ProgressShown() {
     context_.services.platform.Screen.MousePointer = toolPointer;
     context_.main.Bar.Visible = false;
-    context_.main.ImgKnop.Visible = true;
+    LetImagesBePicked(context_.main, button_, true);
 }
 
 }  // namespace coinlet

@@ -76,8 +76,10 @@ void ControlView::MirrorPlace() {
     const Place place{control_->Left(), control_->Top(), stale ? control_->Width() : place_.width,
                       stale ? control_->Height() : place_.height, control_->Parent().ChildUnitsPerPixel()};
     if (!Differs(place_, place)) return;
+    const int frames = 2 * FrameWidth();
     widget_->setGeometry(RoundHalfEven(place.left / place.unit), RoundHalfEven(place.top / place.unit),
-                         std::max(0, control_->PixelWidth()), std::max(0, control_->PixelHeight()));
+                         std::max(0, control_->PixelWidth()) + frames,
+                         std::max(0, control_->PixelHeight()) + frames);
 }
 
 void ControlView::Detach() {
@@ -138,7 +140,8 @@ bool ControlView::HandlePointer(const QMouseEvent& event) {
 
     // The toolkit rounds places in a widget, which would move the right half of an enlarged pixel to the next
     // one; places in the window it leaves as they are.
-    const QPointF place = event.scenePosition() - widget_->mapTo(widget_->window(), QPoint(0, 0));
+    const QPoint corner = widget_->mapTo(widget_->window(), QPoint(FrameWidth(), FrameWidth()));
+    const QPointF place = event.scenePosition() - corner;
     const float unit = control_->PointerUnitsPerPixel();
     const float x = static_cast<float>(std::floor(place.x())) * unit;
     const float y = static_cast<float>(std::floor(place.y())) * unit;

@@ -54,6 +54,9 @@ protected:
     /// False if the control has the size that it had when it was last asked; for sizes that take long to
     /// tell.
     virtual bool SizeIsStale() { return true; }
+    /// The width of a frame that the widget has around what the control tells its size and pointer places of,
+    /// in pixels.
+    virtual int FrameWidth() const { return 0; }
     /// True for a field in which the Enter key starts a new line.
     virtual bool EditsReturn() const { return false; }
 

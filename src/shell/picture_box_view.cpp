@@ -38,6 +38,8 @@ public:
     }
 
 protected:
+    /// A picture of no pixels shows nothing at all.
+    int FrameWidth() const override { return model().Border && model().PixelWidth() > 0 ? 1 : 0; }
     void MirrorContent() override {
         const QRect changed = TakeChanges();
         if (!changed.isEmpty()) Widget().update(changed);
@@ -53,19 +55,35 @@ private:
         surface.ForgetChanges();
         const QSize size(surface.PixelWidth(), surface.PixelHeight());
         if (Differs(size_, size)) return Widget().rect();
-        return {changed.left, changed.top, changed.Width(), changed.Height()};
+        const int frame = FrameWidth();
+        return {changed.left + frame, changed.top + frame, changed.Width(), changed.Height()};
     }
 
     void Paint(QPainter& painter, const QRect& dirty) const {
         if (!Shown()) return;
         const Surface& surface = model().surface;
         const QImage pixels = ViewPixels(surface.Pixels());
-        const QRect covered = dirty & pixels.rect();
-        if (!covered.isEmpty()) painter.drawImage(covered, pixels, covered);
-        for (const QRect& rest : QRegion(dirty) - pixels.rect()) {
+        const int frame = FrameWidth();
+        const QRect place = pixels.rect().translated(frame, frame);
+        const QRect covered = dirty & place;
+        if (!covered.isEmpty()) painter.drawImage(covered, pixels, covered.translated(-frame, -frame));
+        for (const QRect& rest : QRegion(dirty) - place) {
             painter.fillRect(rest, ToQColor(surface.BackColor()));
         }
         outlines_.Paint(painter);
+        if (frame > 0) PaintFrame(painter);
+    }
+
+    /// Black on white, so that it shows on every design.
+    void PaintFrame(QPainter& painter) const {
+        QPen dots(ToQColor(black), 1);
+        dots.setDashPattern({3, 3});
+        painter.setBrush(Qt::NoBrush);
+        const QRect frame = Widget().rect().adjusted(0, 0, -1, -1);
+        painter.setPen(ToQColor(white));
+        painter.drawRect(frame);
+        painter.setPen(dots);
+        painter.drawRect(frame);
     }
 
     std::uint64_t revision_ = ~std::uint64_t{0};

@@ -68,10 +68,56 @@ void TransferRows(Surface& target, const TransferBox& to, const Image& source, c
         JoinRow(pixels.Row(y++) + columns.first, source.Row(sourceRow), columns, join);
 }
 
+using Wide = std::int64_t;
+
+/// Pixels i from `first` to before `end` of a target run that is to be mapped.
+struct Places {
+    Wide first, end;
+};
+
+// Both put the source positions that lie in the source into `sources`, and give the first pixel i that has
+// one.
+
+Wide TakeOneByOne(std::vector<int>& sources, Places places, PixelRun from, int sourceSize) {
+    const bool upward = from.length > 0;
+    const Wide start = from.start;
+    const Wide first = std::max(places.first, upward ? -start : start - (sourceSize - 1));
+    const Wide end = std::min(places.end, upward ? sourceSize - start : start + 1);
+    if (first >= end) return first;
+    sources.resize(static_cast<std::size_t>(end - first));
+    const int position = static_cast<int>(upward ? start + first : start - first), step = upward ? 1 : -1;
+    for (int i = 0; i < static_cast<int>(sources.size()); ++i)
+        sources[static_cast<std::size_t>(i)] = position + step * i;
+    return first;
+}
+
+/// floor((2i + 1) n / 2m), stepped from pixel to pixel. Lengths of 2^31 at most keep it within 64 bits.
+Wide TakeStretched(std::vector<int>& sources, Places places, Wide m, PixelRun from, int sourceSize) {
+    const Wide n = std::abs(Wide{from.length}), divisor = 2 * m, firstNumber = (2 * places.first + 1) * n;
+    Wide quotient = firstNumber / divisor, remainder = firstNumber % divisor;
+    const Wide quotientStep = 2 * n / divisor, remainderStep = 2 * n % divisor;
+
+    sources.reserve(static_cast<std::size_t>(places.end - places.first));
+    Wide firstTaken = 0;
+    for (Wide i = places.first; i < places.end; ++i) {
+        const Wide position = from.start + (from.length > 0 ? quotient : -quotient);
+        if (position >= 0 && position < sourceSize) {
+            if (sources.empty()) firstTaken = i;
+            sources.push_back(static_cast<int>(position));
+        }
+        quotient += quotientStep;
+        remainder += remainderStep;
+        if (remainder >= divisor) {
+            remainder -= divisor;
+            ++quotient;
+        }
+    }
+    return firstTaken;
+}
+
 }  // namespace
 
 AxisMap MapAxis(PixelRun to, int targetSize, PixelRun from, int sourceSize) {
-    using Wide = std::int64_t;
     const Wide m = std::abs(Wide{to.length}), n = std::abs(Wide{from.length});
     if (m == 0 || n == 0) return {};
 
@@ -82,27 +128,9 @@ AxisMap MapAxis(PixelRun to, int targetSize, PixelRun from, int sourceSize) {
     const Wide endI = std::min<Wide>(m, targetUpward ? targetSize - start : start + 1);
     if (firstI >= endI) return {};
 
-    // floor((2i + 1) n / 2m), stepped from pixel to pixel. Lengths of 2^31 at most keep it within 64 bits.
-    const Wide divisor = 2 * m;
-    Wide quotient = (2 * firstI + 1) * n / divisor, remainder = (2 * firstI + 1) * n % divisor;
-    const Wide quotientStep = 2 * n / divisor, remainderStep = 2 * n % divisor;
-
     AxisMap map;
-    map.sources.reserve(static_cast<std::size_t>(endI - firstI));
-    Wide firstTaken = 0;
-    for (Wide i = firstI; i < endI; ++i) {
-        const Wide position = from.start + (sourceUpward ? quotient : -quotient);
-        if (position >= 0 && position < sourceSize) {
-            if (map.sources.empty()) firstTaken = i;
-            map.sources.push_back(static_cast<int>(position));
-        }
-        quotient += quotientStep;
-        remainder += remainderStep;
-        if (remainder >= divisor) {
-            remainder -= divisor;
-            ++quotient;
-        }
-    }
+    const Wide firstTaken = m == n ? TakeOneByOne(map.sources, {firstI, endI}, from, sourceSize)
+                                   : TakeStretched(map.sources, {firstI, endI}, m, from, sourceSize);
     if (map.Empty()) return {};
 
     const Wide lastTaken = firstTaken + static_cast<Wide>(map.sources.size()) - 1;

@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "core/context.h"
+#include "core/floating_image.h"
 #include "core/folder_picker.h"
 #include "core/main_form.h"
 #include "core/plaatjes.h"
@@ -43,6 +44,7 @@ ImageBrowser::ImageBrowser(Context& context) : context_(context) {
     main.HorKnop.Click = [this] { HorKnop_Click(); };
     main.VerKnop.Click = [this] { VerKnop_Click(); };
     main.RotatieKnop.Click = [this] { RotatieKnop_Click(); };
+    main.OkKnop.Click = [this] { OkKnop_Click(); };
 }
 
 void ImageBrowser::List1_Click() {
@@ -117,6 +119,10 @@ void ImageBrowser::RotatieKnop_Click() {
             SetPixel(turned.hDC(), y, x, GetPixel(picked.hDC(), x, y));
     }
     picked.SetPicture(turned.Image());
+}
+
+void ImageBrowser::OkKnop_Click() {
+    FloatImage(context_, context_.main.IconPic.surface.Image());
 }
 
 }  // namespace coinlet

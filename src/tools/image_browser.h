@@ -11,7 +11,8 @@ void ListImages(Context& context, std::string_view pattern);
 /// Shows how many there are.
 void ShowImageCount(Context& context);
 
-/// The panel at the left: lists the pictures of a folder, shows the picked one, and mirrors or turns it.
+/// The panel at the left: lists the pictures of a folder, shows the picked one, mirrors or turns it, and lets
+/// it float over the canvas.
 class ImageBrowser {
 public:
     explicit ImageBrowser(Context& context);
@@ -23,6 +24,7 @@ private:
     void HorKnop_Click();
     void VerKnop_Click();
     void RotatieKnop_Click();
+    void OkKnop_Click();
 
     /// Shows the picked picture in the preview; one that doesn't fit is squeezed and can't be turned.
     void ShowPicked();

@@ -18,7 +18,6 @@ enum ToolCodes : int {
     firstShapeTool = 21,
     lastShapeTool = 36,
     colourChooserTool = 40,
-    floatingImageTool = 50,
     usedUpTool = 99,
 };
 

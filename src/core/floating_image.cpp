@@ -1,0 +1,33 @@
+#include "core/floating_image.h"
+
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "core/main_layout.h"
+
+namespace coinlet {
+
+void FloatImage(Context& context, const Image& image) {
+    MainForm& main = context.main;
+    context.session.ToolCode = imageFloats;
+    main.ClipPic.surface.SetPicture(image);
+    if (image.Empty()) {
+        // The empty picture would leave the size of the one before.
+        main.ClipPic.SetWidth(0);
+        main.ClipPic.SetHeight(0);
+    }
+    main.ClipPic.Move(0, 0);
+    main.ClipPic.Visible = true;
+    ShowHint(context, "027");
+    WidenCorner(main);
+    main.HoekKnop.Visible = true;
+}
+
+void HideFloatingImage(Context& context) {
+    MainForm& main = context.main;
+    main.HoekKnop.Visible = false;
+    NarrowCorner(main);
+    main.ClipPic.Visible = false;
+}
+
+}  // namespace coinlet

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+
+namespace coinlet {
+
+struct Context;
+
+/// The image that floats over the canvas: the user drags it to its place, and picks in the menu of the button
+/// in the corner of the rulers how it is burned in.
+class FloatingClip {
+public:
+    explicit FloatingClip(Context& context);
+
+private:
+    void ClipPic_MouseDown(float x, float y);
+    void ClipPic_MouseMove(int button, float x, float y);
+    void HoekKnop_Click();
+    void Paste_Click(int index);
+
+    /// All but the pixels of the background's colour, row by row before the user's eyes.
+    void PasteWithoutBackground();
+
+    Context& context_;
+    // Where on the image the pointer took hold of it, in pixels.
+    float clipGrabX_ = 0;
+    std::int16_t clipGrabY_ = 0;
+};
+
+}  // namespace coinlet
