@@ -1,5 +1,7 @@
 #include "store/design_files.h"
 
+#include <algorithm>
+
 namespace coinlet {
 
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension) {
@@ -11,6 +13,12 @@ std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::strin
                                    std::string_view extension) {
     if (!IsFileName(std::string(name).append(extension))) return {};
     return DesignFile(applicationFolder, name, extension);
+}
+
+std::string WithoutExtension(std::string_view fileName) {
+    constexpr std::size_t extensionLength = 4;
+    fileName.remove_suffix(std::min(fileName.size(), extensionLength));
+    return std::string(fileName);
 }
 
 }  // namespace coinlet

@@ -20,4 +20,8 @@ std::string DesignFile(const fs::path& applicationFolder, std::string_view name,
 std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::string_view name,
                                    std::string_view extension);
 
+/// The name of a stored thing from that of its file, such as "coin" from "coin.pat": all but the last four
+/// characters, which are the extension. A shorter name leaves an empty one.
+std::string WithoutExtension(std::string_view fileName);
+
 }  // namespace coinlet

@@ -11,7 +11,6 @@
 #include "store/info_text.h"
 #include "surface/codecs.h"
 
-#include <algorithm>
 #include <string>
 
 namespace coinlet {
@@ -24,18 +23,13 @@ constexpr double previewSide = 100;
 /// The side panel's size on the main form, in pixels; in the picture of a design it has the same width.
 constexpr double panelWidth = 178, panelHeight = 500;
 
-/// The name of a design, from that of its picture. A shorter name than an extension leaves an empty one.
-std::string DesignOf(const std::string& file) {
-    return file.substr(0, file.size() - std::min(file.size(), designPicture.size()));
-}
-
 /// The picture of a design. Stores that come from a system without regard to case hold ".PAT" as well.
 std::string PictureOf(const Context& context, const std::string& name) {
     const fs::path usual = DesignFile(context.services.applicationFolder, name, designPicture);
     if (FileExists(usual)) return usual;
     const fs::path folder = usual.parent_path();
     for (const std::string& file : ListFiles(folder, designPattern))
-        if (DesignOf(file) == name) return folder / file;
+        if (WithoutExtension(file) == name) return folder / file;
     return usual;
 }
 
@@ -78,7 +72,7 @@ void OpenFile::Form_Load() {
     File1.SetPattern(std::string(designPattern));
     File1.SetPath(Beneath(context_.services.applicationFolder, "\\Ontwerpen\\").string());
     for (int i = 0; i < File1.ListCount(); ++i)
-        List1.AddItem(DesignOf(File1.List(i)));
+        List1.AddItem(WithoutExtension(File1.List(i)));
     List1.SetFocus();
 }
 
