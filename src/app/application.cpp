@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/start_up.h"
+#include "collection/collection_menu.h"
 #include "colour/pms_form.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
@@ -52,6 +53,7 @@ struct Application::House {
     FileMenu file{context};
     OpenDesign open{context};
     ClipboardCopy copy{context};
+    CollectionMenu collection{context};
     ToolStrip strip{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};

@@ -14,10 +14,9 @@ constexpr std::array unfinishedTools{3, 4, 7};
 
 constexpr std::array<VistaButton MainForm::*, 2> unfinishedButtons{&MainForm::OkKnop, &MainForm::PlaatsKnop};
 
-constexpr std::array<MenuItem MainForm::*, 7> unfinishedEntries{
-    &MainForm::FileImport,      &MainForm::ViewMyCollection, &MainForm::LibraryBorders,
-    &MainForm::LibraryBackside, &MainForm::LibraryGlitter,   &MainForm::ClipartGroot,
-    &MainForm::Symbolen};
+constexpr std::array<MenuItem MainForm::*, 6> unfinishedEntries{
+    &MainForm::FileImport,     &MainForm::LibraryBorders, &MainForm::LibraryBackside,
+    &MainForm::LibraryGlitter, &MainForm::ClipartGroot,   &MainForm::Symbolen};
 
 constexpr std::array<ControlArray<MenuItem> MainForm::*, 1> unfinishedMenus{&MainForm::FlipPic};
 
