@@ -21,6 +21,7 @@ public:
     void SelectPrinter(std::string_view name) override;
 
     void SetOrientation(PageOrientation orientation) override { orientation_ = orientation; }
+    void FeedPage() override;
     void Print(double x, double y, const FontProperties& font, Colour colour, std::string_view text) override;
     void PaintPicture(const Image& image, const Rectangle& to) override;
     void Box(double x1, double y1, double x2, double y2, Colour colour) override;
@@ -30,9 +31,6 @@ public:
     Record<std::string> lines;
 
 private:
-    /// A sheet is fed, and a job started, when something is drawn there.
-    void FeedPage();
-
     std::string current_ = "Printer A";
     PageOrientation orientation_ = PageOrientation::Portrait;
     bool inJob_ = false;

@@ -2,6 +2,7 @@
 
 #include "app/library_menu.h"
 #include "app/start_up.h"
+#include "collection/collection_menu.h"
 #include "colour/pms_form.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
@@ -62,6 +63,7 @@ struct Application::House {
     FileMenu file{context};
     OpenDesign open{context};
     ClipboardCopy copy{context};
+    CollectionMenu collection{context};
     ToolStrip strip{context};
     TextTool text{context};
     ImageBrowser browser{context};

@@ -13,18 +13,30 @@ const std::string& RowList::Row(int index) const {
     return Contains(index) ? rows_[static_cast<std::size_t>(index)] : none;
 }
 
+int RowList::PlaceOf(const std::string& row) const {
+    return static_cast<int>(std::ranges::upper_bound(rows_, row, LessIgnoringCase) - rows_.begin());
+}
+
 void RowList::Add(const std::string& row) {
-    const auto place =
-        sorted_ ? std::upper_bound(rows_.begin(), rows_.end(), row, LessIgnoringCase) : rows_.end();
-    if (place - rows_.begin() <= chosen_) ++chosen_;
-    rows_.insert(place, row);
+    const int place = sorted_ ? PlaceOf(row) : Count();
+    if (place <= chosen_) ++chosen_;
+    rows_.insert(rows_.begin() + place, row);
     ++revision_;
 }
 
 void RowList::Replace(int index, const std::string& row) {
     if (!Contains(index)) return;
-    rows_[static_cast<std::size_t>(index)] = row;
-    ++revision_;
+    if (sorted_) {
+        const bool wasChosen = index == chosen_;
+        const std::string text = row;  // It may be one of the rows.
+        Remove(index);
+        const int place = PlaceOf(text);
+        Add(text);
+        if (wasChosen) chosen_ = place;
+    } else {
+        rows_[static_cast<std::size_t>(index)] = row;
+        ++revision_;
+    }
 }
 
 void RowList::Remove(int index) {

@@ -22,7 +22,8 @@ public:
     bool Contains(int index) const { return index >= 0 && index < Count(); }
     /// Appends a row, or puts it in its place in a sorted list. The chosen row stays the chosen one.
     void Add(const std::string& row);
-    /// Replaces a row (where it stands, sorted list or not); an index outside the list is passed over.
+    /// Replaces a row where it stands; in a sorted list it goes to the place of its new text. The chosen row
+    /// stays the chosen one. An index outside the list is passed over.
     void Replace(int index, const std::string& row);
     /// Removes a row; if it was the chosen one, none is. An index outside the list is passed over.
     void Remove(int index);
@@ -41,6 +42,9 @@ public:
     std::uint64_t Revision() const { return revision_; }
 
 private:
+    /// Where a row belongs in a sorted list: behind its equals.
+    int PlaceOf(const std::string& row) const;
+
     std::vector<std::string> rows_;
     bool sorted_;
     int chosen_ = -1;

@@ -12,8 +12,7 @@ namespace {
 // Tool buttons that open a dialog.
 constexpr std::array unfinishedTools{3, 4};
 
-constexpr std::array<MenuItem MainForm::*, 5> unfinishedEntries{&MainForm::FileImport, &MainForm::FilePrint,
-                                                                &MainForm::ViewMyCollection,
+constexpr std::array<MenuItem MainForm::*, 3> unfinishedEntries{&MainForm::FileImport,
                                                                 &MainForm::ClipartGroot, &MainForm::Symbolen};
 
 }  // namespace

@@ -21,12 +21,14 @@ std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view
     if (FileExists(usual)) return usual;
     const fs::path folder = usual.parent_path();
     for (const std::string& file : ListFiles(folder, "*" + std::string(extension)))
-        if (DesignOf(file) == name) return folder / file;
+        if (WithoutExtension(file) == name) return folder / file;
     return usual;
 }
 
-std::string DesignOf(std::string_view file) {
-    return std::string(file.substr(0, file.size() - std::min(file.size(), designPicture.size())));
+std::string WithoutExtension(std::string_view fileName) {
+    constexpr std::size_t extensionLength = 4;
+    fileName.remove_suffix(std::min(fileName.size(), extensionLength));
+    return std::string(fileName);
 }
 
 }  // namespace coinlet

@@ -25,7 +25,8 @@ std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::strin
 std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view name,
                              std::string_view extension);
 
-/// The name of a design, from that of one of its files. A shorter name than an extension leaves an empty one.
-std::string DesignOf(std::string_view file);
+/// The name of a stored thing from that of its file, such as "coin" from "coin.pat": all but the last four
+/// characters, which are the extension. A shorter name leaves an empty one.
+std::string WithoutExtension(std::string_view fileName);
 
 }  // namespace coinlet

@@ -62,7 +62,7 @@ void OpenFile::Form_Load() {
     File1.SetPattern(std::string(designPattern));
     File1.SetPath(Beneath(context_.services.applicationFolder, "\\Ontwerpen\\").string());
     for (int i = 0; i < File1.ListCount(); ++i)
-        List1.AddItem(DesignOf(File1.List(i)));
+        List1.AddItem(WithoutExtension(File1.List(i)));
     List1.SetFocus();
 }
 

@@ -28,6 +28,8 @@ public:
 
     /// Of the pages from here on.
     virtual void SetOrientation(PageOrientation orientation) = 0;
+    /// Feeds the sheet that the next thing drawn would stand on, be anything drawn there or not.
+    virtual void FeedPage() = 0;
     virtual void Print(double x, double y, const FontProperties& font, Colour colour,
                        std::string_view text) = 0;
     virtual void PaintPicture(const Image& image, const Rectangle& to) = 0;

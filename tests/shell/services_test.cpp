@@ -94,6 +94,46 @@ TEST(QtPrinterTest, EmptyJobLeavesNoFile) {
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "Coinlet.pdf"));
 }
 
+TEST(QtPrinterTest, SheetIsFedWithNothingOnIt) {
+    const TemporaryFolder folder;
+    QtPrinter printer(folder.Path());
+    printer.FeedPage();
+    printer.FeedPage();  // It is there already.
+    printer.EndDoc();
+    EXPECT_EQ(Sheets(Content(folder.Path() / "Coinlet.pdf")), 1);
+}
+
+TEST(QtPrinterTest, EarlierFileStandsUntilTheJobIsWhole) {
+    const TemporaryFolder folder;
+    const auto file = folder.Write("Coinlet.pdf", "of an earlier job");
+    QtPrinter printer(folder.Path());
+    printer.Box(0, 0, 100, 100, black);
+    EXPECT_EQ(Content(file), "of an earlier job");
+    EXPECT_EQ(folder.Count(), 1);
+    printer.EndDoc();
+    EXPECT_EQ(Content(file).substr(0, 5), "%PDF-");
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(QtPrinterTest, SamePictureOnManySheetsIsInTheFileOnce) {
+    const TemporaryFolder folder;
+    QtPrinter printer(folder.Path());
+    const Image picture = Ramp(200, 200), other = Ramp(100, 200);
+    for (int sheet = 0; sheet < 5; ++sheet) {
+        printer.PaintPicture(picture, {0, 0, 3000, 3000});
+        printer.PaintPicture(other, {4000, 0, 3000, 3000});
+        printer.NewPage();
+    }
+    printer.EndDoc();
+    const std::string pdf = Content(folder.Path() / "Coinlet.pdf");
+    EXPECT_EQ(Sheets(pdf), 5);
+    int pictures = 0;
+    for (auto at = pdf.find("/Subtype /Image"); at != std::string::npos;
+         at = pdf.find("/Subtype /Image", at + 1))
+        ++pictures;
+    EXPECT_EQ(pictures, 2);
+}
+
 TEST(QtPrinterTest, LandscapeTurnsTheSheet) {
     const TemporaryFolder folder;
     QtPrinter printer(folder.Path());

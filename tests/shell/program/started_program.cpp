@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "text_places.h"
 
+#include <QProcessEnvironment>
 #include <QStringList>
 
 #include <algorithm>
@@ -57,6 +58,10 @@ StartedProgram::~StartedProgram() {
 void StartedProgram::Start() {
     // Where nothing lies that changes under the pointer.
     MoveTo({1390, 1040});
+    // What it prints and exports goes to this user's home, not to that of whoever runs the tests.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", QString::fromStdString((folder / "home").string()));
+    process_.setProcessEnvironment(environment);
     process_.setProcessChannelMode(QProcess::ForwardedChannels);
     process_.start(QString::fromStdString((folder / builtProgram.filename()).string()), QStringList());
     ASSERT_TRUE(Comes([&] {

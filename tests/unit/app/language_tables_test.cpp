@@ -1,5 +1,6 @@
 // The texts that the program comes with: every hint and explanation fits its place in both languages.
 #include "base/text.h"
+#include "collection/collection_form.h"
 #include "colour/glitter_form.h"
 #include "controls/text_lines.h"
 #include "core/language.h"
@@ -58,6 +59,17 @@ TEST_P(LanguageTable, HasExplanationsThatFitTheirLabels) {
     ExpectFits("080", backForm.Label4);
     const GlitterForm glitterForm(context);
     ExpectFits("141", glitterForm.Label1);
+}
+
+TEST_P(LanguageTable, HasAHelpTextThatFitsItsPanel) {
+    CollectionForm collection(context);
+    const std::string text = LookupInfoText(context, "301");
+    ASSERT_FALSE(TrimBlanks(text).empty());
+    const TextBox& box = collection.Text4;
+    const FontSpec font{.name = box.FontName, .size = box.FontSize};
+    const auto lines = std::ssize(WrapLine(text, WrapWidth(box), font, letters));
+    EXPECT_LE(lines * letters.Measure(font, text).height,
+              box.PixelHeight() - 2 * (textBoxFrame + textBoxMargin));
 }
 
 TEST_P(LanguageTable, HasEachKeyOnceInOrder) {

@@ -291,6 +291,25 @@ TEST_F(FieldsTest, ASortedListKeepsItsOrderAndItsChoice) {
     EXPECT_EQ(log.Take(), Lines{});
 }
 
+TEST_F(FieldsTest, ASortedListMovesARowToThePlaceOfItsNewText) {
+    form.List.SetSorted(true);
+    for (const char* row : {"b", "d", "f"})
+        form.List.AddItem(row);
+    form.List.SetListIndex(0);
+    log.Take();
+    form.List.SetList(0, "e");
+    EXPECT_EQ(form.List.List(0), "d");
+    EXPECT_EQ(form.List.List(1), "e");
+    EXPECT_EQ(form.List.List(2), "f");
+    EXPECT_EQ(form.List.ListIndex(), 1);
+    // Another row than the chosen one, given the text of a third.
+    form.List.SetList(2, form.List.List(0));
+    EXPECT_EQ(form.List.List(0), "d");
+    EXPECT_EQ(form.List.List(1), "d");
+    EXPECT_EQ(form.List.Text(), "e");
+    EXPECT_EQ(log.Take(), Lines{});
+}
+
 TEST_F(FieldsTest, ARowListCountsItsChanges) {
     const auto before = form.List.Rows().Revision();
     form.List.Clear();

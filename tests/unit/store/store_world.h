@@ -57,6 +57,7 @@ public:
     std::string DeviceName() const override { return {}; }
     void SelectPrinter(std::string_view) override {}
     void SetOrientation(PageOrientation) override {}
+    void FeedPage() override {}
     void Print(double, double, const FontProperties&, Colour, std::string_view) override {}
     void PaintPicture(const Image&, const Rectangle&) override {}
     void Box(double, double, double, double, Colour) override {}

@@ -1,0 +1,223 @@
+#include "collection/collection_form.h"
+
+#include "base/files.h"
+#include "base/text.h"
+#include "collection/collection_file.h"
+#include "controls/placing.h"
+#include "core/context.h"
+#include "core/language.h"
+#include "surface/codecs.h"
+
+#include <vector>
+
+namespace coinlet {
+
+namespace {
+
+constexpr int pictureWidth = 211, pictureHeight = 148;
+constexpr Rectangle wholePicture{0, 0, pictureWidth, pictureHeight};
+
+fs::path CatalogueFile(const Context& context) {
+    return Beneath(context.services.applicationFolder, "\\Collection\\Collection.col");
+}
+
+/// Where the picture of a number lies; nothing for a number that can't be a name there.
+std::optional<fs::path> PictureFile(const Context& context, const std::string& number) {
+    const std::string name = number + ".jpg";
+    if (!IsFileName(name)) return {};
+    return Beneath(context.services.applicationFolder, "\\Collection") / name;
+}
+
+}  // namespace
+
+CollectionForm::CollectionForm(Context& context)
+    : Form(context.services.ForForms(), "CollectionForm"), context_(context) {
+    LayOut();
+    LayOutHelp();
+    List1.Click = [this] { List1_Click(); };
+    Text1.KeyDown = [this](int code, int) {
+        if (code == keyReturn && AddKnop.Enabled()) AddKnop_Click();
+    };
+    AddKnop.Click = [this] { AddKnop_Click(); };
+    ChangeKnop.Click = [this] { ChangeKnop_Click(); };
+    DelKnop.Click = [this] { DelKnop_Click(); };
+    HelpKnop.Click = [this] { HelpKnop_Click(); };
+    OkKnop.Click = [this] { OkKnop_Click(); };
+    CancelKnop.Click = [this] { CancelKnop_Click(); };
+}
+
+void CollectionForm::LayOut() {
+    constexpr int margin = 12, column = 215, columnWidth = 213, buttonHeight = 24;
+    Caption = "My Collection";
+    Width = 440 * twipsPerPixel;
+    Height = 400 * twipsPerPixel;
+    List1.SetSorted(true);
+    List1.ForeColor = RGB(230, 230, 200);
+    List1.BackColor = RGB(0, 0, 60);
+    PlaceByPixels(List1, margin, margin, 192, 340);
+    PlaceByPixels(Label5, margin, 369, 192, 16);
+
+    Label1.Border = true;
+    Label1.Caption = "\r\n\r\n\r\n\r\n             No Image available!";
+    PlaceByPixels(Label1, column, margin, columnWidth, pictureHeight + 2);
+    PlaceByPixels(Image1, column + 1, margin + 1, pictureWidth, pictureHeight);
+    Image1.Visible = false;
+    BackPic.Visible = false;
+    BackPic.surface.AutoSize = true;
+
+    Label2.Caption = "ID Number";
+    PlaceByPixels(Label2, column, 176, columnWidth, 16);
+    Text1.ForeColor = RGB(230, 230, 190);
+    Text1.BackColor = RGB(0, 0, 50);
+    PlaceByPixels(Text1, column, 194, columnWidth, 22);
+    int top = 228;
+    for (VistaButton* button : {&AddKnop, &ChangeKnop, &DelKnop}) {
+        PlaceByPixels(*button, column, top, columnWidth, buttonHeight);
+        top += 32;
+    }
+    AddKnop.SetCaption("Add");
+    ChangeKnop.SetCaption("Change");
+    DelKnop.SetCaption("Delete");
+
+    constexpr int bottom = 364, pitch = 74;
+    int left = column;
+    for (VistaButton* button : {&HelpKnop, &OkKnop, &CancelKnop}) {
+        PlaceByPixels(*button, left, bottom, 65, buttonHeight);
+        left += pitch;
+    }
+    HelpKnop.SetCaption("Help");
+    OkKnop.SetCaption("Save");
+    CancelKnop.SetCaption("Cancel");
+}
+
+void CollectionForm::LayOutHelp() {
+    constexpr Colour ground = RGB(0, 40, 0);
+    Label6.Transparent = false;
+    Label6.BackColor = ground;
+    Text4.MultiLine = true;
+    Text4.Locked = true;
+    Text4.ForeColor = RGB(230, 230, 200);
+    Text4.BackColor = ground;
+    for (Control* panel : {static_cast<Control*>(&Label6), static_cast<Control*>(&Text4)})
+        panel->Move(List1.Left(), List1.Top(), List1.Width(), List1.Height());
+    Label6.Visible = false;
+    Text4.Visible = false;
+}
+
+void CollectionForm::Form_Load() {
+    Text4.SetText(LookupInfoText(context_, "301"));
+    LoadCollection();
+    ShowCount();
+    Text1.SetFocus();
+}
+
+void CollectionForm::Form_Unload(bool& cancel) {
+    // The help is left by its own button alone.
+    cancel = Text4.Visible;
+}
+
+void CollectionForm::LoadCollection() {
+    List1.Clear();
+    const Collection collection = ReadCollection(CatalogueFile(context_));
+    readable_ = collection.readable;
+    for (const std::string& number : collection.numbers)
+        List1.AddItem(number);
+}
+
+void CollectionForm::SaveCollection() {
+    // What the user never saw isn't replaced by what he saw instead.
+    if (!readable_) return;
+    std::vector<std::string> numbers;
+    for (int i = 0; i < List1.ListCount(); ++i)
+        numbers.push_back(List1.List(i));
+    WriteCollection(CatalogueFile(context_), numbers);
+}
+
+void CollectionForm::ShowCount() {
+    Label5.Caption = std::to_string(List1.ListCount()) + " Items";
+}
+
+void CollectionForm::List1_Click() {
+    Text1.SetText(List1.Text());
+    ShowPictureOf(Text1.Text());
+}
+
+void CollectionForm::ShowPictureOf(const std::string& number) {
+    const auto file = PictureFile(context_, number);
+    if (!file || !FileExists(*file)) return ShowNoPicture();
+    // A file that holds no picture leaves the one before it.
+    if (const auto picture = LoadPicture(*file, context_.services.codecs))
+        BackPic.surface.SetPicture(*picture);
+    const Image loaded = BackPic.surface.Image();
+    if (loaded.Empty()) return ShowNoPicture();
+    Image1.surface.PaintPicture(loaded, wholePicture);
+    Image1.Visible = true;
+}
+
+void CollectionForm::ShowNoPicture() {
+    Image1.surface.Cls();
+    Image1.Visible = false;
+}
+
+bool CollectionForm::HasNumber() {
+    if (!TrimBlanks(Text1.Text()).empty()) return true;
+    context_.services.platform.ShowMessage(
+        {.prompt = "Serial / ID number nesserary!", .title = "My Collection", .icon = MessageIcon::Stop});
+    Text1.SetFocus();
+    return false;
+}
+
+void CollectionForm::AddKnop_Click() {
+    if (!HasNumber()) return;
+    List1.AddItem(Text1.Text());
+    Text1.SetText("");
+    Text1.SetFocus();
+}
+
+void CollectionForm::ChangeKnop_Click() {
+    if (HasNumber()) List1.SetList(List1.ListIndex(), Text1.Text());
+}
+
+void CollectionForm::DelKnop_Click() {
+    if (List1.ListCount() == 0) return;
+    const int row = List1.ListIndex();
+    const std::string name = List1.Text();
+    const Answer answer = context_.services.platform.ShowMessage(
+        {.prompt = "Do you delete number '" + name + "' from this list?",
+         .title = "Delete Item",
+         .buttons = MessageButtons::YesNo,
+         .icon = MessageIcon::Question,
+         .standard = Answer::No});
+    if (answer != Answer::Yes) return;
+    List1.RemoveItem(row);
+    ShowCount();
+    // Without a choice nothing is meant, also no file that is called ".jpg".
+    const auto picture = row < 0 ? std::nullopt : PictureFile(context_, name);
+    if (picture) static_cast<void>(DeleteFile(*picture));
+    ShowNoPicture();
+}
+
+void CollectionForm::HelpKnop_Click() {
+    const bool help = !Text4.Visible;
+    List1.Visible = !help;
+    Label6.Visible = help;
+    Text4.Visible = help;
+    for (VistaButton* button : {&AddKnop, &DelKnop, &ChangeKnop, &CancelKnop, &OkKnop})
+        button->SetEnabled(!help);
+}
+
+void CollectionForm::OkKnop_Click() {
+    SaveCollection();
+    Leave();
+}
+
+void CollectionForm::CancelKnop_Click() {
+    Leave();
+}
+
+void CollectionForm::Leave() {
+    ShowHint(context_, "001");
+    Unload();
+}
+
+}  // namespace coinlet

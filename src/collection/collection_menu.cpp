@@ -1,0 +1,20 @@
+#include "collection/collection_menu.h"
+
+#include "collection/collection_form.h"
+#include "core/context.h"
+#include "core/language.h"
+#include "core/main_form.h"
+
+namespace coinlet {
+
+CollectionMenu::CollectionMenu(Context& context) : context_(context) {
+    context.main.ViewMyCollection.Click = [this] { ViewMyCollection_Click(); };
+}
+
+void CollectionMenu::ViewMyCollection_Click() {
+    ShowHint(context_, "300");
+    CollectionForm dialog(context_);
+    context_.services.platform.ShowModal(dialog);
+}
+
+}  // namespace coinlet
