@@ -128,6 +128,7 @@ void CollectionForm::SaveCollection() {
     // What the user never saw isn't replaced by what he saw instead.
     if (!readable_) return;
     std::vector<std::string> numbers;
+    numbers.reserve(static_cast<std::size_t>(List1.ListCount()));
     for (int i = 0; i < List1.ListCount(); ++i)
         numbers.push_back(List1.List(i));
     WriteCollection(CatalogueFile(context_), numbers);

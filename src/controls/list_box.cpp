@@ -24,17 +24,16 @@ void RowList::Add(const std::string& row) {
     ++revision_;
 }
 
-void RowList::Replace(int index, const std::string& row) {
+void RowList::Replace(int index, std::string row) {
     if (!Contains(index)) return;
     if (sorted_) {
         const bool wasChosen = index == chosen_;
-        const std::string text = row;  // It may be one of the rows.
         Remove(index);
-        const int place = PlaceOf(text);
-        Add(text);
+        const int place = PlaceOf(row);
+        Add(row);
         if (wasChosen) chosen_ = place;
     } else {
-        rows_[static_cast<std::size_t>(index)] = row;
+        rows_[static_cast<std::size_t>(index)] = std::move(row);
         ++revision_;
     }
 }

@@ -24,7 +24,7 @@ public:
     void Add(const std::string& row);
     /// Replaces a row where it stands; in a sorted list it goes to the place of its new text. The chosen row
     /// stays the chosen one. An index outside the list is passed over.
-    void Replace(int index, const std::string& row);
+    void Replace(int index, std::string row);
     /// Removes a row; if it was the chosen one, none is. An index outside the list is passed over.
     void Remove(int index);
     void Clear();

@@ -70,7 +70,7 @@ void PrintPictures(const Context& context, const SheetLayout& sheets, const File
     Printer& printer = context.services.printer;
     double x = sheetLeft, y = sheets.firstTop;
     for (int i = 0; i < files.ListCount(); ++i) {
-        const std::string file = files.List(i);
+        const std::string& file = files.List(i);
         if (const auto loaded = LoadPicture(fs::path(files.Path()) / file, context.services.codecs))
             picture.SetPicture(*loaded);
         printer.PaintPicture(picture.Image(), {x, y, sheets.width, sheets.height});
