@@ -224,9 +224,11 @@ void LayOutTools(MainForm& main) {
         bar.SetValue(slider.value);
         bar.LargeChange = slider.largeChange;
         caption.Caption = slider.text;
-        Place(caption, 14, slider.top, 138, 14);
-        Place(bar, 14, slider.top + 18, 138, 16);
-        if (slider.panel == nullptr) continue;
+        const bool framed = slider.panel != nullptr;
+        const int left = framed ? 14 : 10, width = framed ? 138 : 150;
+        Place(caption, left, slider.top, width, 14);
+        Place(bar, left, slider.top + 18, width, 16);
+        if (!framed) continue;
         Label& panel = main.*slider.panel;
         const bool eraser = slider.bar == &MainForm::HScroll3;
         Place(panel, 6, slider.top - 6, 154, eraser ? 70 : 48);
