@@ -86,7 +86,7 @@ public:
     }
 
 private:
-    /// Not pulled into work for wide units, as told at RowByRule.
+    /// Not pulled into work for wide units, for the reason given at RowByRule.
     [[gnu::noinline]] int ByRule() { return RoundWhole(run_.random.Next() * reach_ - half_); }
 
     FilterRun& run_;
