@@ -148,10 +148,11 @@ void FilterPixelize(FilterRun& run, std::int32_t side) {
     const int step = std::min(side, std::max({run.Width(), run.Height(), 1}));
     constexpr int greatestOfSmallSums = 2048;  // 255 * 2048 * 2048 fits 31 bits.
     WithVectorUnits(run.units, [=, &run] {
-        if (step <= greatestOfSmallSums)
+        if (step <= greatestOfSmallSums) {
             PixelizeBySums<std::int32_t>(run, step);
-        else
+        } else {
             PixelizeBySums<std::int64_t>(run, step);
+        }
     });
 }
 

@@ -153,10 +153,11 @@ void FilterSaturation(FilterRun& run, std::int32_t percent) {
     const auto product = NearestProduct::Find(factor, -255, 255, [factor](int difference, int found) {
         return std::abs(factor * difference - found) < 0.5;
     });
-    if (product)
+    if (product) {
         SaturateByProducts(run, *product);
-    else
+    } else {
         SaturateByTables(run, factor);
+    }
 }
 
 void FilterStretch(FilterRun& run) {

@@ -124,12 +124,13 @@ void Exaggerate(FilterRun& run, int weight, std::int64_t divisor) {
         divisor /= 2;
     }
     const int small = divisor >= 1 && divisor <= greatestDivisor ? static_cast<int>(divisor) : 0;
-    if (small == 0)
+    if (small == 0) {
         ExaggerateByTable(run, weight, divisor);
-    else if (std::has_single_bit(static_cast<unsigned>(small)))
+    } else if (std::has_single_bit(static_cast<unsigned>(small))) {
         ExaggerateByStep(run, weight, small, ByHalving(small));
-    else
+    } else {
         ExaggerateByStep(run, weight, small, ByMultiplying(small));
+    }
 }
 
 }  // namespace

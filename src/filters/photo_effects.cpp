@@ -45,9 +45,10 @@ Colour Doubled(Colour colour) {
 class Neon {
 public:
     Neon() {
-        for (int value = 0; value < std::ssize(channels_); ++value)
+        for (int value = 0; value < std::ssize(channels_); ++value) {
             channels_[static_cast<std::size_t>(value)] =
                 std::min(RoundHalfEven(std::abs(2 * (255 - 3 * value)) / 5.0 * 3), 255);
+        }
     }
     Colour operator()(Colour colour) const {
         return RGB(Channel(Red(colour)), Channel(Green(colour)), Channel(Blue(colour)));
