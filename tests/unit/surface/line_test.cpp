@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <utility>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -192,6 +194,68 @@ TEST_F(LineTest, DotsAreThreeOnThreeOffFromTheFirstPoint) {
     surface.Line(11, 1, 0, 1);
     surface.Line(-2, 2, 12, 2);
     EXPECT_EQ(GridOf(surface), Grid({"###...###...", "...###...###", "#...###...##"}));
+}
+
+/// The pixels of a thin line, from the first point on: of each step along the longer side the one that is
+/// nearest to the line, of two equally near ones the upper or left one. In whole numbers.
+std::vector<std::pair<long long, long long>> PixelsOfLine(long long x1, long long y1, long long x2,
+                                                          long long y2) {
+    const long long length = std::max(std::abs(x2 - x1), std::abs(y2 - y1));
+    const auto at = [length](long long from, long long to, long long step) {
+        // The whole number from ideal - 1/2 on; the ideal place is a fraction of twice the length.
+        const long long ideal = 2 * (from * length + (to - from) * step);
+        long long place = from - length - 1;
+        while (2 * length * place < ideal - length)
+            ++place;
+        return place;
+    };
+    std::vector<std::pair<long long, long long>> pixels;
+    for (long long i = 0; i < length; ++i)
+        pixels.emplace_back(at(x1, x2, i), at(y1, y2, i));
+    return pixels;
+}
+
+TEST_F(LineTest, DotsCountTheStepsOfTheLineInAnyDirection) {
+    std::uniform_int_distribution<int> place(-15, 44);
+    for (int i = 0; i < 1500; ++i) {
+        const int x1 = place(random_), y1 = place(random_), x2 = place(random_), y2 = place(random_);
+        Surface dotted = Blank(30, 30), inverted = Blank(30, 30), expected = Blank(30, 30);
+        dotted.DrawStyle = inverted.DrawStyle = dottedLine;
+        inverted.DrawMode = invertPen;
+        dotted.Line(x1, y1, x2, y2, RGB(255, 0, 0));
+        inverted.Line(x1, y1, x2, y2);
+        int dot = 0;
+        for (const auto& [x, y] : PixelsOfLine(x1, y1, x2, y2)) {
+            if (dot++ % 6 < 3) expected.PSet(static_cast<double>(x), static_cast<double>(y), RGB(255, 0, 0));
+        }
+        ASSERT_EQ(dotted.Image(), expected.Image()) << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 0; x < 30; ++x)
+                ASSERT_EQ(inverted.Point(x, y) == black, expected.Point(x, y) != white);
+        }
+        inverted.Line(x1, y1, x2, y2);
+        ASSERT_EQ(CountBlack(inverted), 0);
+    }
+}
+
+TEST_F(LineTest, EveryDottedLineBeginsItsDotsAnew) {
+    Surface surface = Blank(10, 2);
+    surface.DrawStyle = dottedLine;
+    surface.Line(0, 0, 2, 0);
+    surface.LineTo(10, 0, RGB(255, 0, 0));
+    surface.DrawStyle = solidLine;
+    surface.Line(0, 1, 10, 1);
+    EXPECT_EQ(GridOf(surface), Grid({"##RRR...RR", "##########"}));
+}
+
+TEST_F(LineTest, OnlyTheDottedStyleHasGaps) {
+    for (const int style : {-1, 1, 3, 4, 5, 6}) {
+        Surface surface = Blank(20, 20), solid = Blank(20, 20);
+        surface.DrawStyle = style;
+        surface.Line(1, 2, 18, 11);
+        solid.Line(1, 2, 18, 11);
+        EXPECT_EQ(surface.Image(), solid.Image()) << style;
+    }
 }
 
 TEST_F(LineTest, WidePensIgnoreDots) {

@@ -5,8 +5,10 @@
 #include "support/block_fonts.h"
 #include "support/picture_grid.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 
 namespace coinlet {
 namespace {
@@ -108,6 +110,58 @@ TEST_F(SurfaceTest, AUserScaleMapsItsEdgesToTheSurfaces) {
     EXPECT_EQ(GridOf(surface_), Grid({"#...", "..R.", "...B"}));
     surface_.SetScaleMode(pixelScale);
     EXPECT_EQ(surface_.ScaleHeight(), 3);
+}
+
+/// The rule itself: a place between the edges lies as far between the edges of the bitmap, and is rounded
+/// there.
+TEST_F(SurfaceTest, PointsAndLinesOfAUserScaleLieWhereTheMapPutsThem) {
+    std::mt19937 random(23);
+    std::uniform_int_distribution<int> pen(1, 5), eighths(-80, 80), side(1, 40), coin(0, 1);
+    const auto edge = [&] { return eighths(random) / 8.0; };
+    for (int i = 0; i < 1000; ++i) {
+        const int width = side(random), height = side(random);
+        const double left = edge(), top = edge(), right = left + 0.125 + std::abs(edge());
+        const double bottom = top + (coin(random) == 0 ? -1 : 1) * (0.125 + std::abs(edge()));
+        Surface scaled(fonts_, width, height), plain(fonts_, width, height);
+        scaled.Scale(left, top, right, bottom);
+        scaled.DrawWidth = plain.DrawWidth = pen(random);
+        scaled.DrawMode = plain.DrawMode = coin(random) == 0 ? copyPen : invertPen;
+        const double x1 = edge(), y1 = edge(), x2 = edge(), y2 = edge();
+        const auto column = [&](double x) { return (x - left) / (right - left) * width; };
+        const auto row = [&](double y) { return (y - top) / (bottom - top) * height; };
+        scaled.Line(x1, y1, x2, y2, RGB(255, 0, 0));
+        scaled.PSet(x2, y1);
+        plain.Line(column(x1), row(y1), column(x2), row(y2), RGB(255, 0, 0));
+        plain.PSet(column(x2), row(y1));
+        ASSERT_EQ(scaled.Image(), plain.Image()) << left << ' ' << top << ' ' << right << ' ' << bottom
+                                                 << ": " << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+        ASSERT_EQ(scaled.CurrentX, static_cast<float>(x2));
+        ASSERT_EQ(scaled.CurrentY, static_cast<float>(y1));
+        ASSERT_EQ(scaled.Point(x2, y1), plain.Point(column(x2), row(y1)));
+    }
+}
+
+TEST_F(SurfaceTest, AUserScaleRoundsInPixelsAndLeavesThePenItsWidth) {
+    Surface surface(fonts_, 8, 8);
+    surface.Scale(-1, 1, 1, -1);  // four pixels a unit
+    surface.PSet(-0.875, 0.625);  // column 0.5, row 1.5
+    surface.DrawWidth = 2;
+    surface.Line(-0.5, 0, 0.5, 0, RGB(255, 0, 0));  // row 4, columns 2 to 6
+    EXPECT_EQ(GridOf(surface), Grid({"........", "........", "#.......", ".RRRRRR.", ".RRRRRR.", "........",
+                                     "........", "........"}));
+}
+
+TEST_F(SurfaceTest, AUserScaleFollowsTheSizeAndSurvivesWiping) {
+    surface_.Scale(0, 1, 1, 0);
+    surface_.Resize(8, 2);
+    surface_.Cls();
+    surface_.SetBackColor(white);
+    surface_.SetPicture({});
+    surface_.PSet(0.5, 0.5);
+    EXPECT_EQ(GridOf(surface_), Grid({"........", "....#..."}));
+    surface_.Scale(0, 2, 8, 0);  // the last one counts
+    surface_.PSet(1, 2, RGB(255, 0, 0));
+    EXPECT_EQ(GridOf(surface_), Grid({".R......", "....#..."}));
 }
 
 TEST_F(SurfaceTest, AUserScaleWithoutExtentIsIgnored) {
