@@ -20,15 +20,46 @@ def flat(longitude, latitude):
     return longitude / 180, -latitude / 180 / math.cos(math.radians(40))
 
 
+def unrolled(ring):
+    """The ring without its jump at the date line: its longitudes run on beyond 180 or -180. Nothing for a ring
+    that goes round a pole."""
+    turns, points, before = 0, [], ring[0][0]
+    for longitude, latitude in ring:
+        if abs(longitude - before) > 180:
+            turns += 360 if before > longitude else -360
+        before = longitude
+        points.append((longitude + turns, latitude))
+    return points if abs(points[0][0] - points[-1][0]) < 180 else []
+
+
+def cut(ring, side, limit=180):
+    """What lies of a ring on the near side of the date line: side 1 keeps longitudes up to the limit, side -1
+    those from minus the limit on. A cut edge runs along the date line."""
+    kept = []
+    for (x, y), (next_x, next_y) in zip(ring, ring[1:] + ring[:1]):
+        if x * side <= limit:
+            kept.append((x, y))
+        if (x * side - limit) * (next_x * side - limit) < 0:
+            kept.append((side * limit, y + (next_y - y) * (side * limit - x) / (next_x - x)))
+    return kept
+
+
+def on_the_map(ring):
+    """The pieces of a ring between the date line on the left and the date line on the right."""
+    whole = unrolled(ring)
+    moved = [[(x + turn, y) for x, y in whole] for turn in (-360, 0, 360)]
+    return [piece for piece in (cut(cut(ring, 1), -1) for ring in moved) if piece]
+
+
 def add_flat(context, radius, south=-57):
-    """The land as a path, `radius` units from the middle to the date line. Antarctica is left out, and what
-    lies across the date line."""
+    """The land as a path, `radius` units from the middle to the date line, where rings that cross it are cut
+    in two. Antarctica is left out."""
     for ring in rings():
-        longitudes, latitudes = zip(*ring)
-        steps = zip(longitudes, longitudes[1:] + longitudes[:1])
-        if max(latitudes) > south and all(abs(a - b) < 180 for a, b in steps):
+        if max(latitude for _, latitude in ring) <= south:
+            continue
+        for piece in on_the_map(ring):
             context.new_sub_path()
-            for point in ring:
+            for point in piece:
                 x, y = flat(*point)
                 context.line_to(x * radius, y * radius)
             context.close_path()

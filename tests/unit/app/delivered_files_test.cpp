@@ -119,19 +119,26 @@ TEST(DeliveredCliparts, AreClosedOutlinesInBlack) {
     }
 }
 
+constexpr int backSide = 150, backColumns = 4;
+
+std::vector<std::string> NamesOfBacks(int collection) {
+    const fs::path file = data / "Data" / ("Back-" + std::to_string(collection) + ".txt");
+    std::vector<std::string> names = Lines(FromCodePage(TextOf(file)));
+    std::erase_if(names, [](const std::string& name) { return TrimBlanks(name).empty(); });
+    return names;
+}
+
 class DeliveredBacks : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(Collections, DeliveredBacks, testing::Values(1, 2));
 
 TEST_P(DeliveredBacks, HaveAPictureForEveryName) {
-    constexpr int side = 150, columns = 4;
+    constexpr int side = backSide, columns = backColumns;
     constexpr std::array<std::ptrdiff_t, 2> least{24, 12};
     const std::string name = "Back-" + std::to_string(GetParam());
     const Image picture = Load(data / "Data" / (name + ".bak"));
     ASSERT_EQ(picture.Width(), columns * side);
     ASSERT_EQ(picture.Height() % side, 0);
-    const std::string names = FromCodePage(TextOf(data / "Data" / (name + ".txt")));
-    std::vector<std::string> lines = Lines(names);
-    std::erase_if(lines, [](const std::string& line) { return TrimBlanks(line).empty(); });
+    const std::vector<std::string> lines = NamesOfBacks(GetParam());
     EXPECT_GE(std::ssize(lines), least.at(static_cast<std::size_t>(GetParam() - 1)));
     EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()).size(), lines.size()) << "a name twice";
     for (int cell = 0; cell < columns * picture.Height() / side; ++cell) {
@@ -139,6 +146,41 @@ TEST_P(DeliveredBacks, HaveAPictureForEveryName) {
         const bool empty = Count(back, white) == side * side;
         EXPECT_EQ(empty, cell >= std::ssize(lines)) << "cell " << cell + 1;
     }
+}
+
+struct PlaceOnEarth {
+    const char* name;
+    double longitude, latitude;
+    bool land;
+};
+
+class DeliveredWorldMap : public testing::TestWithParam<PlaceOnEarth> {};
+INSTANTIATE_TEST_SUITE_P(
+    Places, DeliveredWorldMap,
+    testing::Values(PlaceOnEarth{"Europe", 24, 50, true}, PlaceOnEarth{"Africa", 20, 12, true},
+                    PlaceOnEarth{"Asia", 85, 50, true}, PlaceOnEarth{"EasternAsia", 110, 32, true},
+                    PlaceOnEarth{"NorthAmerica", -100, 45, true},
+                    PlaceOnEarth{"SouthAmerica", -58, -12, true}, PlaceOnEarth{"Australia", 134, -24, true},
+                    PlaceOnEarth{"Atlantic", -35, 25, false}, PlaceOnEarth{"Pacific", -140, 5, false},
+                    PlaceOnEarth{"Indian", 80, -25, false}, PlaceOnEarth{"Southern", -120, -48, false},
+                    PlaceOnEarth{"Arctic", -5, 74, false}),
+    [](const auto& place) { return place.param.name; });
+
+// The map is equirectangular with true shapes at 40 degrees; its date line lies 68 pixels from the middle of
+// the tag, its equator 3 above it.
+TEST_P(DeliveredWorldMap, HasLandAndSeaInTheirPlaces) {
+    constexpr double toDateLine = 68, equator = backSide / 2.0 - 3, trueShape = 0.766;
+    const PlaceOnEarth& place = GetParam();
+    const std::vector<std::string> names = NamesOfBacks(1);
+    const auto cell = static_cast<int>(std::ranges::find(names, "World map") - names.begin());
+    ASSERT_LT(cell, std::ssize(names));
+    const Image picture = Load(data / "Data/Back-1.bak");
+    const double x = backSide / 2.0 + place.longitude / 180 * toDateLine;
+    const double y = equator - place.latitude / 180 * toDateLine / trueShape;
+    const Colour colour = picture.At(cell % backColumns * backSide + static_cast<int>(x),
+                                     cell / backColumns * backSide + static_cast<int>(y));
+    // The sea is blue enamel, the land has no colour.
+    EXPECT_EQ(Blue(colour) - Red(colour) < 50, place.land);
 }
 
 TEST(DeliveredGlitterChart, IsLargerThanItsFrame) {
