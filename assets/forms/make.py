@@ -26,9 +26,10 @@ START_PICTURE_SIDE = 175
 PRINT_PREVIEW_SIDE = 140
 METAL_SIDE = 100
 
-# The hole tool clears a disc of this radius, pen included, before it stamps the ring, whose dark outline just
-# covers the edge of the disc. (A radius of a whole pixel would leave a lone pixel at each of four sides.)
-HOLE_RADIUS = 43.7
+# The hole tool wipes a disc of this radius, pen included, before it stamps the ring. Both have their middle at
+# the same corner of four pixels, so that the ring's dark outline covers the edge of the disc all round.
+HOLE_RADIUS = 44
+HOLE_CENTRE = METAL_SIDE // 2 - 0.5
 BLANK_RADIUS = 46.7
 
 # What a button leaves out of its picture, and from which coverage on (of 255) a pixel is ink: fainter ones
@@ -101,7 +102,7 @@ def on_white(picture):
 
 def hole_rings():
     """A grommet of each metal; white around it and in its hole."""
-    relief = Relief(METAL_SIDE, METAL_SIDE // 2)
+    relief = Relief(METAL_SIDE, HOLE_CENTRE)
     relief.flat_ring(28, HOLE_RADIUS, height=2.5, bevel=3)
     relief.half_round(28, 39, height=5, base=1)
     return metals.strip(relief)

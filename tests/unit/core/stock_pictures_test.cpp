@@ -2,8 +2,11 @@
 #include "core/stock_pictures.h"
 
 #include "core/materials.h"
+#include "support/block_fonts.h"
+#include "surface/surface.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -149,6 +152,12 @@ bool IsMetal(Colour c) {
 class Metals : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(All, Metals, testing::Range(0, 4));
 
+/// How many pixels between a pixel and the middle of its cell, where the hole tool aims.
+double FromTheMiddle(int x, int y) {
+    constexpr double middle = 49.5;  // the disc reaches as far to the left as to the right
+    return std::hypot(x - middle, y - middle);
+}
+
 TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
     const Image rings = HoleRings();
     ASSERT_EQ(rings.Width(), 400);
@@ -156,18 +165,51 @@ TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
     const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
     for (int y = 0; y < 100; ++y) {
         for (int x = 0; x < 100; ++x) {
-            const int square = (x - 50) * (x - 50) + (y - 50) * (y - 50);
+            const double distance = FromTheMiddle(x, y);
             const Colour colour = rings.At(left + x, y);
-            if (square < 26 * 26 || square > 45 * 45) {
+            if (distance < 26 || distance > 45) {
                 EXPECT_EQ(colour, white) << x << ", " << y;
-            } else if (square > 30 * 30 && square < 42 * 42) {
+            } else if (distance > 30 && distance < 43) {
                 EXPECT_TRUE(IsMetal(colour)) << x << ", " << y;
             } else {
                 EXPECT_TRUE(colour == white || IsMetal(colour)) << x << ", " << y;
             }
         }
     }
-    EXPECT_TRUE(IsDark(rings.At(left + 50 - 43, 50))) << "the outline that bounds it from the design";
+    for (const int edge : {6, 93})
+        EXPECT_TRUE(IsDark(rings.At(left + edge, 50))) << "the outline that bounds it from the design";
+}
+
+/// The hole tool wipes a disc and stamps the ring onto it by AND. What is wiped beside the ring would stay
+/// white in a coloured design.
+TEST_P(Metals, HaveAHoleRingWithNothingWipedBesideIt) {
+    const test::BlockFonts fonts;
+    constexpr int cell = 100;
+    Surface design(fonts, cell, cell);
+    design.SetBackColor(RGB(255, 252, 13));
+    constexpr int pen = 2, discRadius = 43;
+    design.DrawWidth = pen;
+    for (int radius = 1; radius <= discRadius; ++radius)
+        design.Circle(cell / 2, cell / 2, radius, white);
+    const Image rings = HoleRings();
+    const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
+    int covered = 0;
+    for (int y = 0; y < cell; ++y) {
+        for (int x = 0; x < cell; ++x) {
+            const bool isWiped = design.Point(x, y) == white, isMetal = rings.At(left + x, y) != white;
+            covered += isWiped && isMetal ? 1 : 0;
+            const bool isOutside = FromTheMiddle(x, y) > 30;
+            if (isOutside) {
+                EXPECT_TRUE(!isWiped || isMetal) << "white beside the ring: " << x << ", " << y;
+            }
+            // The metal that shows over the design has to lie close to the disc.
+            if (!isWiped) {
+                EXPECT_TRUE(!isMetal || FromTheMiddle(x, y) < 45)
+                    << "metal over the design: " << x << ", " << y;
+            }
+        }
+    }
+    EXPECT_GT(covered, 2000);
 }
 
 TEST_P(Metals, HaveABlankTagOnWhite) {
