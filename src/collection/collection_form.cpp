@@ -5,6 +5,7 @@
 #include "collection/collection_file.h"
 #include "controls/placing.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "surface/codecs.h"
 
@@ -43,7 +44,7 @@ CollectionForm::CollectionForm(Context& context)
     DelKnop.Click = [this] { DelKnop_Click(); };
     HelpKnop.Click = [this] { HelpKnop_Click(); };
     OkKnop.Click = [this] { OkKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
 }
 
 void CollectionForm::LayOut() {
@@ -209,16 +210,7 @@ void CollectionForm::HelpKnop_Click() {
 
 void CollectionForm::OkKnop_Click() {
     SaveCollection();
-    Leave();
-}
-
-void CollectionForm::CancelKnop_Click() {
-    Leave();
-}
-
-void CollectionForm::Leave() {
-    ShowHint(context_, "001");
-    Unload();
+    CloseDialog(context_, *this);
 }
 
 }  // namespace coinlet

@@ -49,14 +49,12 @@ private:
     void DelKnop_Click();
     void HelpKnop_Click();
     void OkKnop_Click();
-    void CancelKnop_Click();
 
     /// True if there is a number to take; else the user is told, and sent back to the field.
     bool HasNumber();
     void ShowPictureOf(const std::string& number);
     void ShowNoPicture();
     void ShowCount();
-    void Leave();
 
     Context& context_;
     bool readable_ = true;  ///< False: a catalogue is there that the list doesn't show.

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "colour/glitter_form_layout.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "surface/codecs.h"
@@ -46,7 +47,7 @@ GlitterForm::GlitterForm(Context& context)
     HScroll.Scroll = [this] { HScroll_Change(); };
     VScroll.Change = [this] { VScroll_Change(); };
     VScroll.Scroll = [this] { VScroll_Change(); };
-    ExitKnop.Click = [this] { ExitKnop_Click(); };
+    ExitKnop.Click = [this] { CloseDialog(context_, *this); };
 }
 
 void GlitterForm::Form_Load() {
@@ -85,11 +86,6 @@ void GlitterForm::HScroll_Change() {
 void GlitterForm::VScroll_Change() {
     SlidePic.SetTop(0.0 - VScroll.Value());
     slideTop_ = Pixels(SlidePic.Top());
-}
-
-void GlitterForm::ExitKnop_Click() {
-    ShowHint(context_, "001");
-    Unload();
 }
 
 }  // namespace coinlet

@@ -34,7 +34,6 @@ private:
     void SlidePic_MouseMove(int button, float x, float y);
     void HScroll_Change();
     void VScroll_Change();
-    void ExitKnop_Click();
 
     Context& context_;
     // All in pixels: where the chart is in its frame, 0 or negative; where a drag took hold of it; how far it

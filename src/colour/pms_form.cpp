@@ -4,7 +4,7 @@
 #include "colour/pms_form_layout.h"
 #include "colour/pms_table.h"
 #include "core/context.h"
-#include "core/language.h"
+#include "core/dialog.h"
 #include "core/main_form.h"
 #include "surface/device.h"
 
@@ -124,7 +124,7 @@ void PMSForm::FindPmsColor() {
 
 void PMSForm::OkKnop_Click() {
     context_.main.ColorLabel.BackColor = Label2.BackColor;
-    Leave();
+    CloseDialog(context_, *this);
 }
 
 void PMSForm::CancelKnop_Click() {
@@ -132,12 +132,7 @@ void PMSForm::CancelKnop_Click() {
     session.PmsRed = savedRed_;
     session.PmsGreen = savedGreen_;
     session.PmsBlue = savedBlue_;
-    Leave();
-}
-
-void PMSForm::Leave() {
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 bool PMSForm::TableIsEmpty() const {

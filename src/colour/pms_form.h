@@ -53,7 +53,6 @@ private:
     void FindPmsColor();
     void FillPmsCombo();
     bool TableIsEmpty() const;
-    void Leave();
 
     Context& context_;
     std::string savedRed_, savedGreen_;

@@ -5,9 +5,17 @@
 #include "core/main_form.h"
 #include "core/main_layout.h"
 
+#include <string_view>
+
 namespace coinlet {
 
-void FloatImage(Context& context, const Image& image) {
+namespace {
+
+constexpr std::string_view floatingHintKey = "027";
+
+}  // namespace
+
+void FloatImage(Context& context, const Image& image, FloatingHint hint) {
     MainForm& main = context.main;
     context.session.ToolCode = imageFloats;
     main.ClipPic.surface.SetPicture(image);
@@ -18,7 +26,11 @@ void FloatImage(Context& context, const Image& image) {
     }
     main.ClipPic.Move(0, 0);
     main.ClipPic.Visible = true;
-    ShowHint(context, "027");
+    if (hint == FloatingHint::Shown) {
+        ShowHint(context, floatingHintKey);
+    } else {
+        static_cast<void>(LookupInfoText(context, floatingHintKey));
+    }
     WidenCorner(main);
     main.HoekKnop.Visible = true;
 }
@@ -28,6 +40,11 @@ void HideFloatingImage(Context& context) {
     main.HoekKnop.Visible = false;
     NarrowCorner(main);
     main.ClipPic.Visible = false;
+}
+
+void ExportAsFloatingImage(Context& context, Form& dialog, const Image& image, FloatingHint hint) {
+    FloatImage(context, image, hint);
+    dialog.Unload();
 }
 
 }  // namespace coinlet

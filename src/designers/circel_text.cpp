@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "core/canvas_dialog.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -19,7 +20,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr Rectangle wholeCanvas{0, 0, canvasSide, canvasSide};
 constexpr int centre = canvasSide / 2;
 /// These digits are the ones that every angle here is computed with.
 constexpr double pi = 3.14159625;
@@ -60,8 +60,8 @@ CircelText::CircelText(Context& context)
     LayOutCircelText(*this);
     Check1.Click = [this] { Check1_Click(); };
     DrawKnop.Click = [this] { DrawKnop_Click(); };
-    ExportKnop.Click = [this] { ExportKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    ExportKnop.Click = [this] { ExportToCanvas(context_, *this, Pic.surface.Image()); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
 }
 
 void CircelText::Form_Load() {
@@ -74,12 +74,8 @@ void CircelText::Form_Load() {
         Combo4.AddItem(family);
     Combo4.SetText("Arial");
     Label9.BackColor = context_.main.ColorLabel.BackColor;
-    CopyCanvas();
+    CopyCanvas(context_, Pic.surface);
     Text1.SetFocus();
-}
-
-void CircelText::CopyCanvas() {
-    Pic.surface.PaintPicture(context_.main.Pic.surface.Image(), wholeCanvas, wholeCanvas);
 }
 
 Colour CircelText::InkColour() const {
@@ -105,7 +101,7 @@ void CircelText::DrawCurvedText(bool onTop) {
     picture.ForeColor = InkColour();
     picture.FontBold = Check3.Value();
     picture.FontItalic = Check4.Value();
-    CopyCanvas();
+    CopyCanvas(context_, picture);
 
     const std::vector<std::string> letters = Graphemes(Text1.Text());
     const std::size_t count = letters.size();
@@ -134,17 +130,6 @@ void CircelText::DrawGlyph(std::string_view glyph, double rotation, int x, int y
         picture.ForeColor = white;
     }
     DrawRotatedText(glyph, degrees, x, y, picture);
-}
-
-void CircelText::ExportKnop_Click() {
-    context_.main.Pic.surface.PaintPicture(Pic.surface.Image(), wholeCanvas, wholeCanvas);
-    Unload();
-    ShowHint(context_, "001");
-}
-
-void CircelText::CancelKnop_Click() {
-    Unload();
-    ShowHint(context_, "001");
 }
 
 }  // namespace coinlet

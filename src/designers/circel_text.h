@@ -50,12 +50,9 @@ public:
 private:
     void Check1_Click();
     void DrawKnop_Click();
-    void ExportKnop_Click();
-    void CancelKnop_Click();
 
     void DrawCurvedText(bool onTop);
     void DrawGlyph(std::string_view glyph, double rotation, int x, int y);
-    void CopyCanvas();
     Colour InkColour() const;
 
     Context& context_;

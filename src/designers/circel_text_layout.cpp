@@ -1,8 +1,7 @@
 #include "designers/circel_text_layout.h"
 
-#include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/main_form.h"
+#include "core/canvas_dialog.h"
 #include "designers/circel_text.h"
 
 namespace coinlet {
@@ -12,11 +11,10 @@ namespace {
 // All in pixels. The picture and what to do on the left, the settings in a column on the right, the ways out
 // below them.
 constexpr int formWidth = 776, formHeight = 560;
-constexpr int margin = 12;
-constexpr int column = margin + canvasSide + margin, columnWidth = formWidth - margin - column;
+constexpr int margin = dialogMargin, gap = dialogGap;
+constexpr int column = canvasDialogColumn, columnWidth = formWidth - margin - column;
 constexpr int canvasBottom = margin + canvasSide;
 constexpr int labelHeight = 16, fieldHeight = 24, labelPitch = 18;
-constexpr int gap = 8;
 
 void Head(Label& label, const char* caption, int left, int top, int width) {
     label.Caption = caption;
@@ -78,15 +76,12 @@ void PlaceStyle(CircelText& form) {
 }
 
 void PlaceButtons(CircelText& form) {
-    constexpr int height = 28, width = (columnWidth - gap) / 2;
+    constexpr int height = 28;
     constexpr int drawTop = canvasBottom - height, wayOutTop = formHeight - margin - height;
     Head(form.Label4, "Draw curved text", column, drawTop - labelPitch, columnWidth);
     form.DrawKnop.SetCaption("Draw");
     PlaceByPixels(form.DrawKnop, column, drawTop, columnWidth, height);
-    form.ExportKnop.SetCaption("Export");
-    PlaceByPixels(form.ExportKnop, column, wayOutTop, width, height);
-    form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, column + width + gap, wayOutTop, width, height);
+    PlaceWaysOut(form.ExportKnop, form.CancelKnop, column, wayOutTop, columnWidth, height);
 }
 
 }  // namespace
@@ -95,8 +90,7 @@ void LayOutCircelText(CircelText& form) {
     form.Caption = "Curved Text";
     form.Width = formWidth * twipsPerPixel;
     form.Height = formHeight * twipsPerPixel;
-    PlaceByPixels(form.Pic, margin, margin, canvasSide, canvasSide);
-    SetEdge(form.Shape1, form.Pic);
+    PlaceCanvasCopy(form.Pic, form.Shape1);
     constexpr int below = canvasBottom + gap;
     PlaceByPixels(form.Label8, margin, below, canvasSide, formHeight - margin - below);
     PlaceText(form);

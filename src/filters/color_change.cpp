@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/hourglass.h"
+#include "core/canvas_dialog.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -17,8 +18,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr Rectangle wholeCanvas{0, 0, canvasSide, canvasSide};
 
 /// What the sliders are called and where they stand at first.
 struct SliderStart {
@@ -54,8 +53,8 @@ ColorChange::ColorChange(Context& context)
     Combo1.Click = [this] { Combo1_Change(); };
     StartKnop.Click = [this] { StartKnop_Click(); };
     ResetKnop.Click = [this] { ResetKnop_Click(); };
-    ExportKnop.Click = [this] { ExportKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    ExportKnop.Click = [this] { ExportToCanvas(context_, *this, Pic.surface.Image()); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
 }
 
 void ColorChange::Form_Load() {
@@ -136,17 +135,6 @@ void ColorChange::ReplaceDarkColors(Metal metal) {
 void ColorChange::ResetKnop_Click() {
     BackPic.surface.SetPicture(context_.main.Pic.surface.Image());
     Pic.surface.SetPicture(BackPic.surface.Image());
-}
-
-void ColorChange::ExportKnop_Click() {
-    context_.main.Pic.surface.PaintPicture(Pic.surface.Image(), wholeCanvas, wholeCanvas);
-    Unload();
-    ShowHint(context_, "001");
-}
-
-void ColorChange::CancelKnop_Click() {
-    ShowHint(context_, "001");
-    Unload();
 }
 
 }  // namespace coinlet

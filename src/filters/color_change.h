@@ -48,8 +48,6 @@ private:
     void Combo1_Change();
     void StartKnop_Click();
     void ResetKnop_Click();
-    void ExportKnop_Click();
-    void CancelKnop_Click();
 
     void ReplaceByPalette();
     void ReplaceDarkColors(Metal metal);

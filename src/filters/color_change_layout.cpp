@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/main_form.h"
+#include "core/canvas_dialog.h"
 #include "filters/color_change.h"
 #include "filters/dialog_looks.h"
 
@@ -10,7 +10,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr int column = dialogColumn, columnWidth = dialogColumnWidth;
+constexpr int column = canvasDialogColumn, columnWidth = dialogColumnWidth;
 constexpr int textHeight = 16;
 
 // The boxes stand in two columns about the middle of the dialog's right side.
@@ -79,16 +79,13 @@ void PlaceSliders(ColorChange& form) {
 }
 
 void PlaceButtons(ColorChange& form) {
-    constexpr int width = 124, height = 24, second = column + columnWidth - width;
+    constexpr int width = (columnWidth - dialogGap) / 2, height = 24, second = column + columnWidth - width;
     constexpr int upper = 456, lower = 488;
     form.StartKnop.SetCaption("Replace");
     PlaceByPixels(form.StartKnop, column, upper, width, height);
     form.ResetKnop.SetCaption("Back to Orginal");
     PlaceByPixels(form.ResetKnop, second, upper, width, height);
-    form.ExportKnop.SetCaption("Export");
-    PlaceByPixels(form.ExportKnop, column, lower, width, height);
-    form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, second, lower, width, height);
+    PlaceWaysOut(form.ExportKnop, form.CancelKnop, column, lower, columnWidth, height);
 }
 
 }  // namespace
@@ -97,10 +94,9 @@ void LayOutColorChange(ColorChange& form) {
     form.Caption = "Replace Colors";
     form.Width = dialogWidth * twipsPerPixel;
     form.Height = dialogHeight * twipsPerPixel;
-    PlaceByPixels(form.Pic, dialogMargin, dialogMargin, canvasSide, canvasSide);
+    PlaceCanvasCopy(form.Pic, form.Shape1[0]);
     PlaceByPixels(form.BackPic, 0, 0, canvasSide, canvasSide);
     form.BackPic.Visible = false;
-    SetEdge(form.Shape1[0], form.Pic);
     PlacePalettes(form);
     PlaceBoxes(form);
     PlaceBracket(form);

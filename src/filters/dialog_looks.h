@@ -5,7 +5,6 @@ namespace coinlet {
 // What the two colour dialogs share: the picture on the left, a column of controls on the right.
 
 constexpr int dialogWidth = 792, dialogHeight = 524;  // pixels, as all here
-constexpr int dialogMargin = 12;
-constexpr int dialogColumn = 524, dialogColumnWidth = 256;
+constexpr int dialogColumnWidth = 256;
 
 }  // namespace coinlet

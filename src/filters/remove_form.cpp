@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/hourglass.h"
+#include "core/canvas_dialog.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -17,7 +18,6 @@ namespace coinlet {
 namespace {
 
 constexpr int leftButton = 1;
-constexpr Rectangle wholeCanvas{0, 0, canvasSide, canvasSide};
 
 /// Changes row by row the part of a picture that a canvas has. No event is served until it is done.
 template <class Change>
@@ -40,19 +40,15 @@ RemoveForm::RemoveForm(Context& context)
     RGBKnop.Bind(&VistaButton::Click, [this](int index) { RGBKnop_Click(index); });
     Check2.Click = [this] { Check2_Click(); };
     LoepTimer.Tick = [this] { LoepTimer_Timer(); };
-    ResetKnop.Click = [this] { CopyCanvas(); };
-    ExportKnop.Click = [this] { ExportKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    ResetKnop.Click = [this] { CopyCanvas(context_, Pic.surface); };
+    ExportKnop.Click = [this] { ExportToCanvas(context_, *this, Pic.surface.Image()); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
 }
 
 void RemoveForm::Form_Load() {
     Label2.Caption = LookupInfoText(context_, "100");
-    CopyCanvas();
+    CopyCanvas(context_, Pic.surface);
     Check1.SetFocus();
-}
-
-void RemoveForm::CopyCanvas() {
-    Pic.surface.PaintPicture(context_.main.Pic.surface.Image(), wholeCanvas, wholeCanvas);
 }
 
 void RemoveForm::Pic_MouseDown(int button, float x, float y) {
@@ -104,17 +100,6 @@ void RemoveForm::LoepTimer_Timer() {
     const int left = x - width / 2, top = y - height / 2;
     const Image seen = context_.services.screenGrab.Grab({left, top, left + width, top + height});
     lens.PaintPicture(seen, Rectangle{0, 0, lens.ScaleWidth(), lens.ScaleHeight()});
-}
-
-void RemoveForm::ExportKnop_Click() {
-    context_.main.Pic.surface.PaintPicture(Pic.surface.Image(), wholeCanvas, wholeCanvas);
-    Unload();
-    ShowHint(context_, "001");
-}
-
-void RemoveForm::CancelKnop_Click() {
-    ShowHint(context_, "001");
-    Unload();
 }
 
 }  // namespace coinlet

@@ -49,11 +49,8 @@ private:
     void RGBKnop_Click(int index);
     void Check2_Click();
     void LoepTimer_Timer();
-    void ExportKnop_Click();
-    void CancelKnop_Click();
 
     void RemoveColor(Colour colour);
-    void CopyCanvas();
 
     Context& context_;
 };

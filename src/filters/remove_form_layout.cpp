@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/main_form.h"
+#include "core/canvas_dialog.h"
 #include "filters/dialog_looks.h"
 #include "filters/remove_form.h"
 
@@ -12,7 +12,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr int column = dialogColumn, columnWidth = dialogColumnWidth;
+constexpr int column = canvasDialogColumn, columnWidth = dialogColumnWidth;
 constexpr int glassInterval = 25;  // milliseconds
 
 /// What a button leaves is told by its caption, by a swatch on it and by a label beside it.
@@ -79,13 +79,11 @@ void PlaceGlass(RemoveForm& form) {
 }
 
 void PlaceWaysOut(RemoveForm& form) {
-    constexpr int buttonTop = 488, buttonWidth = 80, buttonHeight = 24, pitch = buttonWidth + 8;
+    constexpr int buttonTop = 488, buttonWidth = 80, buttonHeight = 24, pitch = buttonWidth + dialogGap;
     form.ResetKnop.SetCaption("Reset");
     PlaceByPixels(form.ResetKnop, column, buttonTop, buttonWidth, buttonHeight);
-    form.ExportKnop.SetCaption("Export");
-    PlaceByPixels(form.ExportKnop, column + pitch, buttonTop, buttonWidth, buttonHeight);
-    form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, column + 2 * pitch, buttonTop, buttonWidth, buttonHeight);
+    PlaceWaysOut(form.ExportKnop, form.CancelKnop, column + pitch, buttonTop, columnWidth - pitch,
+                 buttonHeight);
 }
 
 }  // namespace
@@ -94,7 +92,7 @@ void LayOutRemoveForm(RemoveForm& form) {
     form.Caption = "Color Adjustment / Removal";
     form.Width = dialogWidth * twipsPerPixel;
     form.Height = dialogHeight * twipsPerPixel;
-    PlaceByPixels(form.Pic, dialogMargin, dialogMargin, canvasSide, canvasSide);
+    PlaceCanvasCopy(form.Pic, form.Shape1[0]);
     form.Pic.MousePointer = crossPointer;
     PlaceByPixels(form.Label2, column, dialogMargin, columnWidth, 44);
     PlaceReadOut(form);
@@ -104,7 +102,6 @@ void LayOutRemoveForm(RemoveForm& form) {
         Place(form.RGBKnop[i], form.RGBLabel[i], channelRows.at(static_cast<std::size_t>(i)), form);
     PlaceGlass(form);
     PlaceWaysOut(form);
-    SetEdge(form.Shape1[0], form.Pic);
     SetEdge(form.Shape1[1], form.Picture1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/row_file.h"
@@ -117,8 +118,7 @@ void BackForm::ExportKnop_Click() {
     MainForm& main = context_.main;
     main.Label16.Visible = false;
     main.InfoPic.surface.PaintPicture(Orgineel.surface.Image(), placeOnPanel, oneCell);
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 }  // namespace coinlet

@@ -2,6 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
+#include "core/dialog.h"
 #include "libraries/back_form.h"
 
 namespace coinlet {
@@ -9,7 +10,7 @@ namespace coinlet {
 namespace {
 
 // All in pixels.
-constexpr int margin = 12;
+constexpr int margin = dialogMargin;
 constexpr int rowWidth = 600, cellSide = 150;
 constexpr int formWidth = rowWidth + 2 * margin;
 constexpr int optionsTop = 40, rowTop = 72, sliderTop = rowTop + cellSide + 4, sliderHeight = 20;
@@ -33,16 +34,12 @@ void PlaceCatalogue(BackForm& form) {
 }
 
 void PlaceChoice(BackForm& form) {
-    constexpr int width = 120, height = 28, top = formHeight - margin - height;
-    constexpr int cancelLeft = formWidth - margin - width;
+    constexpr int width = 248, height = 28, top = formHeight - margin - height;
     PlaceByPixels(form.Orgineel, margin, chosenTop, cellSide, cellSide);
     SetEdge(form.Shape1[1], form.Orgineel);
     form.Label5.Caption = "Name : ";
     PlaceByPixels(form.Label5, besideChosen, chosenTop, formWidth - margin - besideChosen, 16);
-    form.ExportKnop.SetCaption("Export");
-    PlaceByPixels(form.ExportKnop, cancelLeft - 8 - width, top, width, height);
-    form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, cancelLeft, top, width, height);
+    PlaceWaysOut(form.ExportKnop, form.CancelKnop, formWidth - margin - width, top, width, height);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "libraries/border_form.h"
 
 #include "core/context.h"
-#include "core/language.h"
+#include "core/dialog.h"
 #include "core/main_form.h"
 #include "core/stock_pictures.h"
 #include "libraries/border_form_layout.h"
@@ -158,8 +158,7 @@ void BorderForm::ExportKnop_Click() {
     canvas.DrawWidth = main.HScroll1.Value();
     if (Check1.Value()) StampHole(Orgineel.surface, 2, HoleColumn());
     canvas.PaintPicture(Orgineel.surface.Image(), fullSize, fullSize, Check2.Value() ? SRCAND : SRCCOPY);
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
     PrintMaterial();
 }
 
@@ -175,8 +174,7 @@ void BorderForm::PrintMaterial() {
 
 void BorderForm::CancelKnop_Click() {
     context_.session.MaterialName.clear();
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 }  // namespace coinlet

@@ -2,6 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
+#include "core/dialog.h"
 #include "libraries/border_form.h"
 
 #include <cstddef>
@@ -12,7 +13,7 @@ namespace coinlet {
 namespace {
 
 // Three columns: the names, the preview, the choices. All in pixels.
-constexpr int margin = 12, gap = 16;
+constexpr int margin = dialogMargin, gap = 16;
 constexpr int listWidth = 196, listHeight = 292;
 constexpr int previewLeft = margin + listWidth + gap, previewSide = 250;
 constexpr int column = previewLeft + previewSide + gap, columnWidth = 180;
@@ -61,12 +62,8 @@ void PlaceHoleSlider(BorderForm& form) {
 }
 
 void PlaceWaysOut(BorderForm& form) {
-    constexpr int width = 120, height = 28, top = formHeight - margin - height;
-    constexpr int cancelLeft = formWidth - margin - width;
-    form.ExportKnop.SetCaption("Export");
-    PlaceByPixels(form.ExportKnop, cancelLeft - 8 - width, top, width, height);
-    form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, cancelLeft, top, width, height);
+    constexpr int width = 248, height = 28, top = formHeight - margin - height;
+    PlaceWaysOut(form.ExportKnop, form.CancelKnop, formWidth - margin - width, top, width, height);
 }
 
 }  // namespace

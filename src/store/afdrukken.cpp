@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "controls/placing.h"
 #include "core/context.h"
-#include "core/language.h"
+#include "core/dialog.h"
 #include "core/main_form.h"
 #include "core/plaatjes.h"
 #include "store/print_jobs.h"
@@ -31,7 +31,7 @@ Afdrukken::Afdrukken(Context& context) : Form(context.services.ForForms(), "Afdr
     Combo2.Change = [this] { SelectPrinter(Combo2.Text()); };
     Combo2.Click = [this] { SelectPrinter(Combo2.Text()); };
     PrintKnop.Click = [this] { PrintKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DefaultButton = &PrintKnop;
 }
 
@@ -110,8 +110,7 @@ void Afdrukken::PrintKnop_Click() {
     // While a job serves events, nobody starts another one into it.
     PrintKnop.SetEnabled(false);
     RunJob();
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 void Afdrukken::RunJob() {
@@ -122,11 +121,6 @@ void Afdrukken::RunJob() {
     } else {
         PrintDesign(context_, Val(Combo1.Text()), Check1.Value());
     }
-}
-
-void Afdrukken::CancelKnop_Click() {
-    Unload();
-    ShowHint(context_, "001");
 }
 
 }  // namespace coinlet

@@ -40,7 +40,6 @@ private:
     void LayOut();
     void Option1_Click(int index);
     void PrintKnop_Click();
-    void CancelKnop_Click();
     /// Makes the printer of that name the current one; an unknown name changes nothing.
     void SelectPrinter(const std::string& name);
     void ShowPrinterInTitle();

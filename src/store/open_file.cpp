@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "controls/placing.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
@@ -30,7 +31,7 @@ OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFi
     List1.Click = [this] { List1_Click(); };
     List1.DblClick = [this] { OkKnop_Click(); };
     OkKnop.Click = [this] { OkKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DelKnop.Click = [this] { DelKnop_Click(); };
 }
 
@@ -105,11 +106,6 @@ void OpenFile::OkKnop_Click() {
     // Opened or not, the user is back at the canvas and sees which design it holds.
     OpenChosen();
     Unload();
-}
-
-void OpenFile::CancelKnop_Click() {
-    Unload();
-    ShowHint(context_, "001");
 }
 
 void OpenFile::DelKnop_Click() {

@@ -33,7 +33,6 @@ public:
     void Form_Load() override;
     void List1_Click();
     void OkKnop_Click();
-    void CancelKnop_Click();
     void DelKnop_Click();
 
 private:

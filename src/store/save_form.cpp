@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "controls/placing.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "store/bmp_to_jpeg.h"
@@ -48,7 +49,7 @@ private:
 
 SaveForm::SaveForm(Context& context) : Form(context.services.ForForms(), "SaveForm"), context_(context) {
     SaveKnop.Click = [this] { SaveKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DefaultButton = &SaveKnop;
     LayOut();
 }
@@ -100,15 +101,9 @@ void SaveForm::SaveKnop_Click() {
     if (TrimBlanks(Text1.Text()).empty()) return;
     if (!(Exports() ? ExportJpeg() : SaveDesign())) return;
     ShowProgress();
-    ShowHint(context_, "001");
     context_.services.platform.Screen.MousePointer = toolPointer;
     context_.session.DesignChanged = false;
-    Unload();
-}
-
-void SaveForm::CancelKnop_Click() {
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 bool SaveForm::ExportJpeg() {

@@ -34,7 +34,6 @@ public:
 private:
     void LayOut();
     void SaveKnop_Click();
-    void CancelKnop_Click();
     /// The two jobs; false if the user is to stay in the dialog.
     bool ExportJpeg();
     bool SaveDesign();

@@ -2,6 +2,7 @@
 
 #include "controls/placing.h"
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "store/text_box_rows.h"
@@ -13,7 +14,7 @@ namespace coinlet {
 
 TekstForm::TekstForm(Context& context) : Form(context.services.ForForms(), "TekstForm"), context_(context) {
     OkKnop.Click = [this] { OkKnop_Click(); };
-    CancelKnop.Click = [this] { CancelKnop_Click(); };
+    CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     LayOut();
 }
 
@@ -76,13 +77,7 @@ void TekstForm::OkKnop_Click() {
     const int last = GetTextBoxLines(Text1, rows);
     for (int i = 0; i <= last; ++i)
         list.AddItem(rows[static_cast<std::size_t>(i)]);
-    Unload();
-    ShowHint(context_, "001");
-}
-
-void TekstForm::CancelKnop_Click() {
-    Unload();
-    ShowHint(context_, "001");
+    CloseDialog(context_, *this);
 }
 
 }  // namespace coinlet

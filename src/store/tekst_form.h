@@ -28,7 +28,6 @@ private:
     void LayOut();
     void DrawIcon();
     void OkKnop_Click();
-    void CancelKnop_Click();
 
     Context& context_;
 };
