@@ -12,6 +12,7 @@ import pathlib
 import numpy
 from PIL import Image, ImageDraw, ImageFont
 
+from cliparts import closed
 from kit.drawing import ink, render_svg, save_gif
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -84,6 +85,9 @@ def cell_of(drawing):
     share = enclosed(cell)
     if share < LEAST_ENCLOSED:
         raise SystemExit(f"{drawing}: its outline isn't closed ({share:.0%} enclosed)")
+    places = closed.leaks(white_regions(pixels), pixels.shape)
+    if places:
+        raise SystemExit(f"{drawing}: regions run into each other at these widths and places: {places}")
     return cell
 
 

@@ -119,6 +119,81 @@ TEST(DeliveredCliparts, AreClosedOutlinesInBlack) {
     }
 }
 
+/// Gives each white region of a clipart a colour of its own, 1, 2, 3, ..., and tells how many pixels have
+/// each.
+std::vector<std::ptrdiff_t> ColourRegions(Surface& clipart) {
+    std::vector<std::ptrdiff_t> sizes;
+    clipart.FillStyle = solidFill;
+    for (int y = 0; y < clipart.Pixels().Height(); ++y) {
+        for (int x = 0; x < clipart.Pixels().Width(); ++x) {
+            if (clipart.Point(x, y) != white) continue;
+            const auto colour = static_cast<Colour>(sizes.size() + 1);
+            clipart.FillColor = colour;
+            ExtFloodFill(clipart.hDC(), x, y, white, FLOODFILLSURFACE);
+            sizes.push_back(Count(clipart, colour));
+        }
+    }
+    return sizes;
+}
+
+/// Which regions have run into each other in a smaller copy of a clipart with coloured regions: for each the
+/// first one of its group.
+std::vector<std::size_t> RegionsJoined(const Surface& small, std::size_t count) {
+    std::vector<std::size_t> group(count);
+    for (std::size_t region = 0; region < count; ++region)
+        group[region] = region;
+    const auto first = [&group](Colour colour) {
+        auto region = static_cast<std::size_t>(colour - 1);
+        while (group[region] != region)
+            region = group[region];
+        return region;
+    };
+    const auto touch = [&](Colour one, Colour other) {
+        if (one == black || other == black || one == other) return;
+        const std::size_t a = first(one), b = first(other);
+        group[std::max(a, b)] = std::min(a, b);
+    };
+    const Image picture = small.Image();
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
+            if (x > 0) touch(picture.At(x - 1, y), picture.At(x, y));
+            if (y > 0) touch(picture.At(x, y - 1), picture.At(x, y));
+        }
+    }
+    for (std::size_t region = 0; region < count; ++region)
+        group[region] = first(static_cast<Colour>(region + 1));
+    return group;
+}
+
+// The dialog makes a clipart smaller by leaving out rows and columns. Where a line is too thin two regions
+// then touch, and a fill of the one runs out into the other.
+TEST(DeliveredCliparts, StayClosedAtAllSizes) {
+    constexpr int cellWidth = 330, cellHeight = 360, cells = 5, narrowest = 110, smallestRegion = 60;
+    constexpr double heightToWidth = 1.09;
+    for (const std::string& file : ListFiles(data / "Cliparts", "*.art")) {
+        const Image sheet = Load(data / "Cliparts" / file);
+        for (int cell = 0; cell < cells; ++cell) {
+            Cut clipart(sheet, cell * cellWidth, 0, cellWidth, cellHeight);
+            const std::vector<std::ptrdiff_t> sizes = ColourRegions(clipart);
+            for (int width = narrowest; width <= cellWidth; width += 2) {
+                const auto height = static_cast<int>(std::nearbyint(width * heightToWidth));
+                Surface small(fonts, width, height);
+                small.PaintPicture(clipart.Image(),
+                                   {0, 0, static_cast<double>(width), static_cast<double>(height)},
+                                   {0, 0, cellWidth, cellHeight});
+                const std::vector<std::size_t> group = RegionsJoined(small, sizes.size());
+                std::set<std::size_t> groups;
+                for (std::size_t region = 0; region < sizes.size(); ++region) {
+                    if (sizes[region] <= smallestRegion) continue;
+                    EXPECT_TRUE(groups.insert(group[region]).second)
+                        << file << ", cell " << cell + 1 << ", " << width << " wide: a region of "
+                        << sizes[region] << " pixels is open";
+                }
+            }
+        }
+    }
+}
+
 constexpr int backSide = 150, backColumns = 4;
 
 std::vector<std::string> NamesOfBacks(int collection) {
