@@ -6,6 +6,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/settings.h"
+#include "core/undo.h"
 
 #include <string>
 
@@ -24,7 +25,7 @@ MainLife::MainLife(Context& context) : context_(context) {
     main.Timer1.Tick = [this] { Timer1_Timer(); };
     main.FileNew.Click = [this] { FileNew_Click(); };
     main.FileExit.Click = [&main] { main.Unload(); };
-    main.BewerkenUndo.Click = [this] { BewerkenUndo_Click(); };
+    main.BewerkenUndo.Click = [&main] { Undo(main); };
     main.ViewKruis.Click = [this] { ViewKruis_Click(); };
 }
 
@@ -83,10 +84,6 @@ void MainLife::FileNew_Click() {
     session.ToolCode = nothingArmed;
     ShowHint(context_, "001");
     session.DesignChanged = false;
-}
-
-void MainLife::BewerkenUndo_Click() {
-    context_.main.Pic.surface.SetPicture(context_.main.UndoPic.surface.Image());
 }
 
 void MainLife::ViewKruis_Click() {

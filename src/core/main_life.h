@@ -14,7 +14,6 @@ private:
     void Form_Unload(bool& cancel);
     void Timer1_Timer();
     void FileNew_Click();
-    void BewerkenUndo_Click();
     void ViewKruis_Click();
 
     Context& context_;

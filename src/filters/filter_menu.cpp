@@ -2,6 +2,7 @@
 
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/undo.h"
 #include "filters/filter_core.h"
 #include "filters/filter_table.h"
 #include "filters/photo_effects.h"
@@ -124,7 +125,7 @@ void FilterMenu::RunEntry(FilterMenuPart part, int index) {
 
 void FilterMenu::ChangeCanvas(const std::function<void()>& change) {
     Surface& canvas = context_.main.Pic.surface;
-    context_.main.UndoPic.surface.SetPicture(canvas.Image());
+    KeepForUndo(context_.main);
     const ProgressShown shown(context_);
     change();
     canvas.Refresh();

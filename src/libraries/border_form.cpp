@@ -4,6 +4,7 @@
 #include "core/dialog.h"
 #include "core/main_form.h"
 #include "core/stock_pictures.h"
+#include "core/undo.h"
 #include "libraries/border_form_layout.h"
 #include "surface/codecs.h"
 
@@ -153,7 +154,7 @@ void BorderForm::StampHole(Surface& border, int scale, int column) const {
 void BorderForm::ExportKnop_Click() {
     MainForm& main = context_.main;
     Surface& canvas = main.Pic.surface;
-    main.UndoPic.surface.SetPicture(canvas.Image());
+    KeepForUndo(main);
     CutOutTag(canvas);
     canvas.DrawWidth = main.HScroll1.Value();
     if (Check1.Value()) StampHole(Orgineel.surface, 2, HoleColumn());

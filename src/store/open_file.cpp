@@ -7,6 +7,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
+#include "core/undo.h"
 #include "store/composed_picture.h"
 #include "store/design_files.h"
 #include "store/info_text.h"
@@ -92,7 +93,7 @@ void OpenFile::OpenChosen() {
 
     MainForm& main = context_.main;
     main.Pic.surface.SetPicture(*picture);
-    main.UndoPic.surface.SetPicture(*picture);
+    KeepForUndo(main);
     session.DesignName = name;
     main.Label2.Caption = fileNameCaption + name;
     session.DesignChanged = false;

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/undo.h"
 #include "filters/progress_bar.h"
 #include "surface/mirror.h"
 #include "surface/rotation.h"
@@ -81,7 +82,7 @@ FlipMenu::FlipMenu(Context& context) : context_(context) {
 
 void FlipMenu::FlipPic_Click(int index) {
     MainForm& main = context_.main;
-    main.UndoPic.surface.SetPicture(main.Pic.surface.Image());
+    KeepForUndo(main);
     const ProgressShown shown(context_, ImagesButton::Disabled);
     context_.session.ToolCode = usedUpTool;
     flips.at(static_cast<std::size_t>(index - main.FlipPic.First()))(context_);

@@ -6,6 +6,7 @@
 #include "core/floating_image.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/undo.h"
 #include "surface/device.h"
 #include "tools/tool_codes.h"
 
@@ -70,7 +71,7 @@ void FloatingClip::HoekKnop_Click() {
 
 void FloatingClip::Paste_Click(int index) {
     MainForm& main = context_.main;
-    main.UndoPic.surface.SetPicture(main.Pic.surface.Image());
+    KeepForUndo(main);
     if (index == pasteNormal) PasteWhole(main, SRCCOPY);
     if (index == pasteTransparent) PasteWhole(main, SRCAND);
     if (index == pasteWithoutBackground) PasteWithoutBackground();

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/undo.h"
 #include "tools/tool_codes.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
     MainForm& main = context_.main;
     Session& session = context_.session;
     Surface& canvas = main.Pic.surface;
-    main.UndoPic.surface.SetPicture(canvas.Image());
+    KeepForUndo(main);
     session.StartX = x;
     session.StartY = y;
     PlaceEraserMarker(x, y);

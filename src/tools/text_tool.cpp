@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/undo.h"
 #include "surface/device.h"
 
 #include <algorithm>
@@ -118,7 +119,7 @@ void TextTool::PlaatsKnop_Click() {
             {.prompt = "There is no text...", .title = "Error", .icon = MessageIcon::Stop});
         return;
     }
-    main.UndoPic.surface.SetPicture(main.Pic.surface.Image());
+    KeepForUndo(main);
     main.VertPic.surface.SetPicture({});
     TakeStyle(main, main.TextLabel);
     TakeStyle(main, main.VertPic.surface);
@@ -148,7 +149,7 @@ void TextTool::PrintForTurning() {
 
 void TextTool::Place(GesturePoint pointer) {
     MainForm& main = context_.main;
-    main.UndoPic.surface.SetPicture(main.Pic.surface.Image());
+    KeepForUndo(main);
     context_.session.DesignChanged = true;
     if (main.VertCheck.Value()) {
         PlaceTurned(pointer);
