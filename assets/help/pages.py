@@ -11,6 +11,10 @@ A source is a well-formed page with a few elements of its own:
                                             a table of filters, each before and after
     <shapes><shape name="shape_1">Caption</shape>...</shapes>
                                             a grid of small pictures
+    <border-count/>                         how many borders there are
+    <border-reach most="from"/>, ... "to"/> how near to the middle three of four borders come, at the most
+                                            and at the least
+    <border-list within="180"/>             the borders that come nearer to the middle than so many pixels
 
 Pictures are looked for in pictures/LANGUAGE/ and in pictures/.
 """
@@ -22,6 +26,8 @@ import subprocess
 import xml.etree.ElementTree as ET
 
 from PIL import Image
+
+from help import reaches
 
 HERE = pathlib.Path(__file__).resolve().parent
 PICTURES = HERE / "pictures"
@@ -125,6 +131,18 @@ class Document:
             cells.append(cell)
         return self.grid(cells, int(element.get("columns", SHAPES_IN_A_ROW)), "shapes") if cells else []
 
+    def border_figure(self, element):
+        """A figure about the borders that are delivered, as text."""
+        text = ET.Element("span")
+        if element.tag == "border-count":
+            text.text = str(len(reaches.of_borders()))
+        elif element.tag == "border-reach":
+            text.text = str(reaches.of_most()[element.get("most")])
+        else:
+            text.text = ", ".join(f"{name} ({reach})" for name, reach in
+                                  reaches.within(int(element.get("within"))))
+        return [text]
+
     def contents(self, _):
         """Chapters and sections with their pages, which the renderer fills in."""
         top = ET.Element("nav", {"class": "toc"})
@@ -141,7 +159,8 @@ class Document:
     def expand(self, parent):
         """Puts what the renderer knows in the place of the elements of our own."""
         makers = {"shot": self.shot, "callouts": self.shot, "toc": self.contents, "filters": self.filters,
-                  "shapes": self.shapes}
+                  "shapes": self.shapes, "border-count": self.border_figure,
+                  "border-reach": self.border_figure, "border-list": self.border_figure}
         for child in list(parent):
             self.expand(child)
             if child.tag not in makers:
