@@ -20,8 +20,6 @@ namespace coinlet::player {
 
 namespace {
 
-constexpr int noButton = 0;
-constexpr int leftButton = 1;
 constexpr int noShift = 0;
 
 // --- Pointer ----------------------------------------------------------------------------------------------

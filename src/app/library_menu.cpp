@@ -4,6 +4,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "libraries/back_form.h"
 #include "libraries/border_form.h"
 
@@ -28,7 +29,7 @@ struct LibraryEntry {
 constexpr std::array libraryEntries{
     LibraryEntry{&MainForm::LibraryBorders, "", Open<BorderForm>},
     LibraryEntry{&MainForm::LibraryBackside, "", Open<BackForm>},
-    LibraryEntry{&MainForm::LibraryGlitter, "140", Open<GlitterForm>},
+    LibraryEntry{&MainForm::LibraryGlitter, key::lookAtGlitter, Open<GlitterForm>},
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
+#include "core/text_keys.h"
 #include "surface/codecs.h"
 
 #include <vector>
@@ -69,7 +70,6 @@ void CollectionForm::LayOut() {
     Label2.Caption = "ID Number";
     PlaceByPixels(Label2, column, 176, columnWidth, 16);
     Text1.ForeColor = RGB(230, 230, 190);
-    Text1.BackColor = RGB(0, 0, 50);
     PlaceByPixels(Text1, column, 194, columnWidth, 22);
     int top = 228;
     for (VistaButton* button : {&AddKnop, &ChangeKnop, &DelKnop}) {
@@ -106,7 +106,7 @@ void CollectionForm::LayOutHelp() {
 }
 
 void CollectionForm::Form_Load() {
-    Text4.SetText(LookupInfoText(context_, "301"));
+    Text4.SetText(LookupInfoText(context_, key::collectionHelp));
     LoadCollection();
     ShowCount();
     Text1.SetFocus();

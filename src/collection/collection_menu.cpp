@@ -4,6 +4,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 
 namespace coinlet {
 
@@ -12,7 +13,7 @@ CollectionMenu::CollectionMenu(Context& context) : context_(context) {
 }
 
 void CollectionMenu::ViewMyCollection_Click() {
-    ShowHint(context_, "300");
+    ShowHint(context_, key::keepCollection);
     CollectionForm dialog(context_);
     context_.services.platform.ShowModal(dialog);
 }

@@ -6,6 +6,7 @@
 #include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "surface/codecs.h"
 
 #include <algorithm>
@@ -18,7 +19,6 @@ namespace coinlet {
 namespace {
 
 constexpr std::string_view chartFile = "\\Data\\Glitter.bak";
-constexpr int leftButton = 1;
 
 /// A place or a length in whole pixels; out of range it is the nearest there is.
 std::int16_t Pixels(double value) {
@@ -51,7 +51,7 @@ GlitterForm::GlitterForm(Context& context)
 }
 
 void GlitterForm::Form_Load() {
-    Label1.Caption = LookupInfoText(context_, "141");
+    Label1.Caption = LookupInfoText(context_, key::glitterHelp);
     VScroll.SetFocus();
     const fs::path file = Beneath(context_.services.applicationFolder, chartFile);
     const auto chart = LoadPicture(file, context_.services.codecs);

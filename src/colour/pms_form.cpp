@@ -16,8 +16,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr int leftButton = 1;
-
 /// The labels that tell a field of the table, and what stands before the field.
 struct FieldLabel {
     Label PMSForm::*label;

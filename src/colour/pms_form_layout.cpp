@@ -9,9 +9,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr Colour formColour = RGB(220, 220, 190);
-constexpr Colour fieldColour = RGB(0, 0, 50);
-constexpr Colour fieldText = RGB(220, 220, 250);
 constexpr const char* formTitle = "Pantone Matching System (PMS) Colors";
 
 constexpr int paletteColumns = 14, boxPitch = 20, boxInset = 2;  // pixels
@@ -48,7 +45,6 @@ void LayOutPmsForm(PMSForm& form) {
     form.Caption = formTitle;
     form.Width = formWidth * twipsPerPixel;
     form.Height = formHeight * twipsPerPixel;
-    form.BackColor = formColour;
     for (const LabelPlace& place : labels)
         PlaceByPixels(form.*place.label, place.left, place.top, place.width, place.height);
 
@@ -63,8 +59,6 @@ void LayOutPmsForm(PMSForm& form) {
 
     PlaceByPixels(form.HScroll1, column1, 164, 280, 20);
     PlaceByPixels(form.Combo1, column1, 212, 280, 24);
-    form.Combo1.BackColor = fieldColour;
-    form.Combo1.ForeColor = fieldText;
     const int columns = paletteColumns * boxPitch + 1;
     const int rows = static_cast<int>(palette.size()) / paletteColumns * boxPitch + 1;
     PlaceByPixels(form.Pic, column1, 252, columns, rows);

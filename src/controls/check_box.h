@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -13,7 +14,7 @@ class ToggleControl : public Control, public FontProperties {
 public:
     std::string Caption;
     Colour ForeColor = black;
-    Colour BackColor = RGB(220, 220, 190);
+    Colour BackColor = formColour;
 
     bool Value() const { return value_; }
     virtual void SetValue(bool value) = 0;

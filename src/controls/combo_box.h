@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/house_colours.h"
 #include "controls/list_box.h"
 
 #include <string>
@@ -12,8 +13,8 @@ class ComboBox : public Control, public FontProperties {
 public:
     ComboBox(Container& container, std::string_view name, int index = noIndex);
 
-    Colour ForeColor = RGB(220, 220, 250);
-    Colour BackColor = RGB(0, 0, 50);
+    Colour ForeColor = fieldTextColour;
+    Colour BackColor = fieldColour;
 
     int ListCount() const { return rows_.Count(); }
     const std::string& List(int index) const { return rows_.Row(index); }

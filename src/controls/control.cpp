@@ -8,12 +8,6 @@
 
 namespace coinlet {
 
-namespace {
-
-constexpr int leftButton = 1;
-
-}  // namespace
-
 Control::Control(Container& container, std::string_view name, int index, ControlKind kind)
     : Element(container.HostForm(), name, index),
       TabIndex(container.HostForm().controlsMade_++),

@@ -24,6 +24,9 @@ enum class ControlKind {
     Button
 };
 
+/// Buttons of the pointer, as its events tell them.
+constexpr int noButton = 0, leftButton = 1, rightButton = 2, middleButton = 4;
+
 /// Pointer shapes.
 constexpr int defaultPointer = 0;
 constexpr int crossPointer = 2;

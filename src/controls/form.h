@@ -2,6 +2,7 @@
 
 #include "controls/container.h"
 #include "controls/element.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 
 #include <cstdint>
@@ -39,7 +40,7 @@ public:
     std::string Caption;
     /// Inner size in twips, the menu bar not counted.
     double Width = 0, Height = 0;
-    Colour BackColor = RGB(220, 220, 190);
+    Colour BackColor = formColour;
     int MousePointer = 0;
 
     /// The user may have the form before him: from its loading to its unloading.

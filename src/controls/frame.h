@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -15,7 +16,7 @@ public:
 
     std::string Caption;
     Colour ForeColor = black;
-    Colour BackColor = RGB(220, 220, 190);
+    Colour BackColor = formColour;
     bool Border = true;
 
     void VisitProperties(PropertyVisitor& visitor) override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -17,7 +18,7 @@ public:
 
     std::string Caption;
     Colour ForeColor = black;
-    Colour BackColor = RGB(220, 220, 190);
+    Colour BackColor = formColour;
     bool Transparent = true;  ///< What lies behind shows through; else `BackColor` fills the label.
     bool Border = false;      ///< A thin sunken frame.
     coinlet::Alignment Alignment = Alignment::Left;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -57,8 +58,8 @@ class ListBox : public Control, public FontProperties {
 public:
     ListBox(Container& container, std::string_view name, int index = noIndex);
 
-    Colour ForeColor = RGB(220, 220, 250);
-    Colour BackColor = RGB(0, 0, 50);
+    Colour ForeColor = fieldTextColour;
+    Colour BackColor = fieldColour;
     /// Rows stand in order, without regard to case. To be set before rows are added.
     void SetSorted(bool sorted) { rows_.SetSorted(sorted); }
 

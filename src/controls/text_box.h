@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -17,8 +18,8 @@ public:
     /// A changed text raises `Change`.
     void SetText(const std::string& text);
 
-    Colour ForeColor = RGB(220, 220, 250);
-    Colour BackColor = RGB(0, 0, 50);
+    Colour ForeColor = fieldTextColour;
+    Colour BackColor = fieldColour;
     bool MultiLine = false;       ///< Lines end in CR LF; long ones wrap.
     bool VerticalScroll = false;  ///< A scroll bar at the right, for multi-line boxes.
     bool Locked = false;          ///< The user can read and copy, but not change.

@@ -5,12 +5,13 @@
 #include "controls/vista_button.h"
 #include "core/context.h"
 #include "core/language.h"
+#include "core/text_keys.h"
 
 namespace coinlet {
 
 void CloseDialog(Context& context, Form& dialog) {
     dialog.Unload();
-    ShowHint(context, "001");
+    ShowHint(context, key::ready);
 }
 
 void PlaceWaysOut(VistaButton& exportKnop, VistaButton& cancelKnop, int left, int top, int width,

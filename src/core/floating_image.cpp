@@ -4,16 +4,9 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_layout.h"
-
-#include <string_view>
+#include "core/text_keys.h"
 
 namespace coinlet {
-
-namespace {
-
-constexpr std::string_view floatingHintKey = "027";
-
-}  // namespace
 
 void FloatImage(Context& context, const Image& image, FloatingHint hint) {
     MainForm& main = context.main;
@@ -27,9 +20,9 @@ void FloatImage(Context& context, const Image& image, FloatingHint hint) {
     main.ClipPic.Move(0, 0);
     main.ClipPic.Visible = true;
     if (hint == FloatingHint::Shown) {
-        ShowHint(context, floatingHintKey);
+        ShowHint(context, key::placeFloatingImage);
     } else {
-        static_cast<void>(LookupInfoText(context, floatingHintKey));
+        static_cast<void>(LookupInfoText(context, key::placeFloatingImage));
     }
     WidenCorner(main);
     main.HoekKnop.Visible = true;

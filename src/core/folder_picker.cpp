@@ -2,11 +2,12 @@
 
 #include "core/context.h"
 #include "core/language.h"
+#include "core/text_keys.h"
 
 namespace coinlet {
 
 std::string BrowseForFolder(Context& context) {
-    return context.services.platform.PickFolder(LookupInfoText(context, "006"));
+    return context.services.platform.PickFolder(LookupInfoText(context, key::chooseFolder));
 }
 
 }  // namespace coinlet

@@ -5,6 +5,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "core/web_targets.h"
 
 #include <string>
@@ -48,8 +49,9 @@ void HelpMenu::HelpScreen_Click(int index) {
     std::string text = "Screenresolution... : " + std::to_string(screen.DotsPerInch) +
                        " Dpi (Dots / Inch)\r\n" + "Screensize..... : " + std::to_string(screen.Width) +
                        " x " + std::to_string(screen.Height) + "\r\n" + std::string(42, '-') + "\r\n";
-    for (const char* key : {"045", "046", "047", "048"})
-        text += LookupInfoText(context_, key) + "\r\n";
+    for (const std::string_view line :
+         {key::screenMadeFor, key::screenMayNotFit, key::screenCanBeChanged, key::screenHelpEntry})
+        text += LookupInfoText(context_, line) + "\r\n";
     context_.services.platform.ShowMessage({.prompt = text, .title = " Screeninfo"});
 }
 

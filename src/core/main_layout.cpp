@@ -1,5 +1,6 @@
 #include "core/main_layout.h"
 
+#include "controls/house_colours.h"
 #include "core/main_form.h"
 #include "core/stock_pictures.h"
 
@@ -10,9 +11,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr Colour panelColour = RGB(220, 220, 190);
-constexpr Colour fieldColour = RGB(0, 0, 50);
-constexpr Colour fieldText = RGB(220, 220, 250);
 constexpr Colour boardColour = RGB(60, 64, 72);
 constexpr Colour sliderPanelColour = RGB(206, 206, 174);
 
@@ -32,12 +30,12 @@ void LayOutStrip(MainForm& main) {
     main.MenuPic.Border = false;
     main.MenuPic.BackColor = fieldColour;
     for (Label* label : {&main.Label2, &main.Label19, &main.KlokLabel}) {
-        label->ForeColor = fieldText;
+        label->ForeColor = fieldTextColour;
         label->FontSize = 9;
     }
     Place(main.Label2, 12, 6, 560, 16);
     Place(main.Label19, 584, 6, 200, 16);
-    main.Label19.ForeColor = RGB(255, 252, 13);
+    main.Label19.ForeColor = accentColour;
     main.Label19.Alignment = Alignment::Center;
     main.Label19.Visible = false;
     Place(main.KlokLabel, 906, 6, 180, 16);
@@ -51,8 +49,8 @@ void LayOutBrowser(MainForm& main) {
     main.Bar.Visible = false;
     Place(main.MapKnop, 128, 12, 59, 24);
     Place(main.List1, 9, 44, 178, 280);
-    main.List1.ForeColor = RGB(60, 60, 60);
-    main.List1.BackColor = RGB(200, 220, 220);
+    main.List1.ForeColor = fileListTextColour;
+    main.List1.BackColor = fileListColour;
     main.File1.Visible = false;
     Place(main.Label8, 9, 332, 178, 16);
     main.Pic2.Move(135, 5355, 2625, 2625);
@@ -122,17 +120,17 @@ void LayOutCanvas(MainForm& main) {
 
     main.XYcor.AutoSize = true;
     main.XYcor.Transparent = false;
-    main.XYcor.BackColor = RGB(255, 255, 225);
+    main.XYcor.BackColor = noteColour;
     main.XYcor.Visible = false;
     main.TextLabel.AutoSize = true;
     main.TextLabel.Visible = false;
 
     main.TopInfoPic.Move(8010, 270, 2670, 300);
-    main.TopInfoPic.surface.SetBackColor(panelColour);
+    main.TopInfoPic.surface.SetBackColor(formColour);
     main.InfoPic.Move(8010, 570, 2670, 7500);
     main.Label16.Move(8010 + Twips(14), 570 + Twips(340), Twips(150), Twips(150));
     main.Label16.Transparent = false;
-    main.Label16.BackColor = RGB(255, 255, 225);
+    main.Label16.BackColor = noteColour;
     main.Label16.Visible = false;
 }
 
@@ -213,7 +211,7 @@ void LayOutTools(MainForm& main) {
     Place(main.Label6, 10, 276, 150, 14);
     main.ColorLabel.Transparent = false;
     main.ColorLabel.Border = true;
-    main.ColorLabel.BackColor = RGB(255, 252, 13);
+    main.ColorLabel.BackColor = accentColour;
     main.ColorLabel.ToolTipText = " Click to change Colors ";
     Place(main.ColorLabel, 10, 292, 150, 24);
 
@@ -303,7 +301,6 @@ void WidenCorner(MainForm& main) {
 void LayOutMain(MainForm& main) {
     main.Width = 16470;
     main.Height = 10020;
-    main.BackColor = panelColour;
     main.Caption = "Coinlet Designer";
     LayOutStrip(main);
     LayOutBrowser(main);

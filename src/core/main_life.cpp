@@ -6,6 +6,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/settings.h"
+#include "core/text_keys.h"
 #include "core/undo.h"
 
 #include <string>
@@ -42,8 +43,8 @@ void MainLife::Form_Activate() {
 void MainLife::Form_Unload(bool& cancel) {
     Platform& platform = context_.services.platform;
     if (context_.session.DesignChanged) {
-        const std::string question =
-            LookupInfoText(context_, "008") + "\r\n" + LookupInfoText(context_, "009");
+        const std::string question = LookupInfoText(context_, key::changesNotSaved) + "\r\n" +
+                                     LookupInfoText(context_, key::confirmLeaving);
         const Answer answer = platform.ShowMessage({.prompt = question,
                                                     .title = " Close Coinlet Designer",
                                                     .buttons = MessageButtons::YesNo,
@@ -68,11 +69,12 @@ void MainLife::Timer1_Timer() {
 void MainLife::FileNew_Click() {
     MainForm& main = context_.main;
     Session& session = context_.session;
-    const Answer answer = context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, "007"),
-                                                                  .title = "New",
-                                                                  .buttons = MessageButtons::YesNo,
-                                                                  .icon = MessageIcon::Question,
-                                                                  .standard = Answer::Yes});
+    const Answer answer =
+        context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, key::confirmNew),
+                                                .title = "New",
+                                                .buttons = MessageButtons::YesNo,
+                                                .icon = MessageIcon::Question,
+                                                .standard = Answer::Yes});
     if (answer != Answer::Yes) return;
     main.Pic.surface.SetPicture({});
     session.DesignName.clear();
@@ -82,7 +84,7 @@ void MainLife::FileNew_Click() {
     DrawInfoRows(main, infoTextAfterNew);
     main.Label16.Visible = false;
     session.ToolCode = nothingArmed;
-    ShowHint(context_, "001");
+    ShowHint(context_, key::ready);
     session.DesignChanged = false;
 }
 

@@ -2,16 +2,12 @@
 
 #include "controls/property.h"
 #include "core/materials.h"
+#include "core/tool_codes.h"
 
 #include <cstdint>
 #include <string>
 
 namespace coinlet {
-
-/// The value of `ToolCode` with which nothing is armed and a release doesn't mark the design as changed.
-constexpr std::int16_t nothingArmed = 999;
-/// The value of `ToolCode` while an image floats over the canvas.
-constexpr std::int16_t imageFloats = 50;
 
 /// What all forms share beside the canvas: the tool in use and its measures, the gesture, the colour of the
 /// present pick, the design and its metal. Forms read and write it directly.

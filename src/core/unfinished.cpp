@@ -1,6 +1,7 @@
 #include "core/unfinished.h"
 
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 
 #include <algorithm>
 #include <array>
@@ -9,8 +10,7 @@ namespace coinlet {
 
 namespace {
 
-// Tool buttons that open a dialog.
-constexpr std::array unfinishedTools{3, 4};
+constexpr std::array unfinishedTools{polygonTool, arcTool};
 
 constexpr std::array<MenuItem MainForm::*, 3> unfinishedEntries{&MainForm::FileImport,
                                                                 &MainForm::ClipartGroot, &MainForm::Symbolen};

@@ -6,6 +6,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "designers/circel_text_layout.h"
 #include "designers/rotated_text.h"
 
@@ -66,7 +67,7 @@ CircelText::CircelText(Context& context)
 
 void CircelText::Form_Load() {
     Text1.SetText("Coinlet Designer");
-    Label8.Caption = LookupInfoText(context_, "050");
+    Label8.Caption = LookupInfoText(context_, key::curvedTextHelp);
     Fill(Combo1, distances);
     Fill(Combo2, radii);
     Fill(Combo3, sizes);

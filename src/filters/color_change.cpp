@@ -6,6 +6,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "filters/color_change_layout.h"
 #include "filters/color_palettes.h"
 #include "filters/surface_walk.h"
@@ -58,7 +59,7 @@ ColorChange::ColorChange(Context& context)
 }
 
 void ColorChange::Form_Load() {
-    InfoLabel.Caption = LookupInfoText(context_, "150");
+    InfoLabel.Caption = LookupInfoText(context_, key::replacementHelp);
     Combo1.Clear();
     for (const ColorPalette& palette : colorPalettes)
         Combo1.AddItem(std::string(palette.name));

@@ -2,6 +2,7 @@
 
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 #include "core/undo.h"
 #include "filters/filter_core.h"
 #include "filters/filter_table.h"
@@ -51,8 +52,6 @@ constexpr EffectEntry effectEntries[] = {{3, "Edge Lines", {}, DrawEdgeLines},
 /// The entries that open a sub-menu.
 constexpr int contrastHead = 9, swapHead = 12;
 
-constexpr int firstFilterCode = 100;
-
 /// The filter and its entry at that place of the menu; nothing where there is none.
 struct FoundEntry {
     FilterNumber number;
@@ -101,7 +100,7 @@ FilterMenu::FilterMenu(Context& context, FilterCore& core) : context_(context), 
 void FilterMenu::Filter_Click(int index) {
     ChangeCanvas([this, index] {
         // No drawing tool stays armed.
-        context_.session.ToolCode = static_cast<std::int16_t>(firstFilterCode + index);
+        context_.session.ToolCode = static_cast<std::int16_t>(filterTools + index);
         context_.main.Label16.Visible = false;
         RunEntry(FilterMenuPart::Filter, index);
         const auto* effect = std::ranges::find(effectEntries, index, &EffectEntry::index);

@@ -6,6 +6,7 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "filters/colour_removal.h"
 #include "filters/remove_form_layout.h"
 #include "filters/surface_walk.h"
@@ -16,8 +17,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr int leftButton = 1;
 
 /// Changes row by row the part of a picture that a canvas has. No event is served until it is done.
 template <class Change>
@@ -46,7 +45,7 @@ RemoveForm::RemoveForm(Context& context)
 }
 
 void RemoveForm::Form_Load() {
-    Label2.Caption = LookupInfoText(context_, "100");
+    Label2.Caption = LookupInfoText(context_, key::removalHelp);
     CopyCanvas(context_, Pic.surface);
     Check1.SetFocus();
 }

@@ -6,6 +6,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/row_file.h"
+#include "core/text_keys.h"
 #include "libraries/back_form_layout.h"
 #include "surface/codecs.h"
 
@@ -55,7 +56,7 @@ BackForm::BackForm(Context& context) : Form(context.services.ForForms(), "BackFo
 }
 
 void BackForm::Form_Load() {
-    Label4.Caption = LookupInfoText(context_, "080");
+    Label4.Caption = LookupInfoText(context_, key::backsHelp);
     HScroll1.SetFocus();
     if (!LoadBackPicture(firstCollection)) return;
     HScroll1.SetMax(LastRow());

@@ -51,7 +51,7 @@ protected:
         Gate().Enter([&] {
             ListBox& list = model();
             list.PointerPressed(button, shift, x, y);
-            if (button != 1 || row < 0) return;
+            if (button != leftButton || row < 0) return;
             if (again && row == list.ListIndex()) {
                 list.UserActivates();
             } else {

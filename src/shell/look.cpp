@@ -46,7 +46,7 @@ QPalette FormPalette() {
         palette.setColor(group, QPalette::Mid, ToQColor(RGB(180, 180, 150)));
         palette.setColor(group, QPalette::Dark, ToQColor(edgeColour));
         palette.setColor(group, QPalette::Shadow, ToQColor(RGB(90, 90, 70)));
-        palette.setColor(group, QPalette::ToolTipBase, ToQColor(RGB(255, 255, 225)));
+        palette.setColor(group, QPalette::ToolTipBase, ToQColor(noteColour));
         palette.setColor(group, QPalette::ToolTipText, text);
     }
     return palette;

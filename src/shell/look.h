@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/house_colours.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
@@ -14,10 +15,7 @@
 
 namespace coinlet {
 
-/// The colours of forms and fields, and what is mixed from them.
-constexpr Colour formColour = RGB(220, 220, 190);
-constexpr Colour fieldColour = RGB(0, 0, 50);
-constexpr Colour fieldTextColour = RGB(220, 220, 250);
+// Colours beside those of the house that only windows need.
 constexpr Colour edgeColour = RGB(140, 140, 110);
 constexpr Colour highlightColour = RGB(70, 90, 170);
 constexpr Colour disabledTextColour = RGB(130, 130, 110);

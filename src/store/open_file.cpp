@@ -1,12 +1,14 @@
 #include "store/open_file.h"
 
 #include "base/files.h"
+#include "controls/house_colours.h"
 #include "controls/placing.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
+#include "core/text_keys.h"
 #include "core/undo.h"
 #include "store/composed_picture.h"
 #include "store/design_files.h"
@@ -48,8 +50,8 @@ void OpenFile::LayOut() {
     PlaceByPixels(OkKnop, 88, 232, 100, 24);
     PlaceByPixels(CancelKnop, 196, 232, 100, 24);
 
-    List1.ForeColor = RGB(60, 60, 60);
-    List1.BackColor = RGB(200, 220, 220);
+    List1.ForeColor = fileListTextColour;
+    List1.BackColor = fileListColour;
     Label1.Border = true;
     File1.Visible = false;
     BackPic.Visible = false;
@@ -60,7 +62,7 @@ void OpenFile::LayOut() {
 }
 
 void OpenFile::Form_Load() {
-    Label2.Caption = LookupInfoText(context_, "040");
+    Label2.Caption = LookupInfoText(context_, key::openFileHelp);
     File1.SetPattern(std::string(designPattern));
     File1.SetPath(Beneath(context_.services.applicationFolder, "\\Ontwerpen\\").string());
     for (int i = 0; i < File1.ListCount(); ++i)
@@ -97,7 +99,7 @@ void OpenFile::OpenChosen() {
     session.DesignName = name;
     main.Label2.Caption = fileNameCaption + name;
     session.DesignChanged = false;
-    ShowHint(context_, "001");
+    ShowHint(context_, key::ready);
     main.InfoPic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, panelWidth, panelHeight},
                                       {composedPanelLeft, 0, panelWidth, BackPic.surface.ScaleHeight()});
     ReadDesignInfoText(context_, name);

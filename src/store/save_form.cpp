@@ -9,6 +9,7 @@
 #include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "store/bmp_to_jpeg.h"
 #include "store/composed_picture.h"
 #include "store/design_files.h"
@@ -86,7 +87,7 @@ void SaveForm::LayOut() {
 
 void SaveForm::Form_Load() {
     Caption = Exports() ? "Export to JPG image" : "Save Coinlet";
-    if (Exports()) ShowHint(context_, "071");
+    if (Exports()) ShowHint(context_, key::exportImage);
     Label1.Caption = "0%";
     Text1.SetText(context_.session.DesignName);
     Check1.Visible = Exports();
@@ -138,11 +139,12 @@ bool SaveForm::SaveDesign() {
 
 bool SaveForm::MayWrite(const fs::path& path) {
     if (!FileExists(path)) return true;
-    const Answer answer = context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, "070"),
-                                                                  .title = " Exist",
-                                                                  .buttons = MessageButtons::YesNo,
-                                                                  .icon = MessageIcon::Question,
-                                                                  .standard = Answer::No});
+    const Answer answer =
+        context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, key::confirmOverwrite),
+                                                .title = " Exist",
+                                                .buttons = MessageButtons::YesNo,
+                                                .icon = MessageIcon::Question,
+                                                .standard = Answer::No});
     return answer == Answer::Yes;
 }
 

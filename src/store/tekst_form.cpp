@@ -1,10 +1,12 @@
 #include "store/tekst_form.h"
 
+#include "controls/house_colours.h"
 #include "controls/placing.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
 #include "store/text_box_rows.h"
 
 #include <string>
@@ -22,19 +24,16 @@ void TekstForm::LayOut() {
     Caption = "Coinlet Info Text";
     Width = 380 * twipsPerPixel;
     Height = 284 * twipsPerPixel;
-    BackColor = RGB(220, 220, 190);
     PlaceByPixels(Image1, 12, 12, 32, 32);
     DrawIcon();
     PlaceByPixels(Label2, 56, 12, 312, 40);
     Label1.Transparent = false;
-    Label1.BackColor = RGB(0, 0, 50);
+    Label1.BackColor = fieldColour;
     PlaceByPixels(Label1, 12, 60, 356, 176);
     Text1.MultiLine = true;
     Text1.VerticalScroll = true;
     Text1.FontName = "Arial";
     Text1.FontSize = 8.25F;
-    Text1.ForeColor = RGB(220, 220, 250);
-    Text1.BackColor = RGB(0, 0, 50);
     PlaceByPixels(Text1, 20, 68, 340, 160);
     OkKnop.SetCaption("Save");
     PlaceByPixels(OkKnop, 200, 248, 80, 24);
@@ -44,7 +43,7 @@ void TekstForm::LayOut() {
 
 /// A sheet of paper with a heading and lines of text.
 void TekstForm::DrawIcon() {
-    constexpr Colour outline = RGB(40, 40, 60), accent = RGB(255, 252, 13), text = RGB(110, 110, 130);
+    constexpr Colour outline = RGB(40, 40, 60), accent = accentColour, text = RGB(110, 110, 130);
     Surface& icon = Image1.surface;
     icon.SetBackColor(BackColor);
     icon.Line(5, 1, 26, 30, white, Box::Filled);
@@ -56,10 +55,10 @@ void TekstForm::DrawIcon() {
 }
 
 void TekstForm::Form_Load() {
-    Label2.Caption = LookupInfoText(context_, "200");
+    Label2.Caption = LookupInfoText(context_, key::infoTextHelp);
     const ListBox& rows = context_.main.List2;
     if (rows.ListCount() == 0) {
-        Text1.SetText(LookupInfoText(context_, "201"));
+        Text1.SetText(LookupInfoText(context_, key::infoTextPrompt));
         Text1.SelectText();
     } else {
         std::string text;

@@ -3,7 +3,7 @@
 #include "core/context.h"
 #include "core/floating_image.h"
 #include "core/main_form.h"
-#include "tools/tool_codes.h"
+#include "core/tool_codes.h"
 
 namespace coinlet {
 

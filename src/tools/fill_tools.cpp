@@ -3,8 +3,8 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 #include "surface/device.h"
-#include "tools/tool_codes.h"
 
 #include <cstdint>
 #include <string>

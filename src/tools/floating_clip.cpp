@@ -6,9 +6,10 @@
 #include "core/floating_image.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
+#include "core/tool_codes.h"
 #include "core/undo.h"
 #include "surface/device.h"
-#include "tools/tool_codes.h"
 
 #include <algorithm>
 #include <limits>
@@ -17,8 +18,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr int leftButton = 1;
 
 /// Entries of the menu of ways of pasting.
 constexpr int pasteNormal = 1, pasteTransparent = 2, pasteWithoutBackground = 3;
@@ -76,7 +75,7 @@ void FloatingClip::Paste_Click(int index) {
     if (index == pasteTransparent) PasteWhole(main, SRCAND);
     if (index == pasteWithoutBackground) PasteWithoutBackground();
     HideFloatingImage(context_);
-    ShowHint(context_, "001");
+    ShowHint(context_, key::ready);
     context_.session.ToolCode = usedUpTool;
     context_.session.DesignChanged = true;
 }

@@ -3,8 +3,8 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 #include "core/undo.h"
-#include "tools/tool_codes.h"
 
 #include <algorithm>
 
@@ -12,7 +12,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr int leftButton = 1, rightButton = 2;
 // The read-out of the band stands above its anchor, a little to the left.
 constexpr float readOutAbove = 15, readOutLeft = 3;
 // The hole's marker is 89 pixels wide, the pointer in its middle.

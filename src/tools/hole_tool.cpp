@@ -5,7 +5,8 @@
 #include "core/main_form.h"
 #include "core/materials.h"
 #include "core/plaatjes.h"
-#include "tools/tool_codes.h"
+#include "core/text_keys.h"
+#include "core/tool_codes.h"
 
 #include <algorithm>
 
@@ -45,7 +46,7 @@ ToolFamily HoleTool(Context& context) {
         canvas.DrawWidth = session.LineWidth;
         session.ToolCode = nothingArmed;
         context.main.HoleShape.Visible = false;
-        ShowHint(context, "001");
+        ShowHint(context, key::ready);
     };
     return {.firstCode = holeTool, .lastCode = holeTool, .release = release};
 }

@@ -5,8 +5,8 @@
 #include "core/context.h"
 #include "core/info_panel.h"
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 #include "surface/device.h"
-#include "tools/tool_codes.h"
 
 #include <optional>
 
@@ -14,7 +14,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr int leftButton = 1;
 constexpr Colour emptySwatch = RGB(195, 195, 195);
 // The white frame of a swatch, in pixels; the rows of the frame count from the top of the row.
 constexpr int frameLeft = 21, frameRight = 39, frameTop = 1, frameBottom = 19;

@@ -2,7 +2,7 @@
 
 #include "core/context.h"
 #include "core/main_form.h"
-#include "tools/tool_codes.h"
+#include "core/tool_codes.h"
 
 namespace coinlet {
 

@@ -3,8 +3,8 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 #include "surface/device.h"
-#include "tools/tool_codes.h"
 
 #include <algorithm>
 #include <array>
@@ -16,25 +16,6 @@
 namespace coinlet {
 
 namespace {
-
-enum ShapeCodes : int {
-    rectangleShape = firstShapeTool,
-    roundedRectangleShape,
-    ellipseShape,
-    triangleShape,
-    squareShape,
-    pentagonShape,
-    hexagonShape,
-    heartShape,
-    diamondShape,
-    quatroShape,
-    rasterShape,
-    openStarShape,
-    starShape,
-    innerBoxShape,
-    doubleTriangleShape,
-    treeShape,
-};
 
 /// A place in the box of a figure, in eighths of its width and height.
 struct Spot {

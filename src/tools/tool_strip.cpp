@@ -3,11 +3,12 @@
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/text_keys.h"
+#include "core/tool_codes.h"
 #include "core/unfinished.h"
 #include "designers/circel_text.h"
 #include "filters/color_change.h"
 #include "filters/remove_form.h"
-#include "tools/tool_codes.h"
 
 #include <array>
 #include <string>
@@ -38,7 +39,7 @@ void ShowTextPanel(Context& context) {
 
 void ArmPick(Context& context) {
     MainForm& main = context.main;
-    main.Label16.Caption = LookupInfoText(context, "017");
+    main.Label16.Caption = LookupInfoText(context, key::pickIntoSidePanel);
     main.Label16.Visible = true;
     main.Pic.MousePointer = crossPointer;
 }
@@ -63,25 +64,24 @@ void Open(Context& context) {
 }
 
 constexpr std::array<ToolRow, 16> toolRows{{
-    {"010"},
-    {"011"},
+    {key::drawFreeHand},
+    {key::drawLine},
     {"", PopUpShapes},
-    {"013"},
-    {"014"},
-    {"015"},
-    {"016", ShowEraserControls},
-    {"018", Open<CircelText>},
-    {"019", ShowTextPanel},
-    {"061", ArmPick},
-    {"020", Open<RemoveForm>},
-    {"021", Open<ColorChange>},
-    {"022"},
-    {"023", PopUpFlips},
-    {"024"},
-    {"025", ShowAboutSlider},
+    {key::designPolygon},
+    {key::designArc},
+    {key::fill},
+    {key::erase, ShowEraserControls},
+    {key::writeCurvedText, Open<CircelText>},
+    {key::writeText, ShowTextPanel},
+    {key::pickColour, ArmPick},
+    {key::removeColours, Open<RemoveForm>},
+    {key::replaceColours, Open<ColorChange>},
+    {key::copyArea},
+    {key::flipOrTurn, PopUpFlips},
+    {key::makeHole},
+    {key::readAbout, ShowAboutSlider},
 }};
 
-constexpr int roundedRectangle = 2, raster = 11;
 /// "Tree" isn't among the entries that a choice unchecks: once chosen it keeps its check mark.
 constexpr int lastUncheckedShape = 15;
 
@@ -153,12 +153,12 @@ void ToolStrip::Vormen_Click(int index) {
     const std::initializer_list<Control*> rasterControls{&main.Label20, &main.Label21, &main.HScroll4};
     for (Control* control : rasterControls)
         control->Visible = false;
-    ShowHint(context_, "012");
-    if (index == roundedRectangle) {
+    ShowHint(context_, key::drawShape);
+    if (context_.session.ToolCode == roundedRectangleShape) {
         for (Control* control : std::initializer_list<Control*>{&main.Label9, &main.HScroll2, &main.Label10})
             control->Visible = true;
     }
-    if (index == raster) {
+    if (context_.session.ToolCode == rasterShape) {
         for (Control* control : rasterControls)
             control->Visible = true;
     }
@@ -166,7 +166,7 @@ void ToolStrip::Vormen_Click(int index) {
 
 void ToolStrip::ColorLabel_MouseDown() {
     context_.session.ToolCode = colourChooserTool;
-    ShowHint(context_, "060");
+    ShowHint(context_, key::chooseFillColour);
     openColourChooser();
 }
 
@@ -175,7 +175,7 @@ void ToolStrip::ExitKnop_Click() {
     main.Frame6.Visible = false;
     main.Frame4.Visible = true;
     main.Knop[pickTool].SetEnabled(true);
-    ShowHint(context_, "004");
+    ShowHint(context_, key::toolsAreBack);
 }
 
 void ToolStrip::HScroll5_Change() {
