@@ -1,21 +1,22 @@
 #!/usr/bin/env bash
-# Installs what is missing for building and running the program ("run"), also for its tests ("test"), or for
-# making its pictures, fonts and manuals anew ("assets").
+# Installs what is missing for building and running the program ("run"), also for its packages ("package"), for
+# its tests ("test"), or for making its pictures, fonts and manuals anew ("assets").
 # Changes nothing when all is there.
 set -euo pipefail
 
 run_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libturbojpeg0-dev fonts-liberation)
 # Fonts of many kinds for the texts on tags: the program offers what is installed.
-run_packages+=(fonts-bebas-neue fonts-yanone-kaffeesatz fonts-comfortaa fonts-quicksand fonts-play fonts-jura
-    fonts-ferrite-core fonts-sixtyfour fonts-cabinsketch fonts-comic-neue fonts-lobstertwo fonts-dancingscript
-    fonts-kristi fonts-ecolier-court fonts-sjfonts fonts-blankenburg fonts-isabella fonts-goudybookletter
-    fonts-oldstandard fonts-averia-serif-gwf fonts-gnutypewriter fonts-courier-prime)
-test_packages=(libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
+mapfile -t display_fonts <"$(dirname "${BASH_SOURCE[0]}")/display_fonts.txt"
+run_packages+=("${display_fonts[@]}")
+package_packages=(dpkg-dev)
+test_packages=("${package_packages[@]}" lintian appstream desktop-file-utils
+    libgtest-dev libbenchmark-dev libxcb1-dev xvfb xauth xdotool clang-format clang-tidy)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
     poppler-utils weasyprint faketime)
 
 packages=("${run_packages[@]}")
 case "${1:-run}" in
+    package) packages+=("${package_packages[@]}") ;;
     test) packages+=("${test_packages[@]}") ;;
     assets) packages+=("${test_packages[@]}" "${assets_packages[@]}") ;;
 esac

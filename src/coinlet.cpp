@@ -1,25 +1,57 @@
 #include "app/application.h"
+#include "launch/application_folder.h"
+#include "launch/command_line.h"
+#include "launch/user_folders.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
 #include "media/system_clock.h"
 #include "shell/shell.h"
 
-int main(int argc, char** argv) {
-    using namespace coinlet;
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <variant>
+#include <vector>
 
+namespace {
+
+using namespace coinlet;
+
+std::variant<CommandLine, Notice> ReadArguments(int argc, char** argv) {
+    return ReadCommandLine(std::vector<std::string_view>(argv + (argc > 0 ? 1 : 0), argv + argc));
+}
+
+int Say(const Notice& notice) {
+    std::fputs(notice.text.c_str(), notice.status == 0 ? stdout : stderr);
+    return notice.status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // Help is for those without a screen too; what else stands there, the toolkit reads first.
+    const auto first = ReadArguments(argc, argv);
+    if (const auto* notice = std::get_if<Notice>(&first); notice && notice->status == 0) return Say(*notice);
     Shell shell(argc, argv);
+    const auto arguments = ReadArguments(argc, argv);
+    if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
+    const auto& line = std::get<CommandLine>(arguments);
+
     const QtFontEngine fonts;
     const MediaCodecs codecs;
     const SystemClock clock;
-    const Services services{.applicationFolder = shell.ApplicationFolder(),
-                            .platform = shell.GetPlatform(),
-                            .fonts = fonts,
-                            .codecs = codecs,
-                            .clock = clock,
-                            .desktop = shell.GetDesktop(),
-                            .clipboard = shell.GetClipboard(),
-                            .printer = shell.GetPrinter(),
-                            .screenGrab = shell.GetScreenGrab()};
+    const Services services{
+        .applicationFolder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
+                                                .userDataFolder = UserDataFolder(std::getenv),
+                                                .named = line.folder}),
+        .platform = shell.GetPlatform(),
+        .fonts = fonts,
+        .codecs = codecs,
+        .clock = clock,
+        .desktop = shell.GetDesktop(),
+        .clipboard = shell.GetClipboard(),
+        .printer = shell.GetPrinter(),
+        .screenGrab = shell.GetScreenGrab()};
     Application application(services);
     return shell.Run([&] { application.Start(); });
 }

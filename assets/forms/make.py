@@ -1,5 +1,6 @@
 """The pictures that the forms carry: icons of the buttons, the pointer, stock pictures. They go into the sources,
-not into the data: the program holds them in itself.
+not into the data: the program holds them in itself. So do the icons that desktops show for the program, which go
+into its packages.
 """
 
 import io
@@ -15,6 +16,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent / "src"
 CORE_STOCK = SOURCE / "core" / "stock"
 SHELL_STOCK = SOURCE / "shell" / "stock"
+PACKAGE_ICONS = HERE.parent.parent / "packaging" / "icons"
+PACKAGE_ICON_SIDES = (24, 32, 48, 64, 128, 256)
 
 # In the order of the tool buttons.
 TOOLS = [
@@ -128,7 +131,11 @@ def make(_data):
     hole_rings().save(CORE_STOCK / "hole_rings.bmp")
     blank_tags().save(CORE_STOCK / "blank_tags.bmp")
     # The smallest icon is a drawing of its own: fewer parts, each on whole pixels.
-    render("window_icon_16.svg", 16).save(SHELL_STOCK / "window_icon_16.png")
+    PACKAGE_ICONS.mkdir(parents=True, exist_ok=True)
+    for folder, name in ((SHELL_STOCK, "window_icon_16.png"), (PACKAGE_ICONS, "16.png")):
+        render("window_icon_16.svg", 16).save(folder / name)
+    for side in PACKAGE_ICON_SIDES:
+        render("window_icon.svg", side).save(PACKAGE_ICONS / f"{side}.png")
     for side in (32, 48, 64):
         render("window_icon.svg", side).save(SHELL_STOCK / f"window_icon_{side}.png")
     render("tool_pointer.svg", 32).save(SHELL_STOCK / "tool_pointer.png")

@@ -20,6 +20,8 @@ namespace {
 QApplication* MakeApplication(int& argc, char** argv) {
     PrepareToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Coinlet Designer"));
+    // Desktops find the icon and the name of a window by it; it is the name of the installed desktop entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("coinlet-designer"));
     auto* application = new QApplication(argc, argv);
     // Numbers in files have a point whatever the desktop's language.
     std::setlocale(LC_NUMERIC, "C");
@@ -45,7 +47,7 @@ Shell::Shell(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv
 
 Shell::~Shell() = default;
 
-std::filesystem::path Shell::ApplicationFolder() const {
+std::filesystem::path Shell::ProgramFolder() const {
     return ToUtf8(QCoreApplication::applicationDirPath());
 }
 

@@ -17,14 +17,14 @@ class ScreenGrab;
 /// the toolkit.
 class Shell {
 public:
-    /// The toolkit takes its own options from the command line; the program reads none.
+    /// The toolkit takes its own options from the command line; what it leaves is the program's.
     Shell(int& argc, char** argv);
     ~Shell();
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
 
     /// The folder in which the program itself lies.
-    std::filesystem::path ApplicationFolder() const;
+    std::filesystem::path ProgramFolder() const;
     Platform& GetPlatform();
     Desktop& GetDesktop();
     Clipboard& GetClipboard();

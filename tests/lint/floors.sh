@@ -5,6 +5,7 @@ cd "$1/src"
 
 declare -A may_use=(
     [base]="base"
+    [launch]="base launch"
     [surface]="base surface"
     [controls]="base surface controls"
     [core]="base surface controls core"

@@ -23,12 +23,16 @@ namespace fs = std::filesystem;
 constexpr int patience = 20000;  // milliseconds; nothing depends on it where the program works
 const fs::path builtProgram(COINLET_PROGRAM);
 
+QStringList AsList(const std::vector<std::string>& words) {
+    QStringList list;
+    for (const auto& word : words)
+        list << QString::fromStdString(word);
+    return list;
+}
+
 /// Has the window system do something with the pointer or the keys.
 void Do(const std::vector<std::string>& arguments) {
-    QStringList list;
-    for (const auto& argument : arguments)
-        list << QString::fromStdString(argument);
-    ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), list), 0);
+    ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), AsList(arguments)), 0);
 }
 
 }  // namespace
@@ -48,6 +52,7 @@ StartedProgram::StartedProgram() {
         if (entry.path().filename() == "Coinlet.ini") continue;
         fs::copy(entry.path(), folder / entry.path().filename(), fs::copy_options::recursive);
     }
+    command = {folder / builtProgram.filename()};
 }
 
 StartedProgram::~StartedProgram() {
@@ -58,12 +63,14 @@ StartedProgram::~StartedProgram() {
 void StartedProgram::Start() {
     // Where nothing lies that changes under the pointer.
     MoveTo({1390, 1040});
-    // What it prints and exports goes to this user's home, not to that of whoever runs the tests.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", QString::fromStdString((folder / "home").string()));
+    environment.insert("HOME", QString::fromStdString(home.string()));
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME"})
+        environment.remove(variable);
     process_.setProcessEnvironment(environment);
     process_.setProcessChannelMode(QProcess::ForwardedChannels);
-    process_.start(QString::fromStdString((folder / builtProgram.filename()).string()), QStringList());
+    const QStringList words = AsList(command);
+    process_.start(words.front(), words.mid(1));
     ASSERT_TRUE(Comes([&] {
         const auto windows = screen.Windows();
         if (windows.empty()) return false;

@@ -7,10 +7,12 @@
 
 #include <QProcess>
 
+#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace coinlet::test {
 
@@ -64,6 +66,10 @@ protected:
     static QImage Look(const OpenWindow& window);
 
     TemporaryFolder folder;
+    /// What starts it, word by word. At first: the copy in `folder`.
+    std::vector<std::string> command;
+    /// The home of its user, so that what it prints and exports doesn't go to that of whoever runs the tests.
+    std::filesystem::path home = folder / "home";
     Screen screen;
     TestServices services;
     /// Where everything is: the program's own form, without a window.
