@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
     Shell shell(argc, argv);
     const auto arguments = ReadArguments(argc, argv);
     if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
-    const auto& line = std::get<CommandLine>(arguments);
+    const auto* line = std::get_if<CommandLine>(&arguments);
 
     const QtFontEngine fonts;
     const MediaCodecs codecs;
@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
     const Services services{
         .applicationFolder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
                                                 .userDataFolder = UserDataFolder(std::getenv),
-                                                .named = line.folder}),
+                                                .named = line->folder}),
         .platform = shell.GetPlatform(),
         .fonts = fonts,
         .codecs = codecs,

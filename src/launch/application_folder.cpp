@@ -151,7 +151,7 @@ bool FillApplicationFolder(const fs::path& folder, const fs::path& delivered) {
 
 fs::path ApplicationFolder(const Surroundings& surroundings) {
     const fs::path found = DeliveredFolder(surroundings.programFolder);
-    const fs::path delivered = found.empty() ? surroundings.programFolder : found;
+    fs::path delivered = found.empty() ? surroundings.programFolder : found;
     const auto filled = [&](const fs::path& folder) {
         std::error_code error;
         const fs::path whole = fs::absolute(folder, error);
