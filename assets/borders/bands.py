@@ -3,8 +3,8 @@
 import cairo
 import numpy
 
-from borders.motifs import cut_star
-from borders.shapes import EDGE, bent, closed, framed_floor, polar, ring_sector
+from borders.motifs import ball, cut_star
+from borders.shapes import EDGE, bent, closed, closing_rim, framed_floor, polar, ring_sector
 from kit.relief import TURN, Motif, bevelled
 
 
@@ -80,6 +80,7 @@ def rounded_sector(context, inner, outer, start, end, corner=1.5):
 
 def castle_wall(relief):
     """Courses of hewn stones, and battlements all round."""
+    closing_rim(relief)
     battlements, pitch = 36, TURN / 36
     stones = [(186, 199, 60, 0.0), (200.5, 213.5, 60, 0.5), (215, 227, 72, 0.25)]
 
@@ -128,6 +129,7 @@ def scale_ridge(context):
 
 def tyre(relief):
     """A tyre with lugs on its shoulder and a ring of chevrons on its side."""
+    closing_rim(relief)
     count, pitch = 60, TURN / 60
 
     def lugs(context):
@@ -152,16 +154,24 @@ def chevron_shape(context):
     context.fill()
 
 
-def text_band(relief):
-    """A smooth band to write on."""
+def plain_band(relief):
     relief.flat_ring(190, EDGE, height=0, bevel=1)
     relief.half_round(230, EDGE, height=6)
     relief.half_round(188, 197, height=5)
 
 
+def text_band(relief):
+    """A smooth band to write on between two rows of pearls."""
+    relief.flat_ring(188, EDGE, height=0, bevel=1)
+    relief.half_round(235, EDGE, height=3)
+    relief.half_round(187, 190.5, height=2.5)
+    relief.around(ball(3.1), 180, 231.2)
+    relief.around(ball(2.9), 160, 194)
+
+
 def text_band_stars(relief):
     """A band to write on above and below, with stars between the two lines."""
-    text_band(relief)
+    plain_band(relief)
     big, small = cut_star(14), cut_star(8.5)
     for side in (-1, 1):
         relief.stamp(big, 213.5, side * TURN / 4)

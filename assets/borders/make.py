@@ -7,7 +7,7 @@ through. Their names are what the user picks from in a list, so kinds of a thing
 import numpy
 from PIL import Image, ImageDraw, ImageFont
 
-from borders import bands, dials, motifs, outlines, rims, strands, windows
+from borders import bands, dials, knots, motifs, outdoor, outlines, rims, strands, windows
 from kit import metals
 from kit.relief import Relief
 
@@ -18,11 +18,11 @@ LIGHTEST_METAL = 235
 # The whole of it stays free for the design, whichever the border.
 FREE_RADIUS = 80
 # In bytes, all files together: the program's folder is made to be copied.
-LARGEST_LIBRARY = 6_000_000
+LARGEST_LIBRARY = 8_000_000
 
 BORDERS = {
     name: build
-    for kind in (bands, dials, motifs, outlines, rims, strands, windows)
+    for kind in (bands, dials, knots, motifs, outdoor, outlines, rims, strands, windows)
     for name, build in kind.BORDERS.items()
 }
 

@@ -2,7 +2,7 @@
 
 import math
 
-from borders.shapes import EDGE, curve, figure, filled, framed_floor, heart, leaf, polar, star
+from borders.shapes import EDGE, closing_rim, curve, figure, filled, framed_floor, heart, leaf, polar, star
 from kit.relief import TURN, Motif, bevelled
 
 
@@ -30,11 +30,13 @@ def beads_small(relief):
 
 
 def beads_large(relief):
+    closing_rim(relief)
     relief.around(ball(10.8), 66, EDGE - 11)
 
 
 def beads_mixed(relief):
     """Pearls on a string, each big one between three small ones."""
+    closing_rim(relief)
     relief.half_round(224.5, 228.5, height=2)
     relief.around(ball(13), 20, 226.5)
     for shift, size in ((0.29, 6.2), (0.5, 8), (0.71, 6.2)):
@@ -84,32 +86,37 @@ def daisy_lines(context):
 
 
 def roses(relief):
-    """Five-petalled heraldic roses and leaves, on a string of beads."""
+    """Full roses seen from above, with leaves between them."""
     relief.half_round(231, EDGE, height=5)
-    relief.half_round(208, 212, height=2.5)
-    sepal = Motif(lambda context: (leaf(context, 17, 10), context.fill()), 18, 3, 4)
-    rose = Motif(rose_petals, 16, 5, 5.5, engraved=rose_seams, depth=2.2)
-    for place in range(18):
-        angle = place * TURN / 18
+    sepal = leaf_motif(22, 15)
+    rose = Motif(rose_petals, 20, 4.5, 3.4, engraved=rose_folds, depth=2.6)
+    count = 16
+    for place in range(count):
+        angle = place * TURN / count
         for side in (-1, 1):
-            relief.stamp(sepal, 210, angle + side * 0.062, turn=side * TURN * 0.235, scale=1.25)
-        relief.stamp(rose, 210, angle, scale=1.25, polish=1)
-        relief.stamp(rose, 210, angle, scale=0.7, turn=math.pi, base=4, polish=1)
-        relief.stamp(ball(3.8), 210, angle, base=7)
-        relief.stamp(ball(5.2), 210, angle + TURN / 36)
+            relief.stamp(sepal, 209 + 3 * side, angle + side * 0.075, turn=side * TURN * 0.25)
+        relief.stamp(rose, 209, angle, turn=place * 0.9, polish=1.05)
 
 
 def rose_petals(context):
+    """Five broad petals, each a little over the next."""
     for petal in range(5):
-        context.arc(*polar(8.2, petal * TURN / 5), 6.9, 0, TURN)
+        context.arc(*polar(9.2, petal * TURN / 5), 9, 0, TURN)
         context.fill()
 
 
-def rose_seams(context):
-    context.set_line_width(1.3)
-    for petal in range(5):
-        context.move_to(0, 0)
-        context.line_to(*polar(11, (petal + 0.5) * TURN / 5))
+def rose_folds(context):
+    """The rims of the petals, closer and closer towards the bud."""
+    context.set_line_width(1.5)
+    for count, radius, size, spread, first in ((5, 6.2, 7.4, 1.35, 0.3), (3, 2.6, 5.2, 1.7, 0.9)):
+        for petal in range(count):
+            angle = first + petal * TURN / count
+            x, y = polar(radius, angle)
+            context.new_sub_path()
+            context.arc(x, y, size, angle - TURN / 4 - spread, angle - TURN / 4 + spread)
+            context.stroke()
+    for step in range(40):
+        context.line_to(*polar(0.6 + step * 0.075, 1 + step * 0.24))
     context.stroke()
 
 
@@ -280,6 +287,7 @@ def snowflake(context):
 
 def petals(relief):
     """A rosette: the petals of one big flower, two rows deep."""
+    closing_rim(relief)
     blade = Motif(petal, 40, 6, 11, engraved=petal_line, depth=1.6)
     relief.around(blade, 24, 200, first=TURN / 48, base=0)
     relief.around(blade, 24, 194, base=1)

@@ -5,7 +5,7 @@ import math
 import cairo
 import numpy
 
-from borders.shapes import EDGE, arc_line, closed, polar
+from borders.shapes import EDGE, arc_line, closed, closing_rim, polar
 from kit.relief import TURN
 
 
@@ -29,6 +29,7 @@ def cut_out(context, outline, inner):
 
 
 def gear(relief, count, root, inner):
+    closing_rim(relief)
     relief.plate(lambda context: cut_out(context, toothed(count, root, EDGE), inner), height=6, bevel=4)
     relief.half_round(inner, inner + 8, height=4, base=3)
 
@@ -60,6 +61,7 @@ def saw_tooth(share):
 
 
 def saw_blade(relief):
+    closing_rim(relief)
     count = 30
     outline = [polar(saw_tooth(step % 24 / 24), step * TURN / (24 * count)) for step in range(24 * count)]
     relief.plate(lambda context: cut_out(context, outline, 194), height=4, bevel=3)
@@ -83,6 +85,7 @@ def scalloped(count, hollow, depth):
 
 
 def scallops(relief):
+    closing_rim(relief)
     relief.plate(lambda context: cut_out(context, scalloped(28, 226, EDGE - 226), 204), height=6, bevel=7)
     for place in range(28):
         bolt(relief, 225, (place + 0.5) * TURN / 28, 4)
@@ -91,6 +94,7 @@ def scallops(relief):
 
 def lace(relief):
     """Lobes with a hole in each and a row of small holes inside, as of crochet."""
+    closing_rim(relief)
     relief.plate(lace_painter, height=4, bevel=3.2)
     relief.half_round(199, 206, height=3.5, base=1)
 
@@ -107,6 +111,7 @@ def lace_painter(context):
 
 def sun_rays(relief):
     """Long and short facetted rays round a ring."""
+    closing_rim(relief)
     pitch = TURN / 24
     off = abs((relief.angle / pitch + 0.5) % 1 - 0.5) * pitch * relief.radius
     short_off = abs(relief.angle / pitch % 1 - 0.5) * pitch * relief.radius

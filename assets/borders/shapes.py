@@ -15,6 +15,12 @@ def framed_floor(relief, inner, outer_rim=229):
     relief.half_round(inner - 2, inner + 6, height=4)
 
 
+def closing_rim(relief):
+    """A thin ring at the edge of the tag, beneath whatever is laid over it: between teeth the ground of a design would
+    otherwise end in a circle of its own."""
+    relief.half_round(234.6, EDGE, height=2.6)
+
+
 def polar(radius, angle):
     """The point so far from the centre, in the direction clockwise from the top."""
     return radius * math.sin(angle), -radius * math.cos(angle)

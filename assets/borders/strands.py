@@ -69,11 +69,6 @@ def celtic_braid(relief):
     plait(relief, 3, 213, 10, 20, half=4.6, height=4.2, lift=4.5, ribbon=True)
 
 
-def celtic_knot(relief):
-    framed_floor(relief, 187)
-    plait(relief, 4, 212, 12.5, 16, half=4.0, height=4.2, lift=4.5, ribbon=True)
-
-
 def link(relief, count, first, middle, straight, bend):
     """Every second link of a chain round the ring: an oval of two straight lines and two bends."""
     cell = 2 * TURN / count
@@ -114,7 +109,6 @@ def barb_coil(context):
 BORDERS = {
     "Barbed wire": barbed_wire,
     "Celtic braid": celtic_braid,
-    "Celtic knot": celtic_knot,
     "Chain": chain,
     "Rope 1 thin": rope_thin,
     "Rope 2 thick": rope_thick,

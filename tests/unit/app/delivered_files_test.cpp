@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 #include <set>
 
 namespace coinlet {
@@ -116,6 +117,24 @@ TEST(DeliveredCliparts, AreClosedOutlinesInBlack) {
             ExtFloodFill(clipart.hDC(), 0, 0, white, FLOODFILLSURFACE);
             EXPECT_GT(Count(clipart, white), ink) << "its outline lets the paint through";
         }
+    }
+}
+
+// A gap at the edge would show the ground of a coloured design as a disc that ends short of the tag.
+TEST(DeliveredBorders, CloseTheEdgeOfTheTag) {
+    constexpr double insideTheEdge = 237;
+    constexpr int steps = 3600;
+    for (const std::string& file : ListFiles(data / "Borders", "*.gif")) {
+        const Image strip = Load(data / "Borders" / file);
+        int gaps = 0;
+        for (int step = 0; step < steps; ++step) {
+            const double angle = step * 2 * std::numbers::pi / steps;
+            const auto x = static_cast<int>(std::lround(canvas / 2.0 + insideTheEdge * std::sin(angle)));
+            const auto y = static_cast<int>(std::lround(canvas / 2.0 - insideTheEdge * std::cos(angle)));
+            for (int frame = 0; frame < std::ssize(materials); ++frame)
+                gaps += strip.At(frame * canvas + x, y) == white;
+        }
+        EXPECT_EQ(gaps, 0) << file;
     }
 }
 
