@@ -40,13 +40,16 @@ protected:
         const State state{
             bar.Min(),     bar.Max(), bar.Value(), std::max(1, bar.SmallChange), std::max(1, bar.LargeChange),
             bar.Reversed()};
-        if (!Differs(state_, state)) return;
         const QSignalBlocker silent(bar_);
-        // An inert bar has nowhere to go.
-        bar_.setRange(bar.Lowest(), bar.Inert() ? bar.Lowest() : bar.Highest());
-        bar_.setSingleStep(state.small);
-        bar_.setPageStep(state.large);
-        bar_.setValue(Mapped(bar.Value()));
+        if (Differs(state_, state)) {
+            // An inert bar has nowhere to go.
+            bar_.setRange(bar.Lowest(), bar.Inert() ? bar.Lowest() : bar.Highest());
+            bar_.setSingleStep(state.small);
+            bar_.setPageStep(state.large);
+        }
+        // A handler may have given the bar another value than the one that the user chose, also the one that
+        // it had before. The thumb then goes there when the user lets it go.
+        if (!bar_.isSliderDown()) bar_.setValue(Mapped(bar.Value()));
     }
 
 private:

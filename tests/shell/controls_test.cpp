@@ -310,6 +310,30 @@ TEST_F(Controls, ScrollBarsStepJumpAndDrag) {
     });
 }
 
+TEST_F(Controls, AScrollBarsThumbGoesWhereItsHandlerPutIt) {
+    const auto turnOver = [&] {
+        form.log.push_back("at " + std::to_string(form.HScroll1.Value()));
+        if (form.HScroll1.Value() == form.HScroll1.Max()) form.HScroll1.SetValue(0);
+    };
+    form.HScroll1.Scroll = turnOver;
+    form.HScroll1.Change = turnOver;
+    Run(form, [&](User& user) {
+        // Twice from the left end: the second time the thumb must be there again to be taken hold of.
+        for (int i = 0; i < 2; ++i) {
+            user.Has([&] { form.log.clear(); });
+            user.MoveTo(user.PlaceOf(form.HScroll1, 22, 8));
+            user.Press();
+            for (const int x : {60, 150, 155, 158}) {
+                user.MoveTo(user.PlaceOf(form.HScroll1, x, 8));
+                EXPECT_TRUE(user.Sees([&] { return !form.log.empty(); })) << i;
+            }
+            EXPECT_TRUE(user.Sees([&] { return form.Count("at 100") > 0 && form.HScroll1.Value() == 0; }));
+            user.Release();
+            EXPECT_TRUE(user.Sees([&] { return form.log.back() == "at 0"; }));
+        }
+    });
+}
+
 TEST_F(Controls, ComeAndGoWhileTheFormIsOpen) {
     std::unique_ptr<Label> extra;
     form.OkKnop.Click = [&] {
