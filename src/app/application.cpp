@@ -20,9 +20,9 @@
 #include "tools/gesture_engine.h"
 #include "tools/hole_tool.h"
 #include "tools/image_browser.h"
+#include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
-#include "tools/side_panel_rows.h"
 #include "tools/text_tool.h"
 #include "tools/tool_strip.h"
 
@@ -70,7 +70,7 @@ struct Application::House {
     GestureEngine gestures{context};
     FloatingClip clip{context};
     FlipMenu flips{context};
-    SidePanelRows panelRows{context};
+    InfoPanelRows panelRows{context};
     FilterMenu filters{context, filterCore};
 };
 

@@ -10,7 +10,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::array unfinishedTools{polygonTool, arcTool};
+constexpr std::array unfinishedTools{arcTool};
 
 constexpr std::array<MenuItem MainForm::*, 3> unfinishedEntries{&MainForm::FileImport,
                                                                 &MainForm::ClipartGroot, &MainForm::Symbolen};

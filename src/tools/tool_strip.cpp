@@ -7,6 +7,7 @@
 #include "core/tool_codes.h"
 #include "core/unfinished.h"
 #include "designers/circel_text.h"
+#include "designers/polygon_form.h"
 #include "filters/color_change.h"
 #include "filters/remove_form.h"
 
@@ -67,7 +68,7 @@ constexpr std::array<ToolRow, 16> toolRows{{
     {key::drawFreeHand},
     {key::drawLine},
     {"", PopUpShapes},
-    {key::designPolygon},
+    {key::designPolygon, Open<PolygonForm>},
     {key::designArc},
     {key::fill},
     {key::erase, ShowEraserControls},

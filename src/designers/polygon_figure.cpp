@@ -1,0 +1,69 @@
+#include "designers/polygon_figure.h"
+
+#include "surface/surface.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace coinlet {
+
+namespace {
+
+constexpr double pi = 3.14159265358979;
+constexpr double degreesARadian = 57.2957795130823;
+constexpr double radiansADegree = pi / 180;
+
+constexpr const char* degreeSign = "°";
+
+}  // namespace
+
+PolygonFigures FiguresOf(int sides, double radius) {
+    PolygonFigures figures;
+    figures.cornerAngle = double{wholeTurn} / sides;
+    figures.arcLength = figures.cornerAngle * radius / degreesARadian;
+    figures.circumference = 2 * pi * radius;
+    figures.sideLength = radius * std::sqrt(2 - 2 * std::cos(radiansADegree * figures.cornerAngle));
+    figures.perimeter = figures.sideLength * sides;
+    return figures;
+}
+
+void DrawPolygonFigure(Surface& picture, const PolygonSweep& sweep, double radius) {
+    picture.Cls();
+    if (radius == 0 || !std::isfinite(2 * radius)) return;
+    picture.Scale(-radius, radius, radius, -radius);
+
+    const auto first = static_cast<float>(sweep.rotation);
+    const auto limit = static_cast<float>(sweep.turn + sweep.rotation);
+    const float step = Single(double{wholeTurn} / sweep.sides);
+    float previousX = 0, previousY = 0;
+    for (float degrees = first; degrees <= limit; degrees += step) {
+        const double angle = degrees * radiansADegree;
+        const float x = Single(radius * std::cos(angle)), y = Single(radius * std::sin(angle));
+        picture.PSet(x, y);
+        picture.Line(previousX, previousY, x, y, black);
+        picture.Line(0, 0, x, y, black);
+        previousX = x;
+        previousY = y;
+    }
+    picture.PSet(0, 0, black);
+}
+
+float Single(double value) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -most, most));
+}
+
+std::string DegreesWithDecimals(double degrees) {
+    constexpr long hundred = 100, ten = 10;
+    const long hundredths = std::lround(degrees * hundred);
+    const long decimals = hundredths % hundred;
+    return std::to_string(hundredths / hundred) + (decimals < ten ? ".0" : ".") + std::to_string(decimals) +
+           degreeSign;
+}
+
+std::string WholeDegrees(int degrees) {
+    return std::to_string(degrees) + degreeSign;
+}
+
+}  // namespace coinlet
