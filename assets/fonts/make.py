@@ -20,6 +20,7 @@ SOURCE = "/usr/share/fonts/truetype/ancient-scripts/Symbola_hint.ttf"
 BLANK = 32
 FIRST, LAST = 33, 126
 COPYRIGHT, FAMILY, STYLE, UNIQUE, FULL, VERSION, POSTSCRIPT, LICENCE = 0, 1, 2, 3, 4, 5, 6, 13
+LARGEST_OVERHANG = 40  # units of the font; what stands out further would be cut off
 TERMS = ("Pictures from Symbola by George Douros: free for any use; may be opened, edited, modified, "
          "regenerated, packaged and redistributed.")
 WINDOWS, MACINTOSH = (3, 1, 0x409), (1, 0, 0)
@@ -38,9 +39,12 @@ def checked(theme, font):
     points = code_points(THEMES[theme])
     glyphs, known = font.getGlyphSet(), font.getBestCmap()
     empty = [f"{point:X}" for point in points if point not in known or not bounds(glyphs, known[point])]
+    beside = [f"{point:X}" for point in points if f"{point:X}" not in empty
+              and bounds(glyphs, known[point])[2] > font["hmtx"][known[point]][0] + LARGEST_OVERHANG]
     twice = sorted({f"{point:X}" for point in points if points.count(point) > 1})
-    if len(points) != LAST - FIRST + 1 or empty or twice:
-        raise SystemExit(f"{theme}: {len(points)} pictures, without outline {empty}, twice {twice}")
+    if len(points) != LAST - FIRST + 1 or empty or twice or beside:
+        raise SystemExit(f"{theme}: {len(points)} pictures, without outline {empty}, twice {twice}, wider than "
+                         f"their letter {beside}")
     return points
 
 

@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <map>
 #include <numbers>
 #include <set>
 
@@ -313,6 +314,7 @@ TEST(DeliveredFonts, HaveASymbolOnEveryCode) {
     const auto files = ListFiles(data / "Fonts", "*.ttf");
     EXPECT_GE(files.size(), 6U);
     std::set<std::string> families;
+    std::map<std::string, std::string> places;
     for (const std::string& file : files) {
         const std::string family = letters.AddFontFile(data / "Fonts" / file);
         EXPECT_FALSE(family.empty()) << file;
@@ -322,7 +324,11 @@ TEST(DeliveredFonts, HaveASymbolOnEveryCode) {
             const TextMask mask = letters.Render({.name = family, .size = 40},
                                                  std::string(1, static_cast<char>(code)), Edges::Crisp);
             EXPECT_TRUE(std::ranges::count(mask.coverage, 255) > 0) << file << ", code " << code;
-            symbols.emplace(mask.coverage.begin(), mask.coverage.end());
+            const std::string symbol(mask.coverage.begin(), mask.coverage.end());
+            symbols.insert(symbol);
+            const auto [other, fresh] = places.try_emplace(symbol, file);
+            EXPECT_TRUE(fresh || other->second == file)
+                << file << ", code " << code << " is in " << other->second;
         }
         // The box for a missing symbol would come again and again.
         EXPECT_GE(symbols.size(), static_cast<std::size_t>(last - first + 1) - 2) << file;
