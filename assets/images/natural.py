@@ -209,11 +209,16 @@ def leopard():
 
 
 def zebra():
+    """Upright stripes that swing together; where one forks, its phase winds once round the fork."""
     x, y = grid(400, 400)
-    warp = 120 * clouds(161, x / 170, y / 130, 3) + 22 * clouds(164, x / 50, y / 50, 2)
-    stripe = numpy.sin((y * 0.55 + x * 0.22 + warp) / 8.6)
-    hair = 0.9 + 0.2 * clouds(163, x / 9, y / 2.2, 2)
-    return mix((26, 22, 22), (244, 240, 232), step(stripe, 0.05, 0.35)) * hair[..., None]
+    phase = (x + 0.16 * y + 90 * clouds(161, x / 260, y / 300, 2) + 9 * clouds(164, x / 60, y / 45, 2)) / 7.4
+    for fork_x, fork_y, sense in ((84, 120, 1), (150, 290, -1), (214, 90, -1), (262, 236, 1), (330, 140, 1),
+                                  (352, 320, -1), (40, 300, 1)):
+        phase = phase + sense * numpy.arctan2(fork_x - x, y - fork_y)
+    width = 0.05 + 0.5 * (clouds(162, x / 120, y / 120, 2) - 0.5)
+    hair = 0.9 + 0.2 * clouds(163, x / 2.2, y / 9, 2)
+    coat = mix((24, 20, 20), (244, 239, 230), step(numpy.sin(phase), width, 0.32))
+    return coat * hair[..., None]
 
 
 def moon_ground():
