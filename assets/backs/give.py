@@ -347,7 +347,7 @@ def smile(die):
     number_field(die, 43, 64)
 
 
-BACKS = [
+ENGLISH = [
     ("Found me?", found_me),
     ("Thank you", thank_you),
     ("Happy birthday", birthday),
@@ -364,4 +364,25 @@ BACKS = [
     ("Safe trip", safe_trip),
     ("Season's greetings", season),
     ("Keep smiling", smile),
+]
+
+# What stands on the Dutch ones: for each text the other and its size.
+DUTCH_WORDS = {
+    "FOUND ME?": ("GEVONDEN?", 14), "MOVE ME ON": ("NEEM ME MEE", 12.5), "THANK": ("DANK", 23), "YOU": ("JE WEL", 23),
+    "HAPPY": ("VAN HARTE", 12.5), "BIRTHDAY": ("GEFELICITEERD", 12), "FOR YOU": ("VOOR JOU", 11.5),
+    "BEST FRIENDS": ("BESTE VRIENDEN", 12), "GOOD LUCK": ("VEEL GELUK", 13), "WITH LOVE": ("MET LIEFDE", 12),
+    "WELL DONE": ("GOED GEDAAN", 11), "CONGRATS": ("PROFICIAT", 15.5), "HAPPY NEW YEAR": ("GELUKKIG NIEUWJAAR", 10),
+    "GET WELL": ("BETERSCHAP", 13), "WELCOME HOME": ("WELKOM THUIS", 13), "JUST MARRIED": ("PAS GETROUWD", 12),
+    "SAFE TRIP": ("GOEDE REIS", 12), "SEASON'S GREETINGS": ("PRETTIGE FEESTDAGEN", 12),
+    "KEEP SMILING": ("BLIJF LACHEN", 12.5),
+}
+DUTCH_NAMES = ["Gevonden?", "Dank je wel", "Van harte gefeliciteerd", "Voor jou", "Beste vrienden", "Veel geluk", "Met liefde",
+               "Goed gedaan", "Proficiat", "Gelukkig nieuwjaar", "Beterschap", "Welkom thuis", "Pas getrouwd",
+               "Goede reis", "Prettige feestdagen", "Blijf lachen"]
+
+# Each English one with the Dutch one beside it.
+BACKS = [
+    back
+    for (name, draw), dutch in zip(ENGLISH, DUTCH_NAMES, strict=True)
+    for back in ((name, draw, None), (dutch, draw, DUTCH_WORDS))
 ]

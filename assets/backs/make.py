@@ -8,17 +8,17 @@ from backs import give, standard
 from backs.struck import SIDE, struck
 
 COLUMNS = 4
-COLLECTIONS = {1: standard.BACKS, 2: give.BACKS}
+COLLECTIONS = {1: [(*back, None) for back in standard.BACKS], 2: give.BACKS}
 
 
 def make(data):
     for number, backs in COLLECTIONS.items():
         rows = -(-len(backs) // COLUMNS)
         picture = Image.new("RGB", (COLUMNS * SIDE, rows * SIDE), "white")
-        for cell, (_, draw) in enumerate(backs):
-            picture.paste(struck(draw), (cell % COLUMNS * SIDE, cell // COLUMNS * SIDE))
+        for cell, (_, draw, words) in enumerate(backs):
+            picture.paste(struck(draw, words), (cell % COLUMNS * SIDE, cell // COLUMNS * SIDE))
         few_colours(picture).save(data / "Data" / f"Back-{number}.bak", "GIF", optimize=False)
-        names = "".join(f"{name}\r\n" for name, _ in backs)
+        names = "".join(f"{name}\r\n" for name, *_ in backs)
         (data / "Data" / f"Back-{number}.txt").write_bytes(names.encode("cp1252"))
 
 

@@ -1,8 +1,8 @@
-"""Metal struck by a die: a relief drawn in gray levels, with enamel in its recesses, made a picture of a tag.
+"""A tag struck by a die: a relief drawn in gray levels, with enamel of colours in its recesses.
 
-A back is drawn in pixels of its cell about the tag's centre, y downwards. Level 1 is the polished face, '
-                                                   'level 0
-the bottom of a recess, which the mint blackens.
+A back is drawn in pixels of its cell about the tag's centre, y downwards. Level 1 is the raised face, level 0 the
+bottom of a recess. The face is enamelled ivory and the recess a warm black, so that a back sits well on a tag of any
+of the metals.
 """
 
 import contextlib
@@ -18,20 +18,22 @@ SIDE = 150
 RADIUS = 72
 FINE = 6
 
-FACE = numpy.array([238, 239, 241], numpy.float32)
-RECESS = numpy.array([58, 61, 68], numpy.float32)
+FACE = numpy.array([244, 239, 226], numpy.float32)
+RECESS = numpy.array([52, 49, 47], numpy.float32)
 
 SANS = "Liberation Sans"
 SERIF = "Liberation Serif"
 
 
 class Die:
-    """The two drawings of a back: heights, and the enamel that fills what lies low."""
+    """The two drawings of a back: heights, and the enamel that fills what lies low. `words` are texts to write in the
+    place of others, each with its size."""
 
-    def __init__(self):
+    def __init__(self, words=None):
         side = SIDE * FINE
         self.heights = cairo.ImageSurface(cairo.FORMAT_A8, side, side)
         self.colours = cairo.ImageSurface(cairo.FORMAT_ARGB32, side, side)
+        self.words = words or {}
         self.ctx = cairo.Context(self.heights)
         self.enamel_ctx = cairo.Context(self.colours)
         self.ctx.scale(FINE, FINE)
@@ -88,12 +90,14 @@ class Die:
 
     def line(self, text, baseline, size, level=1.0, family=SANS, spacing=0.0, centre=0.0):
         """A line of text on the face or, with a low level, sunk into it."""
+        text, size = self.words.get(text, (text, size))
         choose_font(self.ctx, family, size)
         straight_text(self.ctx, text, baseline, spacing, centre)
         self.fill(level)
 
     def arc(self, text, radius, size, level=1.0, family=SANS, spacing=0.5, bottom=False):
         """Text along the rim, read from within: above the centre, or below it."""
+        text, size = self.words.get(text, (text, size))
         choose_font(self.ctx, family, size)
         height = self.ctx.text_extents("H").height
         circle_text(self.ctx, text, radius + (height if bottom else 0), math.pi if bottom else 0, spacing,
@@ -114,9 +118,9 @@ def relief(die):
     return heights, colours[:, :, 2::-1].astype(numpy.float32), colours[:, :, 3:].astype(numpy.float32) / 255
 
 
-def struck(draw):
-    """The cell of a back: draw(die) struck into metal, lit from the upper left, on white."""
-    die = Die()
+def struck(draw, words=None):
+    """The cell of a back: draw(die) struck, lit from the upper left, on white."""
+    die = Die(words)
     draw(die)
     die.ctx.get_target().flush()
     heights, colours, coverage = relief(die)
@@ -126,11 +130,11 @@ def struck(draw):
     glint = numpy.clip((slope_x + slope_y) * 0.55, -1, 1)[:, :, None]
     y, x = (numpy.mgrid[0 : SIDE * FINE, 0 : SIDE * FINE].astype(numpy.float32) + 0.5) / FINE - SIDE / 2
     far = numpy.hypot(x, y) / RADIUS
-    sheen = (1 - 0.07 * (x + y) / RADIUS + 0.05 * far * numpy.cos(4 * numpy.arctan2(y, x)))[:, :, None]
+    sheen = (1 - 0.035 * (x + y) / RADIUS)[:, :, None]
     low = RECESS * (1 - coverage) + colours * coverage
     high = height[:, :, None]
     metal = low * (1 - high) + FACE * sheen * high
-    metal += numpy.where(glint > 0, glint * 70, glint * 95)
+    metal += numpy.where(glint > 0, glint * 30, glint * 80)
     metal *= 1 - 0.45 * numpy.clip((far * RADIUS - RADIUS + 1.6) / 1.6, 0, 1)[:, :, None]
     inside = numpy.clip((1 - far) * RADIUS * FINE + 0.5, 0, 1)[:, :, None]
     picture = numpy.clip(metal, 0, 250) * inside + 255 * (1 - inside)
