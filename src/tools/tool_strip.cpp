@@ -5,7 +5,7 @@
 #include "core/main_form.h"
 #include "core/text_keys.h"
 #include "core/tool_codes.h"
-#include "core/unfinished.h"
+#include "designers/arc_form.h"
 #include "designers/circel_text.h"
 #include "designers/polygon_form.h"
 #include "filters/color_change.h"
@@ -69,7 +69,7 @@ constexpr std::array<ToolRow, 16> toolRows{{
     {key::drawLine},
     {"", PopUpShapes},
     {key::designPolygon, Open<PolygonForm>},
-    {key::designArc},
+    {key::designArc, Open<ArcForm>},
     {key::fill},
     {key::erase, ShowEraserControls},
     {key::writeCurvedText, Open<CircelText>},
@@ -185,9 +185,8 @@ void ToolStrip::HScroll5_Change() {
     main.Pic.SetLeft(left);
     main.Pic.SetWidth(canvasRight - left);
     context_.services.platform.DoEvents();
-    for (int i = main.Knop.First(); i <= main.Knop.Last(); ++i) {
-        if (!IsUnfinished(main, main.Knop[i])) main.Knop[i].SetEnabled(left == canvasLeft);
-    }
+    for (int i = main.Knop.First(); i <= main.Knop.Last(); ++i)
+        main.Knop[i].SetEnabled(left == canvasLeft);
 }
 
 }  // namespace coinlet

@@ -4,6 +4,7 @@
 #include "colour/glitter_form.h"
 #include "controls/text_lines.h"
 #include "core/language.h"
+#include "designers/arc_form.h"
 #include "designers/circel_text.h"
 #include "libraries/back_form.h"
 #include "media/qt_font_engine.h"
@@ -53,6 +54,9 @@ TEST_P(LanguageTable, HasExplanationsThatFitTheirLabels) {
     ExpectFits("040", openFile.Label2);
     const CircelText circelText(context);
     ExpectFits("050", circelText.Label8);
+    const ArcForm arcForm(context);
+    for (const char* key : {"014", "090", "091", "092", "093"})
+        ExpectFits(key, arcForm.InfoLabel);
     const TekstForm tekstForm(context);
     ExpectFits("200", tekstForm.Label2);
     const BackForm backForm(context);

@@ -1,0 +1,157 @@
+#include "designers/curve_drawing.h"
+
+#include "controls/form.h"
+#include "controls/platform.h"
+#include "surface/surface.h"
+
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace coinlet {
+
+namespace {
+
+constexpr Colour red = RGB(255, 0, 0);
+/// The parameter of the curve grows by this. The sum of so many steps misses 1 by more than it should, so
+/// that the last sample is at about 0.99.
+constexpr double curveStep = 0.01;
+
+}  // namespace
+
+CurveDrawing::CurveDrawing(Form& form, Surface& picture, Surface& baked, std::function<void()> wiped)
+    : Frame4(form, "Frame4"),
+      Option2(Frame4, "Option2"),
+      Option3(Frame4, "Option3"),
+      Check4(Frame4, "Check4"),
+      Label8(Frame4, "Label8"),
+      Label9(Frame4, "Label9"),
+      Label10(Frame4, "Label10"),
+      DrawKnop(Frame4, "DrawKnop"),
+      Check2(Frame4, "Check2"),
+      Check3(Frame4, "Check3"),
+      Check5(Frame4, "Check5"),
+      Check6(Frame4, "Check6"),
+      Check7(Frame4, "Check7"),
+      form_(&form),
+      picture_(&picture),
+      baked_(&baked),
+      wiped_(std::move(wiped)),
+      sampler_(curveStep) {
+    Option2.Click = [this] { Style_Click(); };
+    Option3.Click = [this] { Style_Click(); };
+    Check4.Click = [this] { Style_Click(); };
+    DrawKnop.Click = [this] { DrawKnop_Click(); };
+}
+
+void CurveDrawing::Press(int button, float x, float y) {
+    const double column = std::floor(x), row = std::floor(y);
+    const int hit = points_.FindControlPoint(column, row);
+    if (button == leftButton && hit > -1) {
+        Dragging = true;
+        DragIndex = hit;
+        const std::string number = std::to_string(hit + 1);
+        Label8.Caption = "Moving Point:  " + number;
+        Label9.Caption = "Selected Point:  " + number;
+    } else if (!Check5.Value()) {
+        AddPoint(column, row);
+    }
+}
+
+void CurveDrawing::AddPoint(double x, double y) {
+    if (const auto error = points_.AddControlPoint(x, y)) {
+        form_->GetPlatform().ShowMessage(
+            {.prompt = "(" + std::to_string(*error) + ") Cannot Add Points (Unclick Do Not Add Points)",
+             .icon = MessageIcon::Warning});
+        return;
+    }
+    const int count = points_.PointCount();
+    Label10.Caption = "Total Points : " + std::to_string(count);
+    // The first point is but marked, on whatever the picture shows. From the second one on there is a line.
+    if (count == 1) {
+        MarkPoint(count);
+    } else {
+        YenidenCIZ();
+    }
+}
+
+void CurveDrawing::Move(int, float x, float y) {
+    form_->MousePointer = points_.FindControlPoint(x, y) > -1 ? crossPointer : defaultPointer;
+    if (!Dragging) return;
+    points_.MoveControlPoint(DragIndex, std::floor(x), std::floor(y));
+    YenidenCIZ();
+}
+
+void CurveDrawing::Release() {
+    if (!std::exchange(Dragging, false)) return;
+    YenidenCIZ();
+    Label8.Caption = Check5.Value() ? "No Control Points can be added.." : "Control Point Information";
+}
+
+/// A thicker pen draws the curve alone: lines from point to point would hide it.
+void CurveDrawing::PenWidthChanged(int width) {
+    constexpr int thick = 2;
+    picture_->DrawWidth = width;
+    if (width >= thick && Check4.Enabled()) Check4.SetValue(true);
+    YenidenCIZ();
+}
+
+/// Without points there is nothing to draw anew, and what other modes drew may stay.
+void CurveDrawing::Style_Click() {
+    if (points_.PointCount() > 0) YenidenCIZ();
+}
+
+void CurveDrawing::YenidenCIZ() {
+    picture_->Cls();
+    wiped_();
+    if (!Check6.Value() && !Check7.Value()) {
+        for (int number = 1; number <= points_.PointCount(); ++number)
+            MarkPoint(number);
+    }
+    if (!Check6.Value() && !Check4.Value()) DrawJoiningLines();
+    DrawBezier();
+}
+
+/// The number stands to the lower right of the point: the circle leaves the cursor in its middle.
+void CurveDrawing::MarkPoint(int number) {
+    constexpr double markRadius = 2;
+    const auto point = static_cast<std::size_t>(number - 1);
+    if (!Check2.Value()) picture_->Circle(points_.PointX()[point], points_.PointY()[point], markRadius, red);
+    if (!Check3.Value()) picture_->Print(std::to_string(number));
+}
+
+void CurveDrawing::DrawJoiningLines() {
+    picture_->DrawStyle = Option2.Value() ? dottedLine : solidLine;
+    const auto x = points_.PointX(), y = points_.PointY();
+    for (std::size_t i = 0; i + 1 < x.size(); ++i)
+        picture_->Line(x[i], y[i], x[i + 1], y[i + 1], Option3.Value() ? CurveColour : black);
+    picture_->DrawStyle = solidLine;
+}
+
+/// The curve ends a little before its last point. The rest is a red line from wherever the cursor is: also
+/// without a curve, where it comes from the last line, or from behind the last number.
+void CurveDrawing::DrawBezier() {
+    const int degree = points_.PointCount() - 1;
+    if (degree < 1) return;
+    const auto x = points_.PointX(), y = points_.PointY();
+    if (ShowsCurve()) {
+        picture_->PSet(x.front(), y.front(), black);
+        for (const CurvePoint& sample : sampler_.Sample(x, y))
+            picture_->LineTo(sample.x, sample.y, CurveColour);
+    }
+    picture_->LineTo(x.back(), y.back(), red);
+}
+
+void CurveDrawing::DrawKnop_Click() {
+    CheckBox& onlyTheChosen = Option2.Value() ? Check6 : Check7;
+    onlyTheChosen.SetValue(true);
+    YenidenCIZ();
+    baked_->SetPicture(picture_->Image());
+    points_.Clear();
+    Check6.SetValue(false);
+    Check7.SetValue(false);
+    picture_->Cls();
+    picture_->SetPicture(baked_->Image());
+}
+
+}  // namespace coinlet
