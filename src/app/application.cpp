@@ -1,9 +1,7 @@
 #include "app/application.h"
 
-#include "app/library_menu.h"
+#include "app/dialogs.h"
 #include "app/start_up.h"
-#include "collection/collection_menu.h"
-#include "colour/pms_form.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
@@ -11,8 +9,6 @@
 #include "filters/filter_core.h"
 #include "filters/filter_menu.h"
 #include "store/clipboard_copy.h"
-#include "store/file_menu.h"
-#include "store/open_design.h"
 #include "tools/copy_tool.h"
 #include "tools/fill_tools.h"
 #include "tools/flip_menu.h"
@@ -43,11 +39,7 @@ struct Application::House {
         gestures.placeText = [this](GesturePoint pointer) { text.Place(pointer); };
         gestures.Add(CopyTool(context));
         gestures.Add(HoleTool(context));
-        strip.openColourChooser = [this] {
-            PMSForm chooser(context);
-            services.platform.ShowModal(chooser);
-        };
-        BindLibraryMenu(context);
+        BindDialogs(context, strip);
         main.Load = [this] { StartUp(context); };
     }
 
@@ -60,10 +52,7 @@ struct Application::House {
     // Each binds itself to the controls that it serves.
     MainLife life{context};
     HelpMenu help{context};
-    FileMenu file{context};
-    OpenDesign open{context};
     ClipboardCopy copy{context};
-    CollectionMenu collection{context};
     ToolStrip strip{context};
     TextTool text{context};
     ImageBrowser browser{context};

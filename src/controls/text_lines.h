@@ -16,6 +16,10 @@ constexpr int textBoxFrame = 1;
 constexpr int textBoxMargin = 4;
 constexpr int textBoxScrollBar = 16;
 
+/// Where the caption of a check box or an option starts, in pixels: behind its mark.
+constexpr int toggleMark = 13;
+constexpr int toggleCaptionLeft = toggleMark + 5;
+
 /// The width in pixels that lines of the box wrap at; at least 1.
 int WrapWidth(const TextBox& box);
 

@@ -1,9 +1,7 @@
 #include "core/dialog.h"
 
-#include "controls/form.h"
 #include "controls/placing.h"
 #include "controls/vista_button.h"
-#include "core/context.h"
 #include "core/language.h"
 #include "core/text_keys.h"
 

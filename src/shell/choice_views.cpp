@@ -1,6 +1,7 @@
 // Check boxes and option buttons: a mark at the left, a caption beside it.
 
 #include "controls/check_box.h"
+#include "controls/text_lines.h"
 #include "shell/control_view.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"
@@ -17,9 +18,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr int markSize = 13;
-constexpr int captionLeft = markSize + 5;
 
 void PaintTick(QPainter& painter, const QRectF& box) {
     painter.setPen(QPen(painter.pen().color(), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -65,12 +63,12 @@ private:
     void Paint(QPainter& painter) const {
         const QWidget& widget = this->Widget();
         painter.fillRect(widget.rect(), ToQColor(look_.back));
-        const int top = (widget.height() - markSize) / 2;
-        PaintMark(painter, QRectF(0.5, top + 0.5, markSize - 1, markSize - 1));
+        const int top = (widget.height() - toggleMark) / 2;
+        PaintMark(painter, QRectF(0.5, top + 0.5, toggleMark - 1, toggleMark - 1));
 
         painter.setFont(letters_);
         painter.setPen(ToQColor(widget.isEnabled() ? look_.fore : disabledTextColour));
-        const QRect room = widget.rect().adjusted(captionLeft, 0, 0, 0);
+        const QRect room = widget.rect().adjusted(toggleCaptionLeft, 0, 0, 0);
         const QString text = ToQString(caption_);
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text);
         if (!look_.focused || text.isEmpty()) return;

@@ -1,10 +1,11 @@
 #include "store/file_menu.h"
 
-#include "core/context.h"
+#include "core/dialog.h"
 #include "core/main_form.h"
 #include "store/afdrukken.h"
 #include "store/save_form.h"
-#include "store/tekst_form.h"
+
+#include <string_view>
 
 namespace coinlet {
 
@@ -22,32 +23,24 @@ private:
     MenuItem& entry_;
 };
 
+void ShowSaveForm(Context& context, std::string_view mode) {
+    context.session.SaveMode = mode;
+    OpenDialog<SaveForm>(context);
+}
+
 }  // namespace
 
-FileMenu::FileMenu(Context& context) : context_(context) {
-    MainForm& main = context.main;
-    main.FileSave.Click = [this] { ShowSaveForm("BMP"); };
-    main.FileExport.Click = [this] { ShowSaveForm("JPG"); };
-    main.FilePrint.Click = [this] { FilePrint_Click(); };
-    main.BewerkenInformation.Click = [this] { BewerkenInformation_Click(); };
+void SaveDesign(Context& context) {
+    ShowSaveForm(context, "BMP");
 }
 
-void FileMenu::ShowSaveForm(std::string_view mode) {
-    context_.session.SaveMode = mode;
-    SaveForm dialog(context_);
-    context_.services.platform.ShowModal(dialog);
+void ExportDesign(Context& context) {
+    ShowSaveForm(context, "JPG");
 }
 
-void FileMenu::FilePrint_Click() {
-    // A job goes on when the user closes its dialog; the next one has to wait for its end.
-    const BarredEntry barred(context_.main.FilePrint);
-    Afdrukken dialog(context_);
-    context_.services.platform.ShowModal(dialog);
-}
-
-void FileMenu::BewerkenInformation_Click() {
-    TekstForm dialog(context_);
-    context_.services.platform.ShowModal(dialog);
+void PrintDesigns(Context& context) {
+    const BarredEntry barred(context.main.FilePrint);
+    OpenDialog<Afdrukken>(context);
 }
 
 }  // namespace coinlet

@@ -1,22 +1,18 @@
 #pragma once
 
-#include <string_view>
-
 namespace coinlet {
 
 struct Context;
 
-/// The entries of the menus that lead to saving, to export, to printing and to the info text of the design.
-class FileMenu {
-public:
-    explicit FileMenu(Context& context);
+// What entries of the menus lead to that open a dialog of the store in more than one way, or with something
+// around it. Each returns when the dialog has closed.
 
-private:
-    void ShowSaveForm(std::string_view mode);
-    void FilePrint_Click();
-    void BewerkenInformation_Click();
-
-    Context& context_;
-};
+/// Saves the design in the store.
+void SaveDesign(Context& context);
+/// Saves the design as a picture for others.
+void ExportDesign(Context& context);
+/// Prints the design, or all that there is. A job goes on when the user closes its dialog; until it has ended
+/// the entry can't be chosen.
+void PrintDesigns(Context& context);
 
 }  // namespace coinlet

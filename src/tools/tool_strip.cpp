@@ -5,11 +5,6 @@
 #include "core/main_form.h"
 #include "core/text_keys.h"
 #include "core/tool_codes.h"
-#include "designers/arc_form.h"
-#include "designers/circel_text.h"
-#include "designers/polygon_form.h"
-#include "filters/color_change.h"
-#include "filters/remove_form.h"
 
 #include <array>
 #include <string>
@@ -58,25 +53,19 @@ void PopUpFlips(Context& context) {
     context.services.platform.PopupMenu(context.main.FlipImage);
 }
 
-template <class Dialog>
-void Open(Context& context) {
-    Dialog dialog(context);
-    context.services.platform.ShowModal(dialog);
-}
-
-constexpr std::array<ToolRow, 16> toolRows{{
+constexpr std::array<ToolRow, ToolStrip::toolButtons> toolRows{{
     {key::drawFreeHand},
     {key::drawLine},
     {"", PopUpShapes},
-    {key::designPolygon, Open<PolygonForm>},
-    {key::designArc, Open<ArcForm>},
+    {key::designPolygon},
+    {key::designArc},
     {key::fill},
     {key::erase, ShowEraserControls},
-    {key::writeCurvedText, Open<CircelText>},
+    {key::writeCurvedText},
     {key::writeText, ShowTextPanel},
     {key::pickColour, ArmPick},
-    {key::removeColours, Open<RemoveForm>},
-    {key::replaceColours, Open<ColorChange>},
+    {key::removeColours},
+    {key::replaceColours},
     {key::copyArea},
     {key::flipOrTurn, PopUpFlips},
     {key::makeHole},
@@ -140,9 +129,11 @@ void ToolStrip::Knop_Click(int index) {
     main.Pic.SetWidth(canvasWidth);
     main.Label22.Visible = false;
 
-    const ToolRow& row = toolRows.at(static_cast<std::size_t>(index));
+    const auto place = static_cast<std::size_t>(index);
+    const ToolRow& row = toolRows.at(place);
     if (!row.hintKey.empty()) ShowHint(context_, row.hintKey);
     if (row.further != nullptr) row.further(context_);
+    openDialog.at(place)();
 }
 
 void ToolStrip::Vormen_Click(int index) {

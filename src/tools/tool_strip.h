@@ -1,6 +1,10 @@
 #pragma once
 
 #include "controls/event.h"
+#include "core/tool_codes.h"
+
+#include <array>
+#include <cstddef>
 
 namespace coinlet {
 
@@ -11,7 +15,11 @@ class ToolStrip {
 public:
     explicit ToolStrip(Context& context);
 
-    /// Opens the chooser of the fill colour.
+    static constexpr std::size_t toolButtons = lastToolButton + 1;
+
+    /// The dialogs of the tools that have one, by the tools' buttons, and the chooser of the fill colour;
+    /// they come when all else is done that belongs to the press.
+    std::array<Event<>, toolButtons> openDialog;
     Event<> openColourChooser;
 
 private:

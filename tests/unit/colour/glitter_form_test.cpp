@@ -1,7 +1,6 @@
 // Bars that were given other ends, and the layout.
 #include "colour/glitter_form.h"
 
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <algorithm>
@@ -23,12 +22,6 @@ TEST_F(GlitterFormTest, TakesAnyValueOfItsBars) {
         EXPECT_EQ(dialog.SlidePic.Left(), -static_cast<double>(value));
         EXPECT_EQ(dialog.SlidePic.Top(), -static_cast<double>(value));
     }
-}
-
-TEST_F(GlitterFormTest, KeepsItsControlsApartAndInside) {
-    const GlitterForm dialog(context);
-    ExpectApartAndInside(
-        dialog, {&dialog.Label1, &dialog.PicCont, &dialog.VScroll, &dialog.HScroll, &dialog.ExitKnop});
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
-// How often the polygon is drawn, what is typed, and the layout.
+// How often the polygon is drawn, and what is typed.
 #include "designers/polygon_form.h"
 
 #include "designers/polygon_figure.h"
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <functional>
@@ -187,23 +186,6 @@ TEST_F(PolygonFormTest, HasNoButtonThatEnterPresses) {
         EXPECT_TRUE(dialog.Loaded());
         EXPECT_EQ(dialog.DefaultButton, nullptr);
     });
-}
-
-TEST_F(PolygonFormTest, KeepsItsControlsApartAndInside) {
-    const PolygonForm dialog(context);
-    std::vector<const Control*> controls;
-    for (const Element* element : dialog.Elements()) {
-        const auto* control = dynamic_cast<const Control*>(element);
-        if (control != nullptr && control != &dialog.Picture1) controls.push_back(control);
-    }
-    EXPECT_EQ(controls.size(), 31U);
-    ExpectApartAndInside(dialog, controls);
-    // The drawing lies on its board, whose frame it leaves free.
-    const double frame = 2 * twipsPerPixel;
-    EXPECT_EQ(dialog.Picture1.Left(), dialog.Label8.Left() + frame);
-    EXPECT_EQ(dialog.Picture1.Top(), dialog.Label8.Top() + frame);
-    EXPECT_EQ(RightOf(dialog.Picture1), RightOf(dialog.Label8) - frame);
-    EXPECT_EQ(BottomOf(dialog.Picture1), BottomOf(dialog.Label8) - frame);
 }
 
 }  // namespace

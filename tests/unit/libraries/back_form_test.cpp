@@ -1,7 +1,6 @@
 // Rows that no collection has, files that are none, and the layout.
 #include "libraries/back_form.h"
 
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <algorithm>
@@ -96,13 +95,6 @@ TEST_F(BackFormTest, ReadsNamesInTheFilesCodePage) {
         Press(dialog, 225, 75);
         EXPECT_EQ(session.BackName, "Euro €");
     });
-}
-
-TEST_F(BackFormTest, KeepsItsControlsApartAndInside) {
-    const BackForm dialog(context);
-    ExpectApartAndInside(
-        dialog, {&dialog.Label4, &dialog.Option1[1], &dialog.Option1[2], &dialog.Pic, &dialog.HScroll1,
-                 &dialog.Orgineel, &dialog.Label5, &dialog.ExportKnop, &dialog.CancelKnop});
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // What goes to the canvas and the side panel, pixel by pixel, and what may stand in the folder of borders.
 #include "libraries/border_form.h"
 
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <algorithm>
@@ -111,21 +110,6 @@ TEST_F(BorderFormTest, PassesOverPlacesThatNoHoleHas) {
             EXPECT_EQ(dialog.Label3.Caption, "Hole position (Right-Bottom)");
         }
     });
-}
-
-TEST_F(BorderFormTest, KeepsItsControlsApartAndInside) {
-    const BorderForm dialog(context);
-    ExpectApartAndInside(dialog, {&dialog.List1, &dialog.Pic, &dialog.Option1[0], &dialog.Option1[1],
-                                  &dialog.Option1[2], &dialog.Option1[3], &dialog.Check1, &dialog.Check2,
-                                  &dialog.Label2, &dialog.ExportKnop, &dialog.CancelKnop});
-    const std::vector<const Control*> onPanel{&dialog.Label3, &dialog.HScroll1};
-    for (const Control* control : onPanel) {
-        EXPECT_GT(control->Left(), dialog.Label2.Left());
-        EXPECT_GT(control->Top(), dialog.Label2.Top());
-        EXPECT_LT(RightOf(*control), RightOf(dialog.Label2));
-        EXPECT_LT(BottomOf(*control), BottomOf(dialog.Label2));
-    }
-    EXPECT_LE(BottomOf(dialog.Label3), dialog.HScroll1.Top());
 }
 
 }  // namespace

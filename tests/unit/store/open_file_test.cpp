@@ -1,7 +1,6 @@
 // What may stand in the folder of designs beside designs: nothing of it hangs or breaks the dialog.
 #include "store/open_file.h"
 
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <functional>
@@ -187,17 +186,6 @@ TEST_F(OpenFileTest, TakesPicturesOfAnySize) {
         EXPECT_EQ(main.Pic.surface.Point(picture.Width(), 0), white);
         EXPECT_EQ(main.InfoPic.surface.Point(5, 5), RGB(9, 9, 9));
     }
-}
-
-TEST_F(OpenFileTest, KeepsItsControlsApartAndInside) {
-    const OpenFile dialog(context);
-    const std::vector<const Control*> shown{&dialog.Label2,  &dialog.List1,  &dialog.Label1,
-                                            &dialog.DelKnop, &dialog.OkKnop, &dialog.CancelKnop};
-    ExpectApartAndInside(dialog, shown);
-    EXPECT_GE(dialog.Image1.Left(), dialog.Label1.Left());
-    EXPECT_GE(dialog.Image1.Top(), dialog.Label1.Top());
-    EXPECT_LE(RightOf(dialog.Image1), RightOf(dialog.Label1));
-    EXPECT_LE(BottomOf(dialog.Image1), BottomOf(dialog.Label1));
 }
 
 }  // namespace

@@ -1,0 +1,211 @@
+// All dialogs of the program, each opened by what the user presses for it, in both languages: what one
+// expects of any dialog holds for it. A dialog is looked at because it has a row among the dialogs, and for
+// nothing else.
+#include "app/dialogs.h"
+
+#include "app/application.h"
+#include "base/text.h"
+#include "core/language.h"
+#include "core/main_form.h"
+#include "media/media_codecs.h"
+#include "media/qt_font_engine.h"
+#include "unit/app/layout_check.h"
+#include "unit/store/store_world.h"
+
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+#include <ostream>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace coinlet::test {
+namespace {
+
+/// The user's press on an opener, which must be there for him.
+class Press {
+public:
+    explicit Press(MainForm& main) : main_(main) {}
+    void operator()(MenuItem MainForm::*entry) const {
+        EXPECT_TRUE((main_.*entry).Enabled);
+        (main_.*entry).Click();
+    }
+    void operator()(ToolButton button) const {
+        EXPECT_TRUE(main_.Knop[button.number].Reachable());
+        main_.Knop[button.number].PointerClicked();
+    }
+    void operator()(FillColourField) const { main_.ColorLabel.PointerClicked(); }
+
+private:
+    MainForm& main_;
+};
+
+template <class Kind>
+std::vector<Kind*> Usable(Form& form) {
+    std::vector<Kind*> found;
+    for (Element* element : form.Elements()) {
+        auto* control = dynamic_cast<Kind*>(element);
+        if (control != nullptr && control->Shown() && control->Reachable()) found.push_back(control);
+    }
+    return found;
+}
+
+struct Opening {
+    std::string language;
+    DialogRow row;
+};
+
+std::string NameOf(const Opening& opening) {
+    // Two rows may open one form.
+    const auto place = std::ranges::find(Dialogs(), opening.row.open, &DialogRow::open) - Dialogs().begin();
+    return opening.language + "_" + std::string(opening.row.form) + "_" + std::to_string(place);
+}
+void PrintTo(const Opening& opening, std::ostream* out) {
+    *out << NameOf(opening);
+}
+
+class EveryDialog : public testing::TestWithParam<Opening> {
+protected:
+    EveryDialog() {
+        // The program's own data; what it might write lies in folders of this test.
+        fs::create_directories(folder_ / "app/Ontwerpen");
+        fs::create_directories(folder_ / "app/Collection");
+        for (const auto& entry : fs::directory_iterator(COINLET_DATA))
+            fs::create_directory_symlink(entry.path(), folder_ / "app" / entry.path().filename());
+        program_.Start();
+        LoadLanguage(program_.GetContext(), GetParam().language);
+    }
+
+    MainForm& Main() { return program_.GetContext().main; }
+    const DialogRow& Row() const { return GetParam().row; }
+
+    /// Opens the dialog, does this in it, and leaves it by the close box if it is still there.
+    void InDialog(const std::function<void(Form&)>& doing) {
+        bool opened = false;
+        platform_.doings.emplace_back([&] {
+            Form& dialog = *platform_.FrontForm();
+            opened = dialog.Name() == Row().form;
+            doing(dialog);
+            dialog.Unload();
+        });
+        std::visit(Press(Main()), Row().opener);
+        EXPECT_TRUE(opened);
+        EXPECT_EQ(platform_.FrontForm(), &Main());
+    }
+
+    void ExpectGoodLooks(Form& dialog, const std::string& when) {
+        ExpectInside(dialog, when);
+        ExpectApart(dialog, when);
+        ExpectTextsWhole(dialog, when);
+        ExpectReadingOrder(dialog, when);
+        ExpectWhole(Main().InfoLabel, Main().InfoLabel.Caption, when);
+    }
+
+    TemporaryFolder folder_;
+    TestPlatform platform_;
+    QtFontEngine fonts_;
+    MediaCodecs codecs_;
+    StillClock clock_;
+    PlainDesktop desktop_{folder_.Path()};
+    NoClipboard clipboard_;
+    NoPrinter printer_;
+    NoScreenGrab screenGrab_;
+    Application program_{
+        {folder_ / "app", platform_, fonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
+};
+
+TEST_P(EveryDialog, LooksRightWhenItOpens) {
+    InDialog([this](Form& dialog) {
+        ExpectGoodLooks(dialog, "at the opening");
+        EXPECT_FALSE(TrimBlanks(dialog.Caption).empty());
+        EXPECT_FALSE(TrimBlanks(Main().InfoLabel.Caption).empty());
+        EXPECT_NE(dialog.Focus(), nullptr) << "nothing has the focus";
+    });
+}
+
+// What is shown only for some choice has its place too.
+TEST_P(EveryDialog, LooksRightWithEveryChoice) {
+    InDialog([this](Form& dialog) {
+        for (CheckBox* box : Usable<CheckBox>(dialog)) {
+            box->PointerClicked();
+            ExpectGoodLooks(dialog, "after a click on " + std::string(box->Name()));
+            box->PointerClicked();
+        }
+        for (OptionButton* option : Usable<OptionButton>(dialog)) {
+            option->PointerClicked();
+            ExpectGoodLooks(dialog, "with " + option->Caption);
+        }
+    });
+}
+
+// Captions tell the value of a slider: there is room for the longest.
+TEST_P(EveryDialog, LooksRightAtBothEndsOfItsSliders) {
+    InDialog([this](Form& dialog) {
+        for (ScrollBar* bar : Usable<ScrollBar>(dialog)) {
+            for (const int end : {bar->Highest(), bar->Lowest()}) {
+                bar->UserDrags(end);
+                bar->UserReleases();
+                ExpectGoodLooks(dialog, "with " + std::string(bar->Name()) + " at " + std::to_string(end));
+            }
+        }
+    });
+}
+
+TEST_P(EveryDialog, IsLeftByEscape) {
+    InDialog([](Form& dialog) {
+        dialog.KeyDown(nullptr, keyEscape, 0);
+        EXPECT_FALSE(dialog.Loaded());
+    });
+}
+
+// Enter is for the dialog's own button, once, and for no other.
+TEST_P(EveryDialog, HasEnterForItsDefaultButtonAlone) {
+    InDialog([](Form& dialog) {
+        int presses = 0, others = 0;
+        for (Element* element : dialog.Elements()) {
+            auto* button = dynamic_cast<VistaButton*>(element);
+            if (button == nullptr) continue;
+            int& count = button == dialog.DefaultButton ? presses : others;
+            button->Click = [&count] { ++count; };
+        }
+        int expected = 0;
+        const auto enter = [&](Control* focused) {
+            dialog.MoveFocus(focused);
+            dialog.KeyDown(nullptr, keyReturn, 0);
+            if (dialog.DefaultButton != nullptr) ++expected;
+            EXPECT_EQ(presses, expected);
+            EXPECT_EQ(others, 0);
+        };
+        enter(nullptr);
+        for (TextBox* box : Usable<TextBox>(dialog))
+            if (!box->MultiLine) enter(box);
+        for (ComboBox* box : Usable<ComboBox>(dialog))
+            enter(box);
+    });
+}
+
+// Where there is one line to type, Enter ends it: by the dialog's button, or by the field itself.
+TEST_P(EveryDialog, TakesEnterWhereThereIsOneLineToType) {
+    InDialog([](Form& dialog) {
+        std::vector<TextBox*> lines = Usable<TextBox>(dialog);
+        std::erase_if(lines, [](const TextBox* box) { return box->MultiLine || box->Locked; });
+        if (lines.size() != 1) return;
+        EXPECT_TRUE(dialog.DefaultButton != nullptr || lines.front()->KeyDown);
+    });
+}
+
+std::vector<Opening> RowsInBothLanguages() {
+    std::vector<Opening> openings;
+    for (const char* language : {"Nederlands", "English"}) {
+        for (const DialogRow& row : Dialogs())
+            openings.push_back({language, row});
+    }
+    return openings;
+}
+
+INSTANTIATE_TEST_SUITE_P(AsDelivered, EveryDialog, testing::ValuesIn(RowsInBothLanguages()),
+                         [](const auto& test) { return NameOf(test.param); });
+
+}  // namespace
+}  // namespace coinlet::test
