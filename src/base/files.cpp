@@ -84,7 +84,7 @@ std::error_code DeleteFile(const fs::path& path) {
 }
 
 bool IsFileName(std::string_view name) {
-    constexpr std::string_view forbidden("/\0", 2);
+    constexpr std::string_view forbidden("/\\\0", 3);
     return !name.empty() && name != "." && name != ".." &&
            name.find_first_of(forbidden) == std::string_view::npos;
 }

@@ -111,12 +111,12 @@ TEST(DeleteFile, RefusesAllElse) {
 }
 
 TEST(IsFileName, TakesPlainNames) {
-    for (const char* name : {"a", "My tag.pat", "...", ".hidden", "a\\b", "\xE9", "t\xC3\xA9"})
+    for (const char* name : {"a", "My tag.pat", "...", ".hidden", "\xE9", "t\xC3\xA9"})
         EXPECT_TRUE(IsFileName(name)) << name;
 }
 
 TEST(IsFileName, RefusesWhatLeadsElsewhere) {
-    for (const char* name : {"", ".", "..", "/", "a/b", "../a", "a/"})
+    for (const char* name : {"", ".", "..", "/", "a/b", "../a", "a/", "\\", "a\\b", "..\\a", "a\\"})
         EXPECT_FALSE(IsFileName(name)) << name;
     EXPECT_FALSE(IsFileName(std::string_view("a\0b", 3)));
     EXPECT_FALSE(IsFileName(std::string_view("\0", 1)));
