@@ -1,5 +1,6 @@
 #include "app/start_up.h"
 
+#include "base/desktop.h"
 #include "base/files.h"
 #include "colour/pms_table.h"
 #include "core/about.h"
@@ -22,6 +23,14 @@ namespace {
 
 constexpr int smallestLetter = 8, largestLetter = 150, letterStep = 2, standardLetter = 6;
 constexpr double holeMarkerSide = 89;  // pixels
+
+/// In the folders that the program writes files into.
+void RemoveFilesOfKilledPrograms(Context& context) {
+    const fs::path& folder = context.services.applicationFolder;
+    for (const fs::path& each : {folder, Beneath(folder, "\\Ontwerpen"), Beneath(folder, "\\Collection"),
+                                 context.services.desktop.PictureFolder()})
+        RemoveStrays(each);
+}
 
 void ListStockImages(Context& context) {
     context.main.Label2.Caption = fileNameCaption;
@@ -86,8 +95,18 @@ void HideUnfinished(Context& context) {
 
 // The form is laid out when it is made, and the session has its defaults; these steps do the rest.
 constexpr void (*steps[])(Context&) = {
-    ListStockImages, PrepareCanvas, PreparePanel, ShowStartPicture, FillTextPanel,  SizeHoleMarker,
-    PrintAboutText,  LoadPmsColors, ReadSettings, StartLanguage,    HideUnfinished,
+    RemoveFilesOfKilledPrograms,
+    ListStockImages,
+    PrepareCanvas,
+    PreparePanel,
+    ShowStartPicture,
+    FillTextPanel,
+    SizeHoleMarker,
+    PrintAboutText,
+    LoadPmsColors,
+    ReadSettings,
+    StartLanguage,
+    HideUnfinished,
 };
 
 }  // namespace

@@ -32,15 +32,30 @@ public:
     virtual int Close(int file) = 0;
     virtual int Rename(const char* from, const char* to) = 0;
     virtual int Unlink(const char* path) = 0;
+    /// Opens a folder, flushes it, and closes it.
+    virtual int FlushFolder(const char* path) = 0;
 };
 FileCalls& SystemFileCalls();
 
+/// What becomes of a symbolic link where a file is to be replaced.
+enum class Links {
+    WrittenThrough,  ///< The file that it leads to is replaced, and the link stays.
+    Replaced,        ///< The link is. For scratch files: nobody's file lies behind their name.
+};
+
 /// Replaces the file at `path` by `content` whole or not at all: the bytes are written beside it under a
-/// short temporary name, flushed to the disk, and renamed over it. After any failure the old file stands byte
-/// for byte and no temporary file is left. The mode of an existing file stays, a symbolic link is written
-/// through, and a file that is write-protected or anything that is no file (a folder, a pipe) is refused.
+/// short temporary name, flushed to the disk, and renamed over it; then the folder is flushed, so that the
+/// new name lasts as well. After any failure the old file stands byte for byte and no temporary file is left;
+/// only a folder that can't be flushed is passed over, since the new file stands by then. The mode of an
+/// existing file stays, and a file that is write-protected or anything that is no file (a folder, a pipe) is
+/// refused.
 [[nodiscard]] std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content,
-                                          FileCalls& calls = SystemFileCalls());
+                                          FileCalls& calls = SystemFileCalls(),
+                                          Links links = Links::WrittenThrough);
+
+/// Deletes the temporary files of ReplaceFile in a folder that a process left behind that was killed
+/// meanwhile. Their names tell the number of their process; those of a process that is running stay.
+void RemoveStrays(const fs::path& folder);
 
 /// The bytes of a regular file (links are followed), or nothing if it is missing, unreadable, larger than
 /// `limit` bytes, or no regular file: a pipe is never opened, so nothing waits for its other end.
@@ -52,9 +67,9 @@ bool FileExists(const fs::path& path);
 /// Deletes a regular file, or a symbolic link alone; anything else is refused.
 [[nodiscard]] std::error_code DeleteFile(const fs::path& path);
 
-/// A name that the user typed or a file told may hold anything; only a plain name leads to a file. Whatever is
-/// made into a path asks here first. False for names with a separator, "/" or the one of literals, or a zero
-/// byte, for the empty name and for "." and "..".
+/// A name that the user typed or a file told may hold anything; only a plain name leads to a file. Whatever
+/// is made into a path asks here first. False for names with a separator, "/" or the one of literals, or a
+/// zero byte, for the empty name and for "." and "..".
 bool IsFileName(std::string_view name);
 
 /// The path of a literal such as "\\Data\\English.txt" beneath `folder`; backslashes stand for the separator.

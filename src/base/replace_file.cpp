@@ -5,11 +5,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <cerrno>
-#include <chrono>
-#include <cstdio>
+#include <charconv>
+#include <csignal>
 #include <sys/stat.h>
 
 namespace coinlet {
@@ -24,6 +23,13 @@ public:
     int Close(int file) override { return ::close(file); }
     int Rename(const char* from, const char* to) override { return ::rename(from, to); }
     int Unlink(const char* path) override { return ::unlink(path); }
+    int FlushFolder(const char* path) override {
+        const int folder = ::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (folder < 0) return -1;
+        const int result = ::fsync(folder);
+        ::close(folder);
+        return result;
+    }
 };
 
 constexpr mode_t permissionBits = 07777;
@@ -46,11 +52,13 @@ std::error_code FollowLinks(fs::path& path) {
     return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
 
-/// The permissions that the new file takes over from the old one; none if there is no old one.
+/// The permissions that the new file takes over from the old one; none if there is no old one, or a link in
+/// its place.
 std::error_code ExistingMode(const fs::path& path, std::optional<mode_t>& mode) {
     if (!path.has_filename()) return std::make_error_code(std::errc::is_a_directory);
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return errno == ENOENT ? std::error_code{} : LastError();
+    if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? std::error_code{} : LastError();
+    if (S_ISLNK(status.st_mode)) return {};
     if (S_ISDIR(status.st_mode)) return std::make_error_code(std::errc::is_a_directory);
     if (!S_ISREG(status.st_mode)) return std::make_error_code(std::errc::invalid_argument);
     // A rename asks for the folder's permission alone; a user who write-protects a file means it.
@@ -59,15 +67,35 @@ std::error_code ExistingMode(const fs::path& path, std::optional<mode_t>& mode) 
     return {};
 }
 
-/// A name of its own length, since a name as long as the file system allows can't be added to.
+// Names of their own length, since one as long as the file system allows can't be added to; the number of the
+// process tells whose they are.
+constexpr std::string_view temporaryStart = ".~", temporaryEnd = ".tmp";
+constexpr char temporaryMiddle = '-';
+
 std::string TemporaryName() {
     static std::atomic<unsigned> counter{0};
-    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    const auto mixed = static_cast<unsigned long long>(now) * 2654435761ULL +
-                       static_cast<unsigned long long>(::getpid()) * 40503ULL + counter.fetch_add(1);
-    std::array<char, 24> name{};
-    std::snprintf(name.data(), name.size(), ".~%08llx.tmp", mixed & 0xFFFFFFFFULL);
-    return name.data();
+    std::string name(temporaryStart);
+    name.append(std::to_string(::getpid())).append(1, temporaryMiddle);
+    return name.append(std::to_string(counter.fetch_add(1))).append(temporaryEnd);
+}
+
+/// The number of the process that made a temporary file of this name; nothing if it is none of them.
+std::optional<pid_t> MakerOf(std::string_view name) {
+    if (!name.starts_with(temporaryStart) || !name.ends_with(temporaryEnd)) return {};
+    name.remove_prefix(temporaryStart.size());
+    name.remove_suffix(std::min(name.size(), temporaryEnd.size()));
+    pid_t process = 0;
+    unsigned count = 0;
+    const char* const end = name.data() + name.size();
+    const auto [middle, error] = std::from_chars(name.data(), end, process);
+    if (error != std::errc{} || process <= 0 || middle == end || *middle != temporaryMiddle) return {};
+    const auto [last, countError] = std::from_chars(middle + 1, end, count);
+    if (countError != std::errc{} || last != end) return {};
+    return process;
+}
+
+bool IsGone(pid_t process) {
+    return ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
 /// A file being written under a temporary name. Unless it is renamed to its place, it is deleted.
@@ -152,11 +180,14 @@ FileCalls& SystemFileCalls() {
     return calls;
 }
 
-std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content, FileCalls& calls) {
+std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content, FileCalls& calls,
+                            Links links) {
     if (!IsSystemPath(path)) return std::make_error_code(std::errc::invalid_argument);
     fs::path target = path;
     std::optional<mode_t> mode;
-    if (const auto error = FollowLinks(target)) return error;
+    if (links == Links::WrittenThrough) {
+        if (const auto error = FollowLinks(target)) return error;
+    }
     if (const auto error = ExistingMode(target, mode)) return error;
 
     TemporaryFile file(calls);
@@ -167,7 +198,18 @@ std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> 
     if (const auto error = file.Write(content)) return error;
     if (const auto error = file.Flush()) return error;
     if (const auto error = file.Close()) return error;
-    return file.MoveTo(target);
+    if (const auto error = file.MoveTo(target)) return error;
+    const fs::path folder = target.parent_path();
+    calls.FlushFolder(folder.empty() ? "." : folder.c_str());
+    return {};
+}
+
+void RemoveStrays(const fs::path& folder) {
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        const auto maker = MakerOf(entry->path().filename().native());
+        if (maker && IsGone(*maker)) static_cast<void>(DeleteFile(entry->path()));
+    }
 }
 
 }  // namespace coinlet

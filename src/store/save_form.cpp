@@ -27,11 +27,14 @@ constexpr int nameWidth = 299, nameHeight = 20;
 constexpr Colour dialogColour = RGB(170, 240, 240);
 constexpr Colour barColour = RGB(0, 240, 0);
 
-/// The scratch file of an export; it goes with this object.
+/// The scratch file of an export; it goes with this object. Another program may have an export under way with
+/// a file of the same name: what counts is the bytes that were written, not what the file holds by now.
 class ScratchBitmap {
 public:
     ScratchBitmap(const fs::path& folder, const Image& image)
-        : path_(Beneath(folder, "\\mydummy.bmp")), written_(!SavePicture(image, path_)) {}
+        : path_(Beneath(folder, "\\mydummy.bmp")), bytes_(EncodeBmp(image).value_or(Bytes())) {
+        written_ = !bytes_.empty() && !ReplaceFile(path_, bytes_, SystemFileCalls(), Links::Replaced);
+    }
     ScratchBitmap(const ScratchBitmap&) = delete;
     ScratchBitmap& operator=(const ScratchBitmap&) = delete;
     ~ScratchBitmap() {
@@ -39,11 +42,12 @@ public:
     }
 
     bool Written() const { return written_ && FileExists(path_); }
-    const fs::path& Path() const { return path_; }
+    const Bytes& Content() const { return bytes_; }
 
 private:
     fs::path path_;
-    bool written_;
+    Bytes bytes_;
+    bool written_ = false;
 };
 
 }  // namespace
@@ -120,7 +124,7 @@ bool SaveForm::ExportJpeg() {
     context_.session.DesignFile = target;
     if (!IsFileName(fileName)) return true;
     if (!MayWrite(target)) return false;
-    BmpToJpeg(scratch.Path(), target, exportQuality, services.codecs);
+    BmpToJpeg(scratch.Content(), target, exportQuality, services.codecs);
     return true;
 }
 

@@ -32,6 +32,7 @@ public:
         return failing_ == Step::Rename ? Fail() : real_.Rename(from, to);
     }
     int Unlink(const char* path) override { return real_.Unlink(path); }
+    int FlushFolder(const char* path) override { return real_.FlushFolder(path); }
 
 private:
     static int Fail() {

@@ -9,11 +9,15 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -85,13 +89,26 @@ public:
     int Unlink(const char* path) override {
         return unlinkError != 0 ? Fail(unlinkError) : real_.Unlink(path);
     }
+    int FlushFolder(const char* path) override {
+        flushedFolders.emplace_back(path);
+        fileWhenFolderIsFlushed = watched.empty() ? std::string() : ReadAll(watched);
+        return folderError != 0 ? Fail(folderError) : real_.FlushFolder(path);
+    }
 
     int closes = 0;
+    int folderError = 0;
+    fs::path watched;  ///< A file whose content is looked at when the folder is flushed.
+    std::string fileWhenFolderIsFlushed;
+    std::vector<std::string> flushedFolders;
 
 private:
     static int Fail(int error) {
         errno = error;
         return -1;
+    }
+    static std::string ReadAll(const fs::path& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     bool Interrupted() { return interruptions > 0 && interruptions-- > 0; }
 
@@ -268,6 +285,118 @@ TEST(ReplaceFile, NeverOpensAFileThatIsThere) {
         EXPECT_LT(name.size(), 32U);
     }
     EXPECT_NE(calls.namesOfOpen[0], calls.namesOfOpen[1]);
+}
+
+TEST(ReplaceFile, FlushesTheFolderOnceTheNewFileStands) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "old");
+    FailingCalls calls;
+    calls.watched = path;
+    EXPECT_FALSE(Replace(path, "new", calls));
+    EXPECT_EQ(calls.flushedFolders, std::vector<std::string>{folder.Path()});
+    EXPECT_EQ(calls.fileWhenFolderIsFlushed, "new");
+    // Of a link it is the folder of the file that it leads to.
+    fs::create_directory(folder / "far");
+    fs::create_symlink("far/file", folder / "link");
+    EXPECT_FALSE(Replace(folder / "link", "new", calls));
+    EXPECT_EQ(calls.flushedFolders.back(), folder / "far");
+}
+
+TEST(ReplaceFile, FlushesNoFolderAfterAFailure) {
+    const TemporaryFolder folder;
+    FailingCalls calls;
+    calls.renameError = EIO;
+    EXPECT_TRUE(Replace(folder / "file", "new", calls));
+    EXPECT_TRUE(calls.flushedFolders.empty());
+}
+
+TEST(ReplaceFile, IsDoneAlsoIfTheFolderCannotBeFlushed) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "old");
+    FailingCalls calls;
+    calls.folderError = EIO;
+    EXPECT_FALSE(Replace(path, "new", calls));
+    EXPECT_EQ(folder.Read("file"), "new");
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(ReplaceFile, TheSystemFlushesFoldersAndNothingElse) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(SystemFileCalls().FlushFolder(folder.Path().c_str()), 0);
+    EXPECT_EQ(SystemFileCalls().FlushFolder(folder.Write("file", "").c_str()), -1);
+    EXPECT_EQ(SystemFileCalls().FlushFolder((folder / "missing").c_str()), -1);
+}
+
+TEST(ReplaceFile, ReplacesLinksThemselvesIfAsked) {
+    const TemporaryFolder folder;
+    folder.Write("far", "far content");
+    fs::create_symlink("far", folder / "link");
+    fs::create_symlink("missing/file", folder / "broken");
+    fs::create_symlink("circle", folder / "circle");
+    for (const char* const name : {"link", "broken", "circle", "none"}) {
+        EXPECT_FALSE(ReplaceFile(folder / name, AsBytes("new"), SystemFileCalls(), Links::Replaced)) << name;
+        EXPECT_FALSE(fs::is_symlink(folder / name)) << name;
+        EXPECT_EQ(folder.Read(name), "new") << name;
+    }
+    EXPECT_EQ(folder.Read("far"), "far content");
+    fs::create_directory(folder / "folder");
+    EXPECT_EQ(ReplaceFile(folder / "folder", {}, SystemFileCalls(), Links::Replaced),
+              std::errc::is_a_directory);
+    EXPECT_EQ(folder.Count(), 6);
+}
+
+/// The number of a process that has ended.
+pid_t EndedProcess() {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(0);
+    ::waitpid(child, nullptr, 0);
+    return child;
+}
+
+TEST(RemoveStrays, DeletesWhatEndedProcessesLeft) {
+    const TemporaryFolder folder;
+    const std::string ended = std::to_string(EndedProcess());
+    folder.Write(".~" + ended + "-0.tmp", "");
+    folder.Write(".~" + ended + "-4000000000.tmp", "half of a pict");
+    folder.Write(".~2147483647-1.tmp", "");  // a number that no process has
+    RemoveStrays(folder.Path());
+    EXPECT_EQ(folder.Count(), 0);
+}
+
+TEST(RemoveStrays, LeavesRunningProcessesAndAllOtherNames) {
+    const TemporaryFolder folder;
+    const std::string ended = std::to_string(EndedProcess()), own = std::to_string(::getpid());
+    int count = 0;
+    for (const std::string& name :
+         {".~" + own + "-0.tmp", std::string(".~1-0.tmp"), std::string(".~.tmp"), std::string(".~-.tmp"),
+          std::string(".~0-1.tmp"), std::string(".~-1-1.tmp"), ".~" + ended + ".tmp", ".~" + ended + "-.tmp",
+          ".~" + ended + "-1.tm", ".~" + ended + "-1.tmp~", ".~" + ended + "-1x.tmp",
+          ".~x" + ended + "-1.tmp", ".~ " + ended + "-1.tmp", "~" + ended + "-1.tmp",
+          ".~" + ended + "-99999999999.tmp", std::string(".~99999999999-1.tmp"), std::string(".tmp"),
+          std::string(".~tmp"), std::string("a.pat")}) {
+        folder.Write(name, "x");
+        ++count;
+    }
+    fs::create_directory(folder / (".~" + ended + "-7.tmp"));
+    RemoveStrays(folder.Path());
+    EXPECT_EQ(folder.Count(), count + 1);
+    RemoveStrays(folder / "missing");
+    RemoveStrays(folder / "a.pat");
+}
+
+TEST(RemoveStrays, FindsWhatAKilledReplacingLeft) {
+    const TemporaryFolder folder;
+    folder.Write("file", "old content");
+    InAnotherProcess([&] {
+        FailingCalls calls;
+        calls.renameError = EIO;
+        calls.unlinkError = EIO;
+        return Replace(folder / "file", "new content", calls) ? 0 : 1;
+    });
+    EXPECT_EQ(folder.Count(), 2);
+    RemoveStrays(folder.Path());
+    EXPECT_EQ(folder.Count(), 1);
+    EXPECT_EQ(folder.Read("file"), "old content");
 }
 
 TEST(ReplaceFile, GivesUpWhenEveryTemporaryNameIsTaken) {

@@ -5,36 +5,37 @@
 #include "unit/store/store_world.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace coinlet {
 namespace {
 
-/// A bitmap file of 2 by 1 pixels and an older export.
+/// The bytes of a bitmap file of 2 by 1 pixels and an older export.
 class Export {
 public:
     Export() {
         const test::BlockFonts fonts;
         Surface surface(fonts, 2, 1);
         surface.PSet(1, 0, RGB(1, 2, 3));
-        EXPECT_FALSE(SavePicture(surface.Image(), folder / "source.bmp"));
+        source = EncodeBmp(surface.Image()).value();
         folder.Write("old.jpg", "old export");
     }
 
     test::TemporaryFolder folder;
     test::PlainCodecs codecs;
+    Bytes source;
 };
 
 TEST(BmpToJpeg, WritesThePictureInThatQuality) {
     const Export world;
-    BmpToJpeg(world.folder / "source.bmp", world.folder / "old.jpg", 37, world.codecs);
-    EXPECT_EQ(world.folder.Read("old.jpg"), "%" + world.folder.Read("source.bmp"));
+    BmpToJpeg(world.source, world.folder / "old.jpg", 37, world.codecs);
+    EXPECT_EQ(world.folder.Read("old.jpg"), "%" + std::string(world.source.begin(), world.source.end()));
 }
 
 TEST(BmpToJpeg, LeavesWhatStoodThereIfTheSourceIsNoPicture) {
     const Export world;
-    world.folder.Write("source.bmp", "BM");
-    BmpToJpeg(world.folder / "source.bmp", world.folder / "old.jpg", 100, world.codecs);
-    BmpToJpeg(world.folder / "missing.bmp", world.folder / "old.jpg", 100, world.codecs);
+    BmpToJpeg(AsBytes("BM"), world.folder / "old.jpg", 100, world.codecs);
+    BmpToJpeg({}, world.folder / "old.jpg", 100, world.codecs);
     EXPECT_EQ(world.folder.Read("old.jpg"), "old export");
 }
 
@@ -47,10 +48,10 @@ TEST_P(BmpToJpegFails, AndLeavesTheOldOneOrNone) {
     const Export world;
     for (const char* name : {"old.jpg", "new.jpg"}) {
         test::FailingStep calls(GetParam());
-        BmpToJpeg(world.folder / "source.bmp", world.folder / name, 100, world.codecs, calls);
+        BmpToJpeg(world.source, world.folder / name, 100, world.codecs, calls);
     }
     EXPECT_EQ(world.folder.Read("old.jpg"), "old export");
-    EXPECT_EQ(world.folder.Count(), 2);
+    EXPECT_EQ(world.folder.Count(), 1);
 }
 
 }  // namespace

@@ -135,6 +135,10 @@ TEST_F(KilledSave, LeavesTheOldDesignOrTheNewOne) {
         ASSERT_TRUE(next.main.Pic.surface.Image() == canvases.at(isSecond ? 1 : 0));
         ASSERT_EQ(next.Rows().size(), 1U);
     }
+    // Each start clears away what the kills before it left.
+    RemoveStrays(folder / "app/Ontwerpen");
+    const fs::directory_iterator files(folder / "app/Ontwerpen");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
 }
 
 }  // namespace
