@@ -21,7 +21,7 @@ int main(int argc, char* argv[]) {
         std::cerr << player::usage;
         return player::exitUsage;
     }
-    const QtFontEngine fonts;
+    QtFontEngine fonts;
     const MediaCodecs codecs;
     const player::Libraries libraries{fonts, codecs, MakeCoinlet};
     return player::PlayAll(*options, libraries, std::cout);

@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
     if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
     const auto* line = std::get_if<CommandLine>(&arguments);
 
-    const QtFontEngine fonts;
+    QtFontEngine fonts;
     const MediaCodecs codecs;
     const SystemClock clock;
     const Services services{

@@ -121,7 +121,7 @@ int main(int argc, char** argv) {
     std::filesystem::copy(COINLET_DATA, folder.Path(), std::filesystem::copy_options::recursive);
 
     Shell shell(argc, argv);
-    const QtFontEngine fonts;
+    QtFontEngine fonts;
     const MediaCodecs codecs;
     const SystemClock clock;
     const Services services{.applicationFolder = folder.Path(),

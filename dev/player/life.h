@@ -14,7 +14,7 @@ namespace coinlet::player {
 
 /// What the player is made with, once for all scripts.
 struct Libraries {
-    const FontEngine& fonts;
+    FontEngine& fonts;
     const PictureCodecs& codecs;
     ProgramMaker makeProgram;
 };

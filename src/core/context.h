@@ -21,7 +21,7 @@ class PlaatjesForm;
 struct Services {
     std::filesystem::path applicationFolder;
     Platform& platform;
-    const FontEngine& fonts;
+    FontEngine& fonts;
     const PictureCodecs& codecs;
     const Clock& clock;
     Desktop& desktop;

@@ -14,7 +14,7 @@ inline int MeanGray(const PixelArray& picture) {
     std::uint64_t sum = 0;
     for (int y = 0; y < picture.Height(); ++y) {
         const std::uint8_t* row = picture.Row(y);
-        std::uint32_t rowSum = 0;  // 16,384 values of 255 fit.
+        std::uint32_t rowSum = 0;  // 65,535 values of 255 fit.
         for (int x = 0; x < width; ++x)
             rowSum += GrayOf(PixelAt(row, x));
         sum += rowSum;

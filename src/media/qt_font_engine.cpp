@@ -90,11 +90,12 @@ QRect InkBounds(const QFontMetrics& metrics, const QString& text, int pixelSize)
     return cell.united(letters).adjusted(-slack, -slack, slack, slack);
 }
 
-/// What no surface can show is left out, so that no text, however long or large, takes more memory than the
-/// largest picture.
+/// What lies far from the point that a text is drawn at is left out, so that no text, however long or large,
+/// takes more memory than the largest picture.
 QRect WithinReach(const QRect& bounds) {
-    constexpr int before = maximumSide / 4;
-    return bounds.intersected(QRect(-before, -before, maximumSide, maximumSide));
+    constexpr int before = 4096, longest = 16384;  // pixels
+    static_assert(std::size_t{longest} * longest <= maximumPictureBytes);
+    return bounds.intersected(QRect(-before, -before, longest, longest));
 }
 
 /// The part of `picture` that has ink; the picture's top left pixel is at `origin`.

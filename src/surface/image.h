@@ -8,8 +8,9 @@
 
 namespace coinlet {
 
-/// The largest picture that is made or read: 16,384 pixels a side and 256 MiB.
-constexpr int maximumSide = 16384;
+/// The largest picture that is made or read: 65,535 pixels a side, which is enough for a whole font in a row
+/// at its largest, and 256 MiB.
+constexpr int maximumSide = 65535;
 constexpr std::size_t maximumPictureBytes = std::size_t{256} << 20;
 
 /// True if a picture of this size can be made. A side of 0 is legal: a picture of no pixels.

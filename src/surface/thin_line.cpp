@@ -43,8 +43,8 @@ Steps Clip(Steps along, const Slope& slope, const Steps& across) {
 }
 
 /// The height of a slope in steps of one pixel, in 24.40 binary places. Rounding makes the sum too large, by
-/// at most one unit of the last place a step and one to begin with. On 16,384 pixels that stays below
-/// 2^-24, which is less than 1 / (2 length), the distance between heights; so the whole part is always right.
+/// at most one unit of the last place a step and one to begin with. On 65,535 pixels that stays below 2^-24,
+/// which is no more than 1 / (2 length), the distance between heights; so the whole part is always right.
 class RunningHeight {
 public:
     RunningHeight(const Slope& slope, std::int64_t step) : increment_(Places(slope.rise, slope.length)) {
@@ -67,7 +67,7 @@ private:
 
     std::uint64_t increment_, sum_ = 0;
 };
-static_assert(maximumSide <= 1 << 14 && 2 * lineReach <= 1 << 23, "RunningHeight counts on it");
+static_assert(maximumSide < 1 << 16 && 2 * lineReach <= 1 << 23, "RunningHeight counts on it");
 
 bool IsOn(std::int64_t dot) {
     return dot % (2 * dotLength) < dotLength;

@@ -42,7 +42,7 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed) {
     fs::copy(dataFolder, folder / "app", fs::copy_options::recursive);
     fs::current_path(folder / "here");  // What is named by chance lies here.
 
-    const QtFontEngine fonts;
+    QtFontEngine fonts;
     const MediaCodecs codecs;
     const player::Libraries libraries{fonts, codecs, MakeCoinlet};
     const player::Places places(folder / "app", folder / "out", folder.Path());

@@ -82,7 +82,7 @@ class Starter {
 public:
     Starter() { folder_.Write("Coinlet.ini", TextFile("a\r\nb\r\nEnglish\r\n")); }
 
-    Outcome StartWith(const fs::path& name, File file) const {
+    Outcome StartWith(const fs::path& name, File file) {
         folder_.Write(name, file);
         player::World world{player::Places(folder_.Path(), folder_.Path(), folder_.Path()), {}, {}, {}, {}};
         const player::Libraries libraries{fonts_, codecs_, MakeCoinlet};
@@ -154,7 +154,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): a broke
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication qt(argc, argv);
     const test::ApplicationFolder settingFolder;
-    const test::Starter settingStarter, tableStarter, aboutStarter;
+    test::Starter settingStarter, tableStarter, aboutStarter;
     constexpr std::size_t slow = 50;  // A start of the program takes that much longer than reading a file.
     const std::vector<test::Reader> readers{
         {"script", test::scripts, test::JudgeScript},

@@ -109,7 +109,7 @@ TEST(DecodeGif, CutShortAnywhereNeverCrashes) {
 }
 
 TEST(DecodeGif, RefusesSizesAboveTheLimit) {
-    const GifBytes tooLarge{.width = 16385, .height = 1, .frames = {{0, 0, 1, 1, {1}}}};
+    const GifBytes tooLarge{.width = 65535, .height = 1025, .frames = {{0, 0, 1, 1, {1}}}};
     EXPECT_FALSE(DecodeGifBytes(tooLarge.File()));
     const GifBytes tooMany{.width = 65535, .height = 65535, .frames = {{0, 0, 1, 1, {1}}}};
     EXPECT_FALSE(DecodeGifBytes(tooMany.File()));
@@ -121,6 +121,15 @@ TEST(DecodeGif, ReadsAPictureAsLargeAsTheLimit) {
     ASSERT_TRUE(image);
     EXPECT_EQ(image->At(8191, 8191), RGB(255, 0, 0));
     EXPECT_EQ(image->At(0, 0), black);
+}
+
+TEST(DecodeGif, ReadsAPictureAsWideAsGifsAre) {
+    const GifBytes gif{.width = 65535, .height = 2, .frames = {{65534, 1, 1, 1, {1}}}};
+    const auto image = DecodeGifBytes(gif.File());
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->Width(), 65535);
+    EXPECT_EQ(image->At(65534, 1), RGB(255, 0, 0));
+    EXPECT_EQ(image->At(40000, 1), black);
 }
 
 TEST(DecodeGif, GivesNothingForWhatIsNoGif) {

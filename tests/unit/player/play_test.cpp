@@ -395,7 +395,7 @@ TEST_F(Play, FoldersOfFileListsLieBeneathTheApplicationFolder) {
 TEST(PlayAll, CountsScriptsAndPlaysEachAfresh) {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder / "app");
-    const BlockFonts fonts;
+    BlockFonts fonts;
     const NoCodecs codecs;
     const player::Libraries libraries{fonts, codecs, [](const Services& services) {
                                           return std::make_unique<EveryControlProgram>(services);

@@ -27,7 +27,7 @@ protected:
     }
     bool IsOver(const Control& control) const { return life_.platform.IsPointerOver(control); }
 
-    const test::BlockFonts fonts_{};
+    test::BlockFonts fonts_;
     const test::NoCodecs codecs_{};
     const Libraries libraries_{fonts_, codecs_, [](const Services& services) {
                                    return std::make_unique<test::EveryControlProgram>(services);

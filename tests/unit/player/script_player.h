@@ -27,7 +27,7 @@ public:
     /// What the player prints for a script called "s.play", the script's folder left out.
     std::string Play(const std::string& script) {
         const auto file = folder_.Write("s.play", script);
-        const BlockFonts fonts;
+        BlockFonts fonts;
         const NoCodecs codecs;
         const player::Libraries libraries{fonts, codecs, [](const Services& services) {
                                               return std::make_unique<EveryControlProgram>(services);

@@ -247,7 +247,7 @@ TEST(DecodeBmp, AnOffsetThatCannotBeMeansRightBehindThePalette) {
 TEST(DecodeBmp, RefusesSizesThatCannotBe) {
     const std::pair<std::int32_t, std::int32_t> sizes[] = {
         {0, 1},     {1, 0},     {-1, 1},        {INT_MIN, 1},       {1, INT_MIN},        {INT_MIN, INT_MIN},
-        {16385, 1}, {1, 16385}, {65535, 65535}, {INT_MAX, INT_MAX}, {INT_MAX, -INT_MAX}, {16384, 4097}};
+        {65536, 1}, {1, 65536}, {65535, 65535}, {INT_MAX, INT_MAX}, {INT_MAX, -INT_MAX}, {16384, 4097}};
     for (const auto& [width, height] : sizes) {
         for (const std::uint16_t bits : {std::uint16_t{1}, std::uint16_t{32}}) {
             EXPECT_FALSE(DecodeBmp(BmpBytes{.width = width, .height = height, .bits = bits}.File()))

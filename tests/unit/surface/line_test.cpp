@@ -137,6 +137,18 @@ TEST_F(LineTest, ALongLineKeepsItsPixelsExactly) {
     EXPECT_EQ(surface.Image(), expected.Image());
 }
 
+TEST_F(LineTest, ALineKeepsItsPixelsOverTheWidestSurface) {
+    // A length and a rise without a common divisor, near the limits of what is drawn exactly.
+    const long long length = 4194301, rise = 64007, startX = -2000003, startY = -30510;
+    Surface surface = Blank(maximumSide, 1024);
+    surface.Line(startX, startY, startX + length, startY + rise);
+    for (int x = 0; x < maximumSide; ++x) {
+        const long long i = x - startX, row = startY + (2 * i * rise + length - 1) / (2 * length);
+        ASSERT_EQ(surface.Point(x, static_cast<double>(row)), black) << x;
+    }
+    EXPECT_EQ(CountBlack(surface), maximumSide);
+}
+
 TEST_F(LineTest, HugeCoordinatesKeepTheDirection) {
     Surface diagonal = Blank(20, 20);
     diagonal.Line(0, 0, 20, 20);

@@ -62,6 +62,20 @@ TEST_F(SurfaceTest, ARefusedSizeChangesNothing) {
     EXPECT_EQ(surface_.Revision(), revision);
 }
 
+TEST_F(SurfaceTest, ALongSurfaceIsDrawnOnToItsEnd) {
+    EXPECT_TRUE(surface_.Resize(65535, 2));
+    EXPECT_EQ(surface_.ScaleWidth(), 65535);
+    surface_.Line(0, 1, 65535, 1);
+    surface_.PSet(65534, 0, RGB(255, 0, 0));
+    EXPECT_EQ(surface_.Point(65533, 0), white);
+    EXPECT_EQ(surface_.Point(65534, 0), RGB(255, 0, 0));
+    EXPECT_EQ(surface_.Point(65534, 1), black);
+    EXPECT_EQ(surface_.Point(65535, 1), -1);
+    EXPECT_TRUE(surface_.Resize(1, 65535));
+    EXPECT_FALSE(surface_.Resize(65536, 1));
+    EXPECT_FALSE(surface_.Resize(1, 65536));
+}
+
 TEST_F(SurfaceTest, ASurfaceOfNoSizeDrawsNothing) {
     for (const auto& [width, height] : {std::pair{0, 0}, {0, 5}, {5, 0}}) {
         Surface empty(fonts_, 4, 4);
