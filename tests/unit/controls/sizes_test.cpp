@@ -85,7 +85,7 @@ TEST_F(SizesTest, AFixedBitmapStaysWhateverTheSize) {
 TEST_F(SizesTest, SizesThatCannotBeMadeAreRefused) {
     form.Pic.Move(0, 0, 150, 150);
     for (const double size :
-         {-1.0, std::numeric_limits<double>::quiet_NaN(), 16385.0 * 15,
+         {-1.0, std::numeric_limits<double>::quiet_NaN(), 65536.0 * 15,
           std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()}) {
         form.Pic.SetWidth(size);
         form.Pic.SetHeight(size);
