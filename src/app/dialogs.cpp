@@ -15,6 +15,8 @@
 #include "filters/remove_form.h"
 #include "libraries/back_form.h"
 #include "libraries/border_form.h"
+#include "libraries/clipart_form.h"
+#include "libraries/symbol_form.h"
 #include "store/file_menu.h"
 #include "store/open_design.h"
 #include "store/tekst_form.h"
@@ -37,6 +39,8 @@ constexpr std::array dialogs{
     DialogRow{"BorderForm", &MainForm::LibraryBorders, "", OpenDialog<BorderForm>},
     DialogRow{"BackForm", &MainForm::LibraryBackside, "", OpenDialog<BackForm>},
     DialogRow{"GlitterForm", &MainForm::LibraryGlitter, key::lookAtGlitter, OpenDialog<GlitterForm>},
+    DialogRow{"ClipartForm", &MainForm::ClipartGroot, "", OpenDialog<ClipartForm>},
+    DialogRow{"SymbolForm", &MainForm::Symbolen, key::chooseSymbol, OpenDialog<SymbolForm>},
     DialogRow{"PolygonForm", ToolButton{polygonTool}, "", OpenDialog<PolygonForm>},
     DialogRow{"ArcForm", ToolButton{arcTool}, "", OpenDialog<ArcForm>},
     DialogRow{"CircelText", ToolButton{curvedTextTool}, "", OpenDialog<CircelText>},

@@ -58,7 +58,8 @@ public:
     virtual std::vector<std::string> Families() const = 0;
 
     /// Makes the font of a file usable by its family name for as long as the program runs. Returns the family
-    /// name, or an empty text if the file is no font. Adding a file twice is harmless.
+    /// name, or an empty text if the file is no font. From now on that name stands for this font, whatever
+    /// font is installed, or was added before, under the same name. Adding a file again takes no memory.
     virtual std::string AddFontFile(const std::filesystem::path& file) = 0;
 };
 

@@ -8,8 +8,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::array<MenuItem MainForm::*, 3> unfinishedEntries{&MainForm::FileImport,
-                                                                &MainForm::ClipartGroot, &MainForm::Symbolen};
+constexpr std::array<MenuItem MainForm::*, 1> unfinishedEntries{&MainForm::FileImport};
 
 }  // namespace
 

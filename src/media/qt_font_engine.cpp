@@ -1,6 +1,5 @@
 #include "media/qt_font_engine.h"
 
-#include "base/files.h"
 #include "base/text.h"
 #include "surface/image.h"
 
@@ -37,9 +36,9 @@ int PixelSize(double points) {
 
 /// Full hinting puts every advance on a whole number of pixels, so that a text is as wide as its letters are
 /// together; kerning would undo that.
-QFont ToQFont(const FontSpec& spec, Edges edges) {
+QFont ToQFont(const FontFamily& family, const FontSpec& spec, Edges edges) {
     QFont font;
-    font.setFamilies({QString::fromStdString(spec.name)});
+    font.setFamilies({QString::fromStdString(family.known)});
     font.setPixelSize(PixelSize(spec.size));
     font.setBold(spec.bold);
     font.setItalic(spec.italic);
@@ -47,7 +46,10 @@ QFont ToQFont(const FontSpec& spec, Edges edges) {
     font.setStrikeOut(spec.strikethrough);
     font.setKerning(false);
     font.setHintingPreference(QFont::PreferFullHinting);
-    font.setStyleStrategy(edges == Edges::Crisp ? QFont::NoAntialias : QFont::NoSubpixelAntialias);
+    const auto smoothing = edges == Edges::Crisp ? QFont::NoAntialias : QFont::NoSubpixelAntialias;
+    // What a font of a file lacks is seen to be lacking, and not taken from another one.
+    const auto merging = family.ofFile ? QFont::NoFontMerging : QFont::PreferDefault;
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(smoothing | merging));
     return font;
 }
 
@@ -71,15 +73,15 @@ QString Glyphs(const QString& text, const QFont& font) {
     return result;
 }
 
-QString Printable(const FontSpec& spec, std::string_view text) {
+QString Printable(const FontFamily& family, const FontSpec& spec, std::string_view text) {
     QString printable = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     const auto isControl = [](QChar letter) {
         return letter.category() == QChar::Other_Control || letter.category() == QChar::Separator_Line ||
                letter.category() == QChar::Separator_Paragraph;
     };
     printable.removeIf(isControl);
-    if (!IsSymbolFont(QString::fromStdString(spec.name))) return printable;
-    return Glyphs(printable, ToQFont(spec, Edges::Crisp));
+    if (!IsSymbolFont(QString::fromStdString(family.known))) return printable;
+    return Glyphs(printable, ToQFont(family, spec, Edges::Crisp));
 }
 
 /// Where the ink of a text may fall, from the top left corner of its cell.
@@ -126,10 +128,11 @@ TextMask CropToInk(const QImage& picture, QPoint origin) {
     return mask;
 }
 
-TextMask Draw(const FontSpec& spec, std::string_view text, Edges edges, double angle) {
-    const QString letters = Printable(spec, text);
+TextMask Draw(const FontFamily& family, const FontSpec& spec, std::string_view text, Edges edges,
+              double angle) {
+    const QString letters = Printable(family, spec, text);
     if (letters.isEmpty()) return {};
-    const QFont font = ToQFont(spec, edges);
+    const QFont font = ToQFont(family, spec, edges);
     const QFontMetrics metrics(font);
     QTransform turn;
     turn.rotate(-angle);  // Its angles run clockwise.
@@ -174,8 +177,9 @@ std::size_t QtFontEngine::PrintedHash::operator()(const Printed& key) const {
 TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) const {
     const Printed key{Plain(font), std::string(text)};
     if (const TextExtent* known = extents_.Find(key)) return *known;
-    const QFontMetrics metrics(ToQFont(key.font, Edges::Crisp));
-    const TextExtent extent{metrics.horizontalAdvance(Printable(key.font, text)), metrics.height()};
+    const FontFamily family = added_.Find(font.name);
+    const QFontMetrics metrics(ToQFont(family, key.font, Edges::Crisp));
+    const TextExtent extent{metrics.horizontalAdvance(Printable(family, key.font, text)), metrics.height()};
     extents_.Add(key, extent);
     return extent;
 }
@@ -183,34 +187,31 @@ TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) co
 TextMask QtFontEngine::Render(const FontSpec& font, std::string_view text, Edges edges, double angle) const {
     const Printed key{Plain(font), std::string(text), edges, PlainAngle(angle)};
     if (const TextMask* known = masks_.Find(key)) return *known;
-    TextMask mask = Draw(key.font, text, edges, key.angle);
+    TextMask mask = Draw(added_.Find(font.name), key.font, text, edges, key.angle);
     constexpr std::size_t largestKept = std::size_t{64} << 10;  // captions, not posters
     if (mask.coverage.size() <= largestKept) masks_.Add(key, mask);
     return mask;
 }
 
 std::vector<std::string> QtFontEngine::Families() const {
-    std::vector<std::string> names;
+    std::vector<std::string> names = added_.Names();
     const QStringList families = QFontDatabase::families();
     for (const QString& family : families)
         if (!QFontDatabase::isPrivateFamily(family)) names.push_back(family.toStdString());
     std::sort(names.begin(), names.end(), LessIgnoringCase);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 
 std::string QtFontEngine::AddFontFile(const std::filesystem::path& file) {
-    if (const auto added = addedFiles_.find(file); added != addedFiles_.end()) return added->second;
-    // Read here and not by Qt, which would wait for the other end of a pipe.
-    constexpr std::size_t largestFont = std::size_t{128} << 20;
-    const auto bytes = ReadFile(file, largestFont);
-    if (!bytes) return {};
-    const int font = QFontDatabase::addApplicationFontFromData(
-        QByteArray(reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())));
-    const QStringList families = QFontDatabase::applicationFontFamilies(font);
-    if (families.isEmpty()) return {};
-    extents_.Clear();  // The name may have stood for a substitute until now.
-    masks_.Clear();
-    return addedFiles_[file] = families.front().toStdString();
+    const auto before = added_.Revision();
+    std::string family = added_.Add(file);
+    if (added_.Revision() != before) {
+        // The name has stood for something else until now.
+        extents_.Clear();
+        masks_.Clear();
+    }
+    return family;
 }
 
 }  // namespace coinlet

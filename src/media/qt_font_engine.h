@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/font.h"
+#include "media/added_fonts.h"
 #include "media/recent.h"
 
 #include <cstddef>
-#include <map>
 
 namespace coinlet {
 
@@ -34,7 +34,7 @@ private:
     static constexpr std::size_t kept = 256;
     mutable Recent<Printed, TextExtent, PrintedHash> extents_{kept};
     mutable Recent<Printed, TextMask, PrintedHash> masks_{kept};
-    std::map<std::filesystem::path, std::string> addedFiles_;
+    AddedFonts added_;
 };
 
 }  // namespace coinlet

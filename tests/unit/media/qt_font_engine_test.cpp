@@ -4,6 +4,8 @@
 #include "support/symbol_font.h"
 #include "support/temporary_folder.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -292,6 +294,85 @@ TEST(QtFontEngine, AnAddedFontTakesTheNameFromItsSubstitute) {
     EXPECT_EQ(fonts.AddFontFile(path), font.name);
     const auto families = fonts.Families();
     EXPECT_EQ(std::count(families.begin(), families.end(), font.name), 1);
+}
+
+fs::path Write(const test::TemporaryFolder& folder, const std::string& name, const Bytes& file) {
+    return folder.Write(name, std::string(file.begin(), file.end()));
+}
+
+TEST(QtFontEngine, AFileOfTheSameFamilyTakesTheNameFromAnInstalledFont) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    const auto installed = fonts.Families();
+    ASSERT_FALSE(installed.empty());
+    for (const std::string& family : {installed.front(), installed.back(), std::string("Liberation Sans")}) {
+        const FontSpec font{.name = family, .size = 15};
+        EXPECT_EQ(fonts.AddFontFile(Write(folder, "same.ttf", test::SymbolFont(family))), family);
+        for (const char* letter : {"A", "z", "!"}) {
+            EXPECT_EQ(Ink(fonts.Render(font, letter, Edges::Crisp)), 100) << family;
+            EXPECT_EQ(fonts.Measure(font, letter).width, 20) << family;
+        }
+        const auto families = fonts.Families();
+        EXPECT_EQ(std::count(families.begin(), families.end(), family), 1);
+    }
+}
+
+TEST(QtFontEngine, OfTwoFilesOfOneFamilyTheOneAddedLastIsUsed) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    const Bytes squares = test::SymbolFont("Coinlet Twins");
+    // The right edge of the square: 500 units from the left one, from now on 250.
+    Bytes halves = squares;
+    const Bytes run{1, 0xF4, 0, 0};  // 500, 0
+    const auto place = std::search(halves.begin(), halves.end(), run.begin(), run.end());
+    ASSERT_NE(place, halves.end());
+    place[0] = 0, place[1] = 250;
+    const auto first = Write(folder, "1.ttf", squares), second = Write(folder, "2.ttf", halves);
+    const FontSpec font{.name = "Coinlet Twins", .size = 15};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(fonts.AddFontFile(first), font.name);
+        EXPECT_EQ(fonts.Render(font, "A", Edges::Crisp).width, 10);
+        EXPECT_EQ(fonts.AddFontFile(second), font.name);
+        EXPECT_EQ(fonts.Render(font, "A", Edges::Crisp).width, 5);
+    }
+    // Names of families have no case.
+    EXPECT_EQ(fonts.Render({.name = "COINLET twins", .size = 15}, "A", Edges::Crisp).width, 5);
+    // What stands in the file now counts.
+    Write(folder, "1.ttf", halves);
+    EXPECT_EQ(fonts.AddFontFile(first), font.name);
+    EXPECT_EQ(fonts.Render(font, "A", Edges::Crisp).width, 5);
+}
+
+TEST(QtFontEngine, AFontOfAFileHasNoLettersButItsOwn) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    const std::string name = fonts.AddFontFile(Write(folder, "f.ttf", test::SymbolFont("Coinlet Few")));
+    ASSERT_EQ(name, "Coinlet Few");
+    const FontSpec font{.name = name, .size = 15};
+    // Byte 32 and what is in no code page; the sign for what is missing is blank in this font.
+    for (const char* letter : {" ", "\xCE\xA9", "\xE2\x98\x80"}) {
+        EXPECT_EQ(Ink(fonts.Render(font, letter, Edges::Crisp)), 0) << letter;
+        EXPECT_EQ(fonts.Measure(font, letter).width, 20) << letter;
+    }
+}
+
+TEST(QtFontEngine, AddingTheSameFontTakesNoMemory) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    Bytes file = test::SymbolFont("Coinlet Again");
+    file.resize(std::size_t{100} << 10);  // As large as fonts are; nobody reads the end.
+    const auto path = Write(folder, "again.ttf", file);
+    const auto show = [&] {
+        EXPECT_EQ(fonts.AddFontFile(path), "Coinlet Again");
+        EXPECT_EQ(Ink(fonts.Render({.name = "Coinlet Again", .size = 15}, "A", Edges::Crisp)), 100);
+    };
+    for (int i = 0; i < 20; ++i)
+        show();
+    const auto before = ::mallinfo2().uordblks;
+    constexpr std::size_t times = 1000;
+    for (std::size_t i = 0; i < times; ++i)
+        show();
+    EXPECT_LT(::mallinfo2().uordblks, before + times * 50) << "bytes";
 }
 
 TEST(QtFontEngine, AddsNothingThatIsNoFont) {
