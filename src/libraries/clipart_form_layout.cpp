@@ -68,6 +68,7 @@ void PlaceChanges(ClipartForm& form) {
     constexpr int firstTop = clipartTop + 36, pitch = buttonHeight + dialogGap;
     form.BWKnop.SetCaption("Remove");
     PlaceWithLabel(form.BWKnop, form.Label2, "All colors except Black", 2, firstTop);
+    form.HorKnop.SetCaption("");
     form.HorKnop.LoadPictures(3);
     form.HorKnop.SetPicture(ToolIconStrip(flipMenuTool));
     PlaceWithLabel(form.HorKnop, form.Label7, "Mirror", 1, firstTop + pitch);

@@ -1,7 +1,8 @@
-// The dialogs of the Library menu, on the screen: what goes to the canvas and the side panel, and a chart
-// that follows the pointer.
+// The dialogs of the Library menu, on the screen: what goes to the canvas and the side panel or floats there,
+// and a chart that follows the pointer.
 
 #include "started_program.h"
+#include "support/symbol_font.h"
 #include "surface/codecs.h"
 
 #include <filesystem>
@@ -94,6 +95,75 @@ TEST_F(ProgramLibraryDialogs, BackThatWasClickedGoesToTheSidePanel) {
     ASSERT_TRUE(MainIsInFront());
     EXPECT_TRUE(Shows(PlaceOf(form.InfoPic, 14, 340), BackColour(2)));
     EXPECT_TRUE(Shows(PlaceOf(form.InfoPic, 163, 489), BackColour(2)));
+}
+
+TEST_F(ProgramLibraryDialogs, ClipartFloatsOverTheCanvas) {
+    constexpr int clipartWidth = 330, clipartHeight = 360;
+    std::filesystem::remove_all(folder / "Cliparts");
+    std::filesystem::create_directory(folder / "Cliparts");
+    WritePicture("Cliparts/one.art", 5 * clipartWidth, clipartHeight, [](int x, int) {
+        return x % clipartWidth < clipartWidth / 2 ? BackColour(x / clipartWidth) : paper;
+    });
+    Start();
+    const QPoint corner = Open(form.ClipartGroot);
+    const QPoint thumbnails = corner + QPoint(12, 72), clipart = corner + QPoint(12, 208);
+    ASSERT_TRUE(Shows(thumbnails + QPoint(10, 60), BackColour(0)));
+    Click(thumbnails + QPoint(110 + 30, 60));
+    ASSERT_TRUE(Shows(clipart + QPoint(164, 359), BackColour(1)));
+    EXPECT_EQ(ColourAt(clipart + QPoint(165, 359)), paper);
+    // The slider's lower arrow, once: 111 pixels wide.
+    Click(corner + QPoint(360, 560));
+    ASSERT_TRUE(Shows(clipart + QPoint(54, 120), BackColour(1)));
+    EXPECT_NE(ColourAt(clipart + QPoint(111, 60)), paper);
+    // Mirrored, the colour is on the right.
+    Click(corner + QPoint(420, 294));
+    ASSERT_TRUE(Shows(clipart + QPoint(110, 120), BackColour(1)));
+    EXPECT_EQ(ColourAt(clipart + QPoint(10, 60)), paper);
+    Click(corner + QPoint(428, 554));
+    ASSERT_TRUE(MainIsInFront());
+    // Inside the frame of what floats.
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 110, 1 + 120), BackColour(1)));
+    EXPECT_EQ(ColourAt(PlaceOf(form.Pic, 10, 10)), paper);
+    Click(form.HoekKnop, 10, 10);
+    Choose(Front(), form.Paste[1]);
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 110, 1 + 120), BackColour(1)));
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 111, 1 + 120), paper));
+}
+
+TEST_F(ProgramLibraryDialogs, SymbolFloatsOverTheCanvas) {
+    std::filesystem::remove_all(folder / "Fonts");
+    std::filesystem::create_directory(folder / "Fonts");
+    const Bytes font = SymbolFont("Coinlet Squares");
+    folder.Write("Fonts/squares.ttf", std::string(font.begin(), font.end()));
+    Start();
+    Choose(OpenMenu(form.Bib), form.Symbolen);
+    const OpenWindow dialog = Front();
+    EXPECT_EQ(screen.TitleOf(dialog), "Symbols");
+    const QPoint strip = dialog.place.topLeft() + QPoint(24, 88);
+    ASSERT_TRUE(Shows(strip + QPoint(30, 40), paper));
+    Click(dialog.place.topLeft() + QPoint(320, 38));
+    // An em is 80 pixels: squares of 40, the first one from column 20 and row 24 on.
+    constexpr QRgb ink = 0xFF000000;
+    ASSERT_TRUE(Shows(strip + QPoint(20, 24), ink));
+    EXPECT_TRUE(Comes([&] { return screen.TitleOf(dialog) == "True Type Symbols (7520)"; }));
+    EXPECT_EQ(ColourAt(strip + QPoint(19, 24)), paper);
+    EXPECT_EQ(ColourAt(strip + QPoint(59, 63)), ink);
+    // The arrow at the right end, once: one symbol on.
+    Click(strip + QPoint(545, 218 + 6 + 10));
+    MoveTo(strip + QPoint(15, 20));
+    Press();
+    MoveTo(strip + QPoint(40, 50));
+    MoveTo(strip + QPoint(64, 69));
+    Release();
+    Click(dialog.place.topLeft() + QPoint(400, 370));
+    ASSERT_TRUE(MainIsInFront());
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 5, 1 + 4), ink));
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 44, 1 + 43), ink));
+    EXPECT_EQ(ColourAt(PlaceOf(form.Pic, 1 + 4, 1 + 4)), paper);
+    Click(form.HoekKnop, 10, 10);
+    Choose(Front(), form.Paste[2]);
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 5, 1 + 4), ink));
+    EXPECT_TRUE(Shows(PlaceOf(form.Pic, 1 + 45, 1 + 43), paper));
 }
 
 TEST_F(ProgramLibraryDialogs, GlitterChartFollowsThePointer) {
