@@ -12,6 +12,18 @@
 
 namespace coinlet {
 
+namespace {
+
+/// Outlines end within this distance, in pixels: far beyond every screen, and near enough for the toolkit's
+/// arithmetic. A user who types a size of many digits sees what he would see of a figure that large: nothing.
+constexpr int reach = 1 << 14;
+
+int Place(double pixels) {
+    return std::clamp(RoundHalfEven(pixels), -reach, reach);
+}
+
+}  // namespace
+
 QRect Outlines::Look::Bounds() const {
     const QRect bounds(QPoint(std::min(x1, x2), std::min(y1, y2)),
                        QPoint(std::max(x1, x2), std::max(y1, y2)));
@@ -49,19 +61,19 @@ Outlines::Look Outlines::LookOf(const Control& control) {
     if (control.Kind() == ControlKind::Line) {
         const auto& line = static_cast<const LineShape&>(control);
         look.figure = Figure::Line;
-        look.x1 = RoundHalfEven(line.X1 / unit);
-        look.y1 = RoundHalfEven(line.Y1 / unit);
-        look.x2 = RoundHalfEven(line.X2 / unit);
-        look.y2 = RoundHalfEven(line.Y2 / unit);
+        look.x1 = Place(line.X1 / unit);
+        look.y1 = Place(line.Y1 / unit);
+        look.x2 = Place(line.X2 / unit);
+        look.y2 = Place(line.Y2 / unit);
         look.width = std::max(1, line.BorderWidth);
         look.border = line.BorderColor;
         return look;
     }
     const auto& shape = static_cast<const Shape&>(control);
-    int width = control.PixelWidth();
-    int height = control.PixelHeight();
-    look.x1 = RoundHalfEven(shape.Left() / unit);
-    look.y1 = RoundHalfEven(shape.Top() / unit);
+    int width = std::min(control.PixelWidth(), 2 * reach);
+    int height = std::min(control.PixelHeight(), 2 * reach);
+    look.x1 = Place(shape.Left() / unit);
+    look.y1 = Place(shape.Top() / unit);
     if (shape.Form == ShapeForm::Circle) {
         // The largest circle about the middle of the box.
         const int side = std::min(width, height);

@@ -92,6 +92,25 @@ TEST_F(Controls, FollowTheFormAfterEachEvent) {
     });
 }
 
+// A shape may be as large as any number that a user types; of the largest nothing is seen.
+TEST_F(Controls, MonstrousShapesAreNoHarm) {
+    int step = 0;
+    form.OkKnop.Click = [&] {
+        constexpr double sizes[] = {1e9, 1e300, -1e300, 70000, 0, 30};
+        const double size = sizes[step++];
+        form.Shape1.Form = ShapeForm::Circle;
+        form.Shape1.Move(100 - size, 100 - size, 2 * size, 2 * size);
+        form.Label1.Caption = std::to_string(step);
+    };
+    Run(form, [&](User& user) {
+        for (int i = 1; i <= 6; ++i) {
+            user.Click(form.OkKnop, 40, 14);
+            EXPECT_TRUE(user.Sees([&] { return form.Label1.Caption == std::to_string(i); }));
+            EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 70, 100)), i < 6 ? white : RGB(200, 0, 0));
+        }
+    });
+}
+
 TEST_F(Controls, ButtonHoversPressesAndClicks) {
     Run(form, [&](User& user) {
         user.MoveTo(user.PlaceOf(form.OkKnop, 40, 14));

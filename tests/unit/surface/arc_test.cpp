@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <numbers>
 #include <random>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -106,16 +107,39 @@ TEST_F(ArcTest, TwoHalvesMakeTheWhole) {
     }
 }
 
+// Inverted, an arc is the pixels that the copy pen draws, each inverted once; a second time undoes it. With
+// every pen, starts after ends, ends on the axes, centres outside and radii from none to far beyond.
 TEST_F(ArcTest, InvertedTwiceAnArcUndoesItself) {
-    Surface surface = Blank(41, 41);
+    const std::vector<double> angles{0, 0.5 * pi, pi, 1.5 * pi, 2 * pi, 6.2831855, 0.3, 4};
+    const struct {
+        double x, y, radius;
+    } circles[] = {{30, 30, 20}, {30, 30, 0}, {30, 30, 1}, {-9, 75, 60}, {30, 5030, 5000}, {-4970, 30, 5000}};
+    Surface surface = Blank(61, 61);
     surface.Line(5, 5, 25, 30, RGB(200, 100, 50), Box::Filled);
     const Image before = surface.Image();
-    surface.DrawMode = invertPen;
-    surface.DrawWidth = 3;
-    surface.Circle(20, 20, 15, black, ArcAngles{1, 5});
-    EXPECT_NE(surface.Image(), before);
-    surface.Circle(20, 20, 15, black, ArcAngles{1, 5});
-    EXPECT_EQ(surface.Image(), before);
+    for (int pen = 1; pen <= 10; ++pen) {
+        for (const auto& circle : circles) {
+            for (const double start : angles) {
+                for (const double end : angles) {
+                    const ArcAngles arc{start, end};
+                    Surface drawn = Blank(61, 61);
+                    surface.DrawWidth = drawn.DrawWidth = pen;
+                    drawn.Circle(circle.x, circle.y, circle.radius, black, arc);
+                    surface.DrawMode = invertPen;
+                    surface.Circle(circle.x, circle.y, circle.radius, black, arc);
+                    for (int y = 0; y < 61; ++y) {
+                        for (int x = 0; x < 61; ++x) {
+                            const Pixel was = before.Shared()->Row(y)[x];
+                            const Pixel is = drawn.Point(x, y) == black ? was ^ ~spareByte : was;
+                            ASSERT_EQ(surface.Pixels().Row(y)[x], is) << x << ", " << y << " pen " << pen;
+                        }
+                    }
+                    surface.Circle(circle.x, circle.y, circle.radius, black, arc);
+                    ASSERT_EQ(surface.Image(), before) << pen << ": " << start << " to " << end;
+                }
+            }
+        }
+    }
 }
 
 }  // namespace
