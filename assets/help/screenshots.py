@@ -9,6 +9,7 @@ installs. What the program can't do yet is told and left out; the manuals then h
 `assets/make.py help` makes the manuals with the new pictures.
 """
 
+import contextlib
 import pathlib
 import sys
 import tempfile
@@ -59,7 +60,9 @@ DIALOGS = {
     "cliparts": ("ClipartGroot", [("click", "ClipartForm.Pic", 170, 60)]),
     "symbols": ("Symbolen", [("click", "SymbolForm.InstalKnop")]),
     "polygon": ("Knop(3)", []),
-    "arc": ("Knop(4)", []),
+    "arc": ("Knop(4)", [("click", "ArcForm.Pic", x, y) for x, y in ((250, 280), (400, 250), (130, 120))]),
+    "arc_curves": ("Knop(4)", [("click", "ArcForm.Option1(3)", 8, 10)] + [
+        ("click", "ArcForm.Pic", x, y) for x, y in ((70, 400), (110, 80), (330, 60), (430, 380))]),
     "curved_text": ("Knop(7)", [("click", "CircelText.DrawKnop")]),
     "remove": ("Knop(10)", [("click", "RemoveForm.Check2", 8, 8), ("point", "RemoveForm.Pic", 250, 152)]),
     "replace": ("Knop(11)", [("click", "ColorChange.Combo1"), ("key", "Home", "Down", "Down", "Down", "Down",
@@ -67,6 +70,10 @@ DIALOGS = {
                              ("click", "ColorChange.StartKnop"), ("point", "ColorChange.Pic", 250, 510)]),
     "pms": ("ColorLabel", [("click", "PMSForm.Combo1", 30, 10), ("key", "ctrl+a"), ("type", "186")]),
 }
+# Those that are taken over an empty canvas, since they show thin lines.
+ON_PAPER = ["arc", "arc_curves"]
+# Those of which a part is enough: its left, top, width and height.
+PARTS = {"arc_curves": (40, 30, 440, 420)}
 COLLECTION = ["CN-0104", "CN-0117", "CN-0230", "HL-2026-01", "HL-2026-02"]
 
 
@@ -157,7 +164,11 @@ class Camera:
             self.do(dialog, opened, step)
         if not steps or steps[-1][0] != "point":
             window.run("xdotool", "mousemove", *window.OUT_OF_THE_WAY)
-        self.keep(f"dialog_{name}", dialog.look())
+        look = dialog.look()
+        if name in PARTS:
+            left, top, width, height = PARTS[name]
+            look = look.crop((left, top, left + width, top + height))
+        self.keep(f"dialog_{name}", look)
         self.program.close_popups()
 
     def open_design(self):
@@ -249,23 +260,34 @@ def text_columns(main):
     return columns
 
 
+@contextlib.contextmanager
+def camera_before(folder, pictures):
+    """The program started anew, and somebody with a camera before it."""
+    camera = Camera(folder, pictures)
+    try:
+        yield camera
+    finally:
+        camera.program.end()
+
+
 def windows(folder, pictures):
     """Takes the pictures of the windows. Gives the names of those that can't be taken yet."""
     with window.screen():
-        camera = Camera(folder, pictures)
-        try:
+        with camera_before(folder, pictures) as camera:
             camera.open_design()
             camera.main_window()
             camera.menus()
             camera.popups()
             camera.screen_information()
             for name in DIALOGS:
-                camera.dialog(name)
+                if name not in ON_PAPER:
+                    camera.dialog(name)
             camera.paste_menu()
             camera.browser()
-        finally:
-            camera.program.end()
-    return camera.skipped
+        with camera_before(folder, pictures) as second:
+            for name in ON_PAPER:
+                second.dialog(name)
+    return camera.skipped + second.skipped
 
 
 def canvases(folder, stages):
