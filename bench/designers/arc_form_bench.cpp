@@ -16,6 +16,7 @@ constexpr int arcMode = 0, triangleMode = 1, curveMode = 3, polygonMode = 4;
 
 /// Letters of Qt need an application.
 void StartToolkit() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     static int count = 1;
     static char name[] = "bench";
     static char* arguments[] = {name, nullptr};
