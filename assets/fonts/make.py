@@ -1,4 +1,5 @@
-"""The symbol fonts: pictures of the freely licensed font Symbola on the keys of the letters.
+"""The symbol fonts: pictures of the freely licensed font Symbola on the keys of the letters, and two fonts of our own
+(`own.py`).
 
 Each font has a picture on every printable character from "!" to "~"; the blank stays blank. The pictures come
 as TrueType outlines without hinting, in a Unicode table on the plain codes, which prints alike everywhere.
@@ -13,6 +14,7 @@ from fontTools.ttLib import TTFont
 from fontTools.ttLib.tables._c_m_a_p import CmapSubtable
 from PIL import Image, ImageDraw, ImageFont
 
+from fonts import own
 from fonts.themes import THEMES
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -23,6 +25,7 @@ COPYRIGHT, FAMILY, STYLE, UNIQUE, FULL, VERSION, POSTSCRIPT, LICENCE = 0, 1, 2, 
 LARGEST_OVERHANG = 40  # units of the font; what stands out further would be cut off
 TERMS = ("Pictures from Symbola by George Douros: free for any use; may be opened, edited, modified, "
          "regenerated, packaged and redistributed.")
+OWN_COPYRIGHT = "Drawn for Coinlet Designer; letters and figures from Symbola by George Douros, free for any use."
 WINDOWS, MACINTOSH = (3, 1, 0x409), (1, 0, 0)
 
 
@@ -100,6 +103,9 @@ def make(data):
         font = reduced(theme)
         rename(font, f"Tag {theme}")
         font.save(folder / f"{theme}.ttf")
+    source = TTFont(SOURCE, recalcTimestamp=False)
+    for theme in own.FONTS:
+        own.built(theme, source, f"Tag {theme}", OWN_COPYRIGHT).save(folder / f"{theme}.ttf")
     shutil.copyfile(HERE / "LICENCE.txt", folder / "LICENCE.txt")
 
 
