@@ -16,9 +16,9 @@
 #include "tools/gesture_engine.h"
 #include "tools/hole_tool.h"
 #include "tools/image_browser.h"
-#include "tools/info_panel_rows.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
+#include "tools/side_panel_rows.h"
 #include "tools/text_tool.h"
 #include "tools/tool_strip.h"
 
@@ -59,7 +59,7 @@ struct Application::House {
     GestureEngine gestures{context};
     FloatingClip clip{context};
     FlipMenu flips{context};
-    InfoPanelRows panelRows{context};
+    SidePanelRows panelRows{context};
     FilterMenu filters{context, filterCore};
 };
 

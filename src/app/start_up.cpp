@@ -5,13 +5,13 @@
 #include "colour/pms_table.h"
 #include "core/about.h"
 #include "core/context.h"
-#include "core/info_panel.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
 #include "core/rulers.h"
 #include "core/settings.h"
+#include "core/side_panel.h"
 #include "core/unfinished.h"
 #include "tools/image_browser.h"
 
@@ -46,8 +46,8 @@ void PrepareCanvas(Context& context) {
 }
 
 void PreparePanel(Context& context) {
-    PrintInfoHeader(context.main);
-    DrawInfoRows(context.main, infoTextAtStart);
+    PrintSidePanelHeader(context.main.TopInfoPic.surface);
+    DrawEmptyRows(context.main.InfoPic.surface, rowTextAtStart);
 }
 
 void ShowStartPicture(Context& context) {

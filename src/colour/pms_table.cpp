@@ -14,11 +14,6 @@ namespace {
 
 constexpr std::string_view tableFile = "\\Data\\PMS-Colors.txt";
 
-// Of the name beside a swatch of the side panel, in pixels.
-constexpr int nameLeft = 44, nameRight = 180, nameHeight = 20;
-constexpr int textInset = 1, textDrop = 4;
-constexpr Colour nameColour = RGB(50, 50, 50);
-
 }  // namespace
 
 void LoadPmsColors(Context& context) {
@@ -65,19 +60,6 @@ std::string PmsColourName(const ListBox& table, const std::string& red, const st
     const int found = FindPmsColour(table, red, green, blue);
     if (found >= 0) return "PMS " + PmsCodeOf(table.List(found));
     return "RGB " + red + "," + green + "," + std::to_string(blue);
-}
-
-void PrintPmsLabel(Context& context, const std::string& red, const std::string& green, std::int16_t blue,
-                   int row) {
-    const ListBox& table = context.main.PMSlist;
-    if (table.ListCount() == 0) return;
-    Surface& panel = context.main.InfoPic.surface;
-    panel.Line(nameLeft, row, nameRight, row + nameHeight, white, Box::Filled);
-    panel.CurrentX = static_cast<float>(nameLeft + textInset);
-    panel.CurrentY = static_cast<float>(row + textDrop);
-    panel.FontSize = 8;
-    panel.ForeColor = nameColour;
-    panel.Print(PmsColourName(table, red, green, blue));
 }
 
 }  // namespace coinlet

@@ -47,9 +47,5 @@ int FindPmsColour(const ListBox& table, std::string_view red, std::string_view g
 /// What a colour is called: "PMS " and its code, or "RGB " and its channels if the table hasn't got it.
 std::string PmsColourName(const ListBox& table, const std::string& red, const std::string& green,
                           std::int16_t blue);
-/// Prints that name on the side panel, in the row that starts at the height `row` in pixels. With an empty
-/// table the row stays as it is.
-void PrintPmsLabel(Context& context, const std::string& red, const std::string& green, std::int16_t blue,
-                   int row);
 
 }  // namespace coinlet

@@ -2,6 +2,7 @@
 
 #include "controls/house_colours.h"
 #include "core/main_form.h"
+#include "core/side_panel.h"
 #include "core/stock_pictures.h"
 
 #include <array>
@@ -125,10 +126,13 @@ void LayOutCanvas(MainForm& main) {
     main.TextLabel.AutoSize = true;
     main.TextLabel.Visible = false;
 
-    main.TopInfoPic.Move(8010, 270, 2670, 300);
+    main.TopInfoPic.Move(8010, 270, Twips(sidePanelWidth), Twips(rulerHeight));
     main.TopInfoPic.surface.SetBackColor(formColour);
-    main.InfoPic.Move(8010, 570, 2670, 7500);
-    main.Label16.Move(8010 + Twips(14), 570 + Twips(340), Twips(150), Twips(150));
+    main.InfoPic.Move(8010, 570, Twips(sidePanelWidth), Twips(sidePanelHeight));
+    // Over the back, which one doesn't need while one picks colours.
+    main.Label16.Move(main.InfoPic.Left() + Twips(sidePanelBackLeft),
+                      main.InfoPic.Top() + Twips(sidePanelBackTop), Twips(sidePanelBackSide),
+                      Twips(sidePanelBackSide));
     main.Label16.Transparent = false;
     main.Label16.BackColor = noteColour;
     main.Label16.Visible = false;

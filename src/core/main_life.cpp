@@ -2,10 +2,10 @@
 
 #include "base/clock.h"
 #include "core/context.h"
-#include "core/info_panel.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/settings.h"
+#include "core/side_panel.h"
 #include "core/text_keys.h"
 #include "core/undo.h"
 
@@ -81,7 +81,7 @@ void MainLife::FileNew_Click() {
     main.Label2.Caption = fileNameCaption;
     main.List2.Clear();
     main.InfoPic.surface.SetPicture({});
-    DrawInfoRows(main, infoTextAfterNew);
+    DrawEmptyRows(main.InfoPic.surface, rowTextAfterNew);
     main.Label16.Visible = false;
     session.ToolCode = nothingArmed;
     ShowHint(context_, key::ready);

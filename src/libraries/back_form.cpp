@@ -6,6 +6,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/row_file.h"
+#include "core/side_panel.h"
 #include "core/text_keys.h"
 #include "libraries/back_form_layout.h"
 #include "surface/codecs.h"
@@ -19,10 +20,9 @@ namespace coinlet {
 namespace {
 
 constexpr int firstCollection = 1;
-constexpr int cellSide = 150, cellsARow = 4;  // pixels
+constexpr int cellSide = sidePanelBackSide, cellsARow = 4;  // pixels
 constexpr double rowWidth = cellSide * cellsARow;
 constexpr Rectangle oneCell{0, 0, cellSide, cellSide};
-constexpr Rectangle placeOnPanel{14, 340, cellSide, cellSide};
 
 fs::path FileOf(const Context& context, int collection, const std::string& extension) {
     return Beneath(context.services.applicationFolder,
@@ -118,7 +118,7 @@ void BackForm::Pic_MouseDown(float x, float y) {
 void BackForm::ExportKnop_Click() {
     MainForm& main = context_.main;
     main.Label16.Visible = false;
-    main.InfoPic.surface.PaintPicture(Orgineel.surface.Image(), placeOnPanel, oneCell);
+    PaintBack(main.InfoPic.surface, Orgineel.surface.Image());
     CloseDialog(context_, *this);
 }
 

@@ -3,6 +3,7 @@
 #include "controls/edge.h"
 #include "controls/placing.h"
 #include "core/dialog.h"
+#include "core/side_panel.h"
 #include "libraries/back_form.h"
 
 namespace coinlet {
@@ -11,7 +12,7 @@ namespace {
 
 // All in pixels.
 constexpr int margin = dialogMargin;
-constexpr int rowWidth = 600, cellSide = 150;
+constexpr int cellSide = sidePanelBackSide, rowWidth = 4 * cellSide;
 constexpr int formWidth = rowWidth + 2 * margin;
 constexpr int optionsTop = 40, rowTop = 72, sliderTop = rowTop + cellSide + 4, sliderHeight = 20;
 constexpr int chosenTop = sliderTop + sliderHeight + 16;

@@ -3,6 +3,7 @@
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/main_form.h"
+#include "core/side_panel.h"
 #include "core/stock_pictures.h"
 #include "core/undo.h"
 #include "libraries/border_form_layout.h"
@@ -160,17 +161,7 @@ void BorderForm::ExportKnop_Click() {
     if (Check1.Value()) StampHole(Orgineel.surface, 2, HoleColumn());
     canvas.PaintPicture(Orgineel.surface.Image(), fullSize, fullSize, Check2.Value() ? SRCAND : SRCCOPY);
     CloseDialog(context_, *this);
-    PrintMaterial();
-}
-
-void BorderForm::PrintMaterial() {
-    Surface& panel = context_.main.InfoPic.surface;
-    panel.Line(0, 15, 178, 45, white, Box::Filled);
-    panel.FontSize = 12;
-    panel.ForeColor = black;
-    panel.CurrentX = 19;
-    panel.CurrentY = 20;
-    panel.Print(context_.session.MaterialName);
+    PrintMetal(main.InfoPic.surface, context_.session.MaterialName);
 }
 
 void BorderForm::CancelKnop_Click() {

@@ -60,7 +60,6 @@ private:
     int HoleColumn() const;
     /// Stamps the ring from `column` on the border, at `scale` times the size and place of the preview.
     void StampHole(Surface& border, int scale, int column) const;
-    void PrintMaterial();
 
     Context& context_;
     std::size_t borderMetal_ = 0;

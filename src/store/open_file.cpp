@@ -8,6 +8,7 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
+#include "core/side_panel.h"
 #include "core/text_keys.h"
 #include "core/undo.h"
 #include "store/composed_picture.h"
@@ -24,8 +25,6 @@ namespace {
 constexpr std::string_view designPattern = "*.pat";
 
 constexpr double previewSide = 100;
-/// The side panel's size on the main form, in pixels; in the picture of a design it has the same width.
-constexpr double panelWidth = 178, panelHeight = 500;
 
 }  // namespace
 
@@ -79,7 +78,7 @@ void OpenFile::List1_Click() {
     if (const auto picture = LoadPicture(PathOf(List1.Text(), designPicture), context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
-    const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - panelWidth, BackPic.surface.ScaleHeight()};
+    const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - sidePanelWidth, BackPic.surface.ScaleHeight()};
     Image1.surface.PaintPicture(BackPic.surface.Image(), {0, 0, previewSide, previewSide}, shown);
 }
 
@@ -100,8 +99,7 @@ void OpenFile::OpenChosen() {
     main.Label2.Caption = fileNameCaption + name;
     session.DesignChanged = false;
     ShowHint(context_, key::ready);
-    main.InfoPic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, panelWidth, panelHeight},
-                                      {composedPanelLeft, 0, panelWidth, BackPic.surface.ScaleHeight()});
+    TakeSidePanel(BackPic.surface.Image(), main.InfoPic.surface);
     ReadDesignInfoText(context_, name);
 }
 

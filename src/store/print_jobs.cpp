@@ -5,6 +5,7 @@
 #include "controls/file_boxes.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/side_panel.h"
 #include "store/design_files.h"
 #include "surface/codecs.h"
 #include "surface/printer.h"
@@ -118,7 +119,8 @@ void PrintDesign(const Context& context, double copies, bool withInfoText) {
         printer.Print(600, 600, headerFont, headerColour,
                       Header(context.services.clock, main.Label2.Caption));
         printer.PaintPicture(main.Pic.surface.Image(), {600, 1500, 9000, 9000});
-        printer.PaintPicture(main.InfoPic.surface.Image(), {11100, 900, 2670, 7500});
+        printer.PaintPicture(main.InfoPic.surface.Image(),
+                             {11100, 900, sidePanelWidth * twipsPerPixel, sidePanelHeight * twipsPerPixel});
         printer.Print(13620, 6990, headerFont, headerColour, "Coin Back");
         if (withInfoText) PrintInfoText(printer, main.List2);
         printer.NewPage();

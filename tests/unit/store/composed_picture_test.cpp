@@ -47,5 +47,27 @@ TEST(ComposePicture, DrawsOverTheCanvasAndThePanelWhereTheyAreTooLarge) {
     EXPECT_EQ(target.Point(499, 330), canvas.At(499, 330));
 }
 
+TEST(TakeSidePanel, GivesThePanelThatWasComposed) {
+    const test::BlockFonts fonts;
+    const Image panel = Pattern(178, 500, 2);
+    Surface design(fonts, 700, 500), taken(fonts, 178, 500);
+    ComposePicture(Pattern(500, 500, 1), panel, design);
+    TakeSidePanel(design.Image(), taken);
+    for (int y = 0; y < 500; ++y)
+        for (int x = 0; x < 178; ++x)
+            ASSERT_EQ(taken.Point(x, y), y == 330 ? rule : panel.At(x, y)) << x << " " << y;
+}
+
+TEST(TakeSidePanel, StretchesThatOfALowerPictureAndLeavesWhatANarrowOneLacks) {
+    const test::BlockFonts fonts;
+    Surface taken(fonts, 178, 500);
+    taken.SetBackColor(ground);
+    const Image narrow = Pattern(600, 250, 1);
+    TakeSidePanel(narrow, taken);
+    EXPECT_EQ(taken.Point(0, 0), narrow.At(510, 0));
+    EXPECT_EQ(taken.Point(89, 499), narrow.At(599, 249));
+    EXPECT_EQ(taken.Point(90, 499), ground);
+}
+
 }  // namespace
 }  // namespace coinlet
