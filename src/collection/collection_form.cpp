@@ -3,7 +3,7 @@
 #include "base/files.h"
 #include "base/text.h"
 #include "collection/collection_file.h"
-#include "controls/placing.h"
+#include "collection/collection_form_layout.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
@@ -15,9 +15,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr int pictureWidth = 211, pictureHeight = 148;
-constexpr Rectangle wholePicture{0, 0, pictureWidth, pictureHeight};
 
 fs::path CatalogueFile(const Context& context) {
     return Beneath(context.services.applicationFolder, "\\Collection\\Collection.col");
@@ -34,8 +31,7 @@ std::optional<fs::path> PictureFile(const Context& context, const std::string& n
 
 CollectionForm::CollectionForm(Context& context)
     : Form(context.services.ForForms(), "CollectionForm"), context_(context) {
-    LayOut();
-    LayOutHelp();
+    LayOutCollectionForm(*this);
     List1.Click = [this] { List1_Click(); };
     Text1.KeyDown = [this](int code, int) {
         if (code == keyReturn && AddKnop.Enabled()) AddKnop_Click();
@@ -46,63 +42,6 @@ CollectionForm::CollectionForm(Context& context)
     HelpKnop.Click = [this] { HelpKnop_Click(); };
     OkKnop.Click = [this] { OkKnop_Click(); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
-}
-
-void CollectionForm::LayOut() {
-    constexpr int margin = 12, column = 215, columnWidth = 213, buttonHeight = 24;
-    Caption = "My Collection";
-    Width = 440 * twipsPerPixel;
-    Height = 400 * twipsPerPixel;
-    List1.SetSorted(true);
-    List1.ForeColor = RGB(230, 230, 200);
-    List1.BackColor = RGB(0, 0, 60);
-    PlaceByPixels(List1, margin, margin, 192, 340);
-    PlaceByPixels(Label5, margin, 369, 192, 16);
-
-    Label1.Border = true;
-    Label1.Caption = "\r\n\r\n\r\n\r\n             No Image available!";
-    PlaceByPixels(Label1, column, margin, columnWidth, pictureHeight + 2);
-    PlaceByPixels(Image1, column + 1, margin + 1, pictureWidth, pictureHeight);
-    Image1.Visible = false;
-    BackPic.Visible = false;
-    BackPic.surface.AutoSize = true;
-
-    Label2.Caption = "ID Number";
-    PlaceByPixels(Label2, column, 176, columnWidth, 16);
-    Text1.ForeColor = RGB(230, 230, 190);
-    PlaceByPixels(Text1, column, 194, columnWidth, 22);
-    int top = 228;
-    for (VistaButton* button : {&AddKnop, &ChangeKnop, &DelKnop}) {
-        PlaceByPixels(*button, column, top, columnWidth, buttonHeight);
-        top += 32;
-    }
-    AddKnop.SetCaption("Add");
-    ChangeKnop.SetCaption("Change");
-    DelKnop.SetCaption("Delete");
-
-    constexpr int bottom = 364, pitch = 74;
-    int left = column;
-    for (VistaButton* button : {&HelpKnop, &OkKnop, &CancelKnop}) {
-        PlaceByPixels(*button, left, bottom, 65, buttonHeight);
-        left += pitch;
-    }
-    HelpKnop.SetCaption("Help");
-    OkKnop.SetCaption("Save");
-    CancelKnop.SetCaption("Cancel");
-}
-
-void CollectionForm::LayOutHelp() {
-    constexpr Colour ground = RGB(0, 40, 0);
-    Label6.Transparent = false;
-    Label6.BackColor = ground;
-    Text4.MultiLine = true;
-    Text4.Locked = true;
-    Text4.ForeColor = RGB(230, 230, 200);
-    Text4.BackColor = ground;
-    for (Control* panel : {static_cast<Control*>(&Label6), static_cast<Control*>(&Text4)})
-        panel->Move(List1.Left(), List1.Top(), List1.Width(), List1.Height());
-    Label6.Visible = false;
-    Text4.Visible = false;
 }
 
 void CollectionForm::Form_Load() {
@@ -152,7 +91,8 @@ void CollectionForm::ShowPictureOf(const std::string& number) {
         BackPic.surface.SetPicture(*picture);
     const Image loaded = BackPic.surface.Image();
     if (loaded.Empty()) return ShowNoPicture();
-    Image1.surface.PaintPicture(loaded, wholePicture);
+    Image1.surface.PaintPicture(loaded,
+                                Rectangle{0, 0, Image1.surface.ScaleWidth(), Image1.surface.ScaleHeight()});
     Image1.Visible = true;
 }
 

@@ -39,8 +39,6 @@ public:
     void Form_Unload(bool& cancel) override;
 
 private:
-    void LayOut();
-    void LayOutHelp();
     void LoadCollection();
     void SaveCollection();
     void List1_Click();

@@ -63,6 +63,7 @@ CircelText::CircelText(Context& context)
     DrawKnop.Click = [this] { DrawKnop_Click(); };
     ExportKnop.Click = [this] { ExportToCanvas(context_, *this, Pic.surface.Image()); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
+    DefaultButton = &DrawKnop;
 }
 
 void CircelText::Form_Load() {

@@ -97,7 +97,6 @@ void LayOutCircelText(CircelText& form) {
     PlaceMeasures(form);
     PlaceStyle(form);
     PlaceButtons(form);
-    form.DefaultButton = &form.DrawKnop;
 }
 
 }  // namespace coinlet

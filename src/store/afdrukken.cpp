@@ -1,30 +1,26 @@
 #include "store/afdrukken.h"
 
 #include "base/numbers.h"
-#include "controls/placing.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/main_form.h"
 #include "core/plaatjes.h"
+#include "store/afdrukken_layout.h"
 #include "store/print_jobs.h"
 #include "surface/printer.h"
-
-#include <array>
 
 namespace coinlet {
 
 namespace {
 
 enum Job { currentDesign, allDesigns, allCliparts };
-constexpr std::array jobCaptions{"Print Current Design", "Print All Designs", "Print All Cliparts"};
 
-constexpr int previewSide = 140;
 constexpr int mostCopiesListed = 20;
 
 }  // namespace
 
 Afdrukken::Afdrukken(Context& context) : Form(context.services.ForForms(), "Afdrukken"), context_(context) {
-    LayOut();
+    LayOutAfdrukken(*this);
     Option1[currentDesign].SetValue(true);
     Check1.SetValue(true);
     Option1.Bind(&OptionButton::Click, [this](int index) { Option1_Click(index); });
@@ -33,38 +29,6 @@ Afdrukken::Afdrukken(Context& context) : Form(context.services.ForForms(), "Afdr
     PrintKnop.Click = [this] { PrintKnop_Click(); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DefaultButton = &PrintKnop;
-}
-
-void Afdrukken::LayOut() {
-    constexpr int margin = 12, column = 168, optionPitch = 24;
-    Width = 360 * twipsPerPixel;
-    Height = 246 * twipsPerPixel;
-    Label2.Border = true;
-    PlaceByPixels(Label2, margin, margin, previewSide + 4, previewSide + 4);
-    PlaceByPixels(Picture1, margin + 2, margin + 2, previewSide, previewSide);
-    for (int i = Option1.First(); i <= Option1.Last(); ++i) {
-        Option1[i].Caption = jobCaptions.at(static_cast<std::size_t>(i));
-        PlaceByPixels(Option1[i], column, margin + i * optionPitch, 180, 20);
-    }
-    Label5.Caption = "Copy's";
-    PlaceByPixels(Label5, column, 104, 48, 16);
-    PlaceByPixels(Combo1, column + 52, 100, 56, 22);
-    Check1.Caption = "Print including info text";
-    PlaceByPixels(Check1, column, 134, 180, 20);
-    Label1.Caption = "Printer Choice";
-    PlaceByPixels(Label1, margin, 166, 144, 16);
-    PlaceByPixels(Combo2, margin, 184, 336, 22);
-    for (ComboBox* combo : {&Combo1, &Combo2}) {
-        combo->ForeColor = black;
-        combo->BackColor = RGB(240, 210, 210);
-    }
-    PrintKnop.SetCaption("Print");
-    PlaceByPixels(PrintKnop, 180, 214, 80, 24);
-    CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(CancelKnop, 268, 214, 80, 24);
-    File1.Visible = false;
-    Picture2.Visible = false;
-    Picture2.surface.AutoSize = true;
 }
 
 void Afdrukken::Form_Load() {
@@ -81,8 +45,9 @@ void Afdrukken::Form_Load() {
 }
 
 void Afdrukken::ShowCanvas() {
-    Picture1.surface.PaintPicture(context_.main.Pic.surface.Image(),
-                                  Rectangle{0, 0, previewSide, previewSide});
+    Picture1.surface.PaintPicture(
+        context_.main.Pic.surface.Image(),
+        Rectangle{0, 0, Picture1.surface.ScaleWidth(), Picture1.surface.ScaleHeight()});
 }
 
 void Afdrukken::ShowPrinterInTitle() {

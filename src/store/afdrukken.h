@@ -37,7 +37,6 @@ public:
     void Form_Load() override;
 
 private:
-    void LayOut();
     void Option1_Click(int index);
     void PrintKnop_Click();
     /// Makes the printer of that name the current one; an unknown name changes nothing.

@@ -1,8 +1,6 @@
 #include "store/open_file.h"
 
 #include "base/files.h"
-#include "controls/house_colours.h"
-#include "controls/placing.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
@@ -14,6 +12,7 @@
 #include "store/composed_picture.h"
 #include "store/design_files.h"
 #include "store/info_text.h"
+#include "store/open_file_layout.h"
 #include "surface/codecs.h"
 
 #include <string>
@@ -24,40 +23,15 @@ namespace {
 
 constexpr std::string_view designPattern = "*.pat";
 
-constexpr double previewSide = 100;
-
 }  // namespace
 
 OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFile"), context_(context) {
-    LayOut();
+    LayOutOpenFile(*this);
     List1.Click = [this] { List1_Click(); };
     List1.DblClick = [this] { OkKnop_Click(); };
     OkKnop.Click = [this] { OkKnop_Click(); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DelKnop.Click = [this] { DelKnop_Click(); };
-}
-
-void OpenFile::LayOut() {
-    Caption = "Open Coinlet";
-    Width = 304 * twipsPerPixel;
-    Height = 266 * twipsPerPixel;
-    PlaceByPixels(Label2, 8, 8, 288, 32);
-    PlaceByPixels(List1, 8, 44, 176, 180);
-    PlaceByPixels(Label1, 192, 44, 104, 104);
-    PlaceByPixels(Image1, 194, 46, 100, 100);
-    PlaceByPixels(DelKnop, 192, 156, 104, 24);
-    PlaceByPixels(OkKnop, 88, 232, 100, 24);
-    PlaceByPixels(CancelKnop, 196, 232, 100, 24);
-
-    List1.ForeColor = fileListTextColour;
-    List1.BackColor = fileListColour;
-    Label1.Border = true;
-    File1.Visible = false;
-    BackPic.Visible = false;
-    BackPic.surface.AutoSize = true;
-    OkKnop.SetCaption("Ok");
-    CancelKnop.SetCaption("Cancel");
-    DelKnop.SetCaption("Delete");
 }
 
 void OpenFile::Form_Load() {
@@ -79,7 +53,8 @@ void OpenFile::List1_Click() {
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
     const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - sidePanelWidth, BackPic.surface.ScaleHeight()};
-    Image1.surface.PaintPicture(BackPic.surface.Image(), {0, 0, previewSide, previewSide}, shown);
+    Image1.surface.PaintPicture(BackPic.surface.Image(),
+                                {0, 0, Image1.surface.ScaleWidth(), Image1.surface.ScaleHeight()}, shown);
 }
 
 void OpenFile::OpenChosen() {

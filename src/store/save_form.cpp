@@ -4,7 +4,6 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "controls/placing.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
@@ -14,6 +13,7 @@
 #include "store/composed_picture.h"
 #include "store/design_files.h"
 #include "store/info_text.h"
+#include "store/save_form_layout.h"
 #include "surface/codecs.h"
 
 #include <string>
@@ -23,8 +23,6 @@ namespace coinlet {
 namespace {
 
 constexpr int exportQuality = 100;
-constexpr int nameWidth = 299, nameHeight = 20;
-constexpr Colour dialogColour = RGB(170, 240, 240);
 constexpr Colour barColour = RGB(0, 240, 0);
 
 /// The scratch file of an export; it goes with this object. Another program may have an export under way with
@@ -53,40 +51,14 @@ private:
 }  // namespace
 
 SaveForm::SaveForm(Context& context) : Form(context.services.ForForms(), "SaveForm"), context_(context) {
+    LayOutSaveForm(*this);
     SaveKnop.Click = [this] { SaveKnop_Click(); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
     DefaultButton = &SaveKnop;
-    LayOut();
 }
 
 bool SaveForm::Exports() const {
     return context_.session.SaveMode == "JPG";
-}
-
-void SaveForm::LayOut() {
-    Width = 350 * twipsPerPixel;
-    Height = 100 * twipsPerPixel;
-    BackColor = dialogColour;
-    Text1.ForeColor = RGB(240, 240, 160);
-    Text1.BackColor = RGB(40, 40, 60);
-    PlaceByPixels(Text1, 12, 12, nameWidth, nameHeight);
-    PlaceByPixels(Bar, 12, 12, nameWidth, nameHeight);
-    Bar.surface.SetBackColor(RGB(64, 0, 0));
-    Bar.Visible = false;
-    Label1.Alignment = Alignment::Center;
-    PlaceByPixels(Label1, 312, 15, 36, 14);
-    Check1.Caption = "Save with PMS colors and Back";
-    Check1.BackColor = dialogColour;
-    PlaceByPixels(Check1, 12, 40, nameWidth, 18);
-    SaveKnop.SetCaption("Save");
-    PlaceByPixels(SaveKnop, 143, 64, 80, 24);
-    CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(CancelKnop, 231, 64, 80, 24);
-    for (PictureBox* composing : {&Orgineel, &BmpPic}) {
-        PlaceByPixels(*composing, 0, 0, composedWidth, composedHeight);
-        composing->surface.SetBackColor(white);
-        composing->Visible = false;
-    }
 }
 
 void SaveForm::Form_Load() {

@@ -32,7 +32,6 @@ public:
     void Form_Load() override;
 
 private:
-    void LayOut();
     void SaveKnop_Click();
     /// The two jobs; false if the user is to stay in the dialog.
     bool ExportJpeg();

@@ -25,8 +25,6 @@ public:
     void Form_Load() override;
 
 private:
-    void LayOut();
-    void DrawIcon();
     void OkKnop_Click();
 
     Context& context_;
