@@ -15,6 +15,7 @@ public:
     void OpenDocument(const std::string& target) override { documents.Add(target); }
     std::string UserName() const override { return "user"; }
     std::filesystem::path PictureFolder() const override { return places_.Pictures(); }
+    std::vector<std::string> StartingPlaces() const override { return {"/", places_.Out().string()}; }
 
     Record<std::string> documents;
 

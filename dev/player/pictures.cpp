@@ -22,7 +22,7 @@ std::string ShowSize(const Image& image) {
 }  // namespace
 
 std::optional<Image> PictureOf(const Element& element) {
-    if (const auto* const box = dynamic_cast<const PictureBox*>(&element)) return box->surface.Image();
+    if (const auto* const box = dynamic_cast<const PictureBox*>(&element)) return box->Image();
     if (const auto* const button = dynamic_cast<const VistaButton*>(&element)) return button->Face().Image();
     if (const auto* const stock = dynamic_cast<const StockPicture*>(&element)) return stock->Picture;
     return std::nullopt;
@@ -30,7 +30,7 @@ std::optional<Image> PictureOf(const Element& element) {
 
 bool SetPictureOf(Element& element, const Image& image) {
     if (auto* const box = dynamic_cast<PictureBox*>(&element)) {
-        box->surface.SetPicture(image);
+        box->SetPicture(image);
     } else if (auto* const button = dynamic_cast<VistaButton*>(&element)) {
         button->SetPicture(image);
     } else if (auto* const stock = dynamic_cast<StockPicture*>(&element)) {

@@ -50,8 +50,9 @@ void Click(ScriptRun& run, const Arguments& arguments) {
 
 int ReadButton(const Arguments& arguments) {
     const int button = arguments.Whole(1);
-    if (button < 0 || button > 2)
-        Fail("expected button 0 (none), 1 (left) or 2 (right), found " + std::to_string(button));
+    constexpr int known[] = {0, 1, 2, 4};
+    if (std::ranges::find(known, button) == std::end(known))
+        Fail("expected button 0 (none), 1 (left), 2 (right) or 4 (middle), found " + std::to_string(button));
     return button;
 }
 

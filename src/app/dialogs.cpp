@@ -16,6 +16,7 @@
 #include "libraries/back_form.h"
 #include "libraries/border_form.h"
 #include "libraries/clipart_form.h"
+#include "libraries/dialog_form.h"
 #include "libraries/symbol_form.h"
 #include "store/file_menu.h"
 #include "store/open_design.h"
@@ -32,6 +33,7 @@ namespace {
 constexpr std::array dialogs{
     DialogRow{"OpenFile", &MainForm::FileOpen, "", OpenDesign},
     DialogRow{"SaveForm", &MainForm::FileSave, "", SaveDesign},
+    DialogRow{"DialogForm", &MainForm::FileImport, "", OpenDialog<DialogForm>},
     DialogRow{"SaveForm", &MainForm::FileExport, "", ExportDesign},
     DialogRow{"Afdrukken", &MainForm::FilePrint, "", PrintDesigns},
     DialogRow{"TekstForm", &MainForm::BewerkenInformation, "", OpenDialog<TekstForm>},

@@ -16,6 +16,12 @@ std::string Time(const DateTime& moment, std::size_t hourWidth) {
 
 }  // namespace
 
+DateTime ToLocalTime(std::time_t moment) {
+    std::tm local{};
+    if (::localtime_r(&moment, &local) == nullptr) return {};
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+}
+
 std::string FormatDate(const DateTime& moment) {
     return Digits(moment.day, 2) + "-" + Digits(moment.month, 2) + "-" + Digits(moment.year, 4);
 }

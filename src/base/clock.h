@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <string>
 
 namespace coinlet {
@@ -18,6 +19,9 @@ public:
     virtual ~Clock() = default;
     virtual DateTime Now() const = 0;
 };
+
+/// A moment of the system in the time zone of the desktop; one beyond the calendar gives the first of year 0.
+DateTime ToLocalTime(std::time_t moment);
 
 /// "dd-mm-yyyy".
 std::string FormatDate(const DateTime& moment);

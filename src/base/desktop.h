@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace coinlet {
 
@@ -15,6 +16,9 @@ public:
     virtual std::string UserName() const = 0;
     /// The user's picture folder; it need not exist.
     virtual std::filesystem::path PictureFolder() const = 0;
+    /// The folders that one starts from in search of a file: the root of the file system first, the user's
+    /// home folder, what is mounted for him. Full paths, without a separator at the end.
+    virtual std::vector<std::string> StartingPlaces() const { return {"/"}; }
 };
 
 }  // namespace coinlet

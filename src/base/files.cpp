@@ -67,6 +67,12 @@ std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit) {
     return bytes;
 }
 
+std::optional<FileState> StateOfFile(const fs::path& path) {
+    struct stat state {};
+    if (!IsSystemPath(path) || ::stat(path.c_str(), &state) != 0) return std::nullopt;
+    return FileState{static_cast<std::uintmax_t>(state.st_size), state.st_mtime};
+}
+
 bool FileExists(const fs::path& path) {
     std::error_code error;
     return IsSystemPath(path) && fs::is_regular_file(path, error);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <optional>
 #include <span>
@@ -60,6 +61,14 @@ void RemoveStrays(const fs::path& folder);
 /// The bytes of a regular file (links are followed), or nothing if it is missing, unreadable, larger than
 /// `limit` bytes, or no regular file: a pipe is never opened, so nothing waits for its other end.
 std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit = std::size_t{1} << 30);
+
+/// How large a file is, and when it was last changed.
+struct FileState {
+    std::uintmax_t bytes = 0;
+    std::time_t changed = 0;
+};
+/// That of a file or folder (links are followed), or nothing if none can be seen there.
+std::optional<FileState> StateOfFile(const fs::path& path);
 
 /// True if a regular file stands there (links are followed).
 bool FileExists(const fs::path& path);

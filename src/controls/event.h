@@ -35,15 +35,16 @@ private:
     std::function<void(Arguments...)> handler_;
 };
 
-/// Press, move and release of the pointer: button (1 left, 2 right, 0 none), shift state (1 shift, 2 control,
-/// 4 alt, added), and the place: in the units of a picture's scale, or in pixels from another control's
-/// corner.
+/// Press, move and release of the pointer: button (1 left, 2 right, 4 middle, 0 none), shift state (1 shift,
+/// 2 control, 4 alt, added), and the place: in the units of a picture's scale, or in pixels from another
+/// control's corner.
 using PointerEvent = Event<int, int, float, float>;
 /// Key down and key up: key code and shift state. The codes of letters and digits are those of their
 /// capitals.
 using KeyEvent = Event<int, int>;
 
 /// Key codes that the program itself knows.
+constexpr int keyBackspace = 8;
 constexpr int keyReturn = 13;
 constexpr int keyEscape = 27;
 constexpr int keySpace = 32;

@@ -2,11 +2,8 @@
 
 #include "base/files.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <ranges>
-#include <sstream>
+#include <iterator>
+#include <system_error>
 
 namespace coinlet {
 
@@ -25,50 +22,11 @@ std::string PlainPath(const fs::path& path) {
     return plain.string();
 }
 
-/// The user's home folder, or the root if he has none.
-std::string HomeFolder() {
-    const char* home = std::getenv("HOME");
-    return home && IsFolder(home) ? PlainPath(home) : "/";
-}
-
-/// A field of the table of mounts: a backslash and three octal digits stand for a blank and its like.
-std::string UnescapeMount(std::string_view field) {
-    const auto isOctal = [](char c) { return c >= '0' && c <= '7'; };
-    std::string text;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        if (field[i] == '\\' && i + 3 < field.size() &&
-            std::ranges::all_of(field.substr(i + 1, 3), isOctal)) {
-            text += static_cast<char>((field[i + 1] - '0') * 64 + (field[i + 2] - '0') * 8 +
-                                      (field[i + 3] - '0'));
-            i += 3;
-        } else {
-            text += field[i];
-        }
-    }
-    return text;
-}
-
-std::string ReadMountTable() {
-    std::ostringstream table;
-    table << std::ifstream("/proc/self/mounts").rdbuf();
-    return table.str();
-}
-
 }  // namespace
 
-std::vector<std::string> RemovablePlaces(std::string_view mountTable) {
-    std::vector<std::string> places;
-    std::istringstream lines{std::string(mountTable)};
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream fields(line);
-        std::string device, point;
-        fields >> device >> point;
-        point = UnescapeMount(point);
-        if (point.starts_with("/media/") || point.starts_with("/mnt/")) places.push_back(point);
-    }
-    std::ranges::sort(places);
-    places.erase(std::unique(places.begin(), places.end()), places.end());
-    return places;
+bool LiesIn(std::string_view path, std::string_view folder) {
+    if (folder == "/") return path.starts_with('/');
+    return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
 FileListBox::FileListBox(Container& container, std::string_view name, int index)
@@ -103,17 +61,18 @@ void FileListBox::VisitProperties(PropertyVisitor& visitor) {
 }
 
 DirListBox::DirListBox(Container& container, std::string_view name, int index)
-    : ListBox(container, name, index), path_(HomeFolder()) {
+    : ListBox(container, name, index) {}
+
+bool DirListBox::StartWith(const std::string& path) {
+    if (path.empty() || !IsFolder(path)) return false;
+    path_ = PlainPath(path);
     FillRows();
+    return true;
 }
 
 void DirListBox::SetPath(const std::string& path) {
-    if (path.empty() || !IsFolder(path)) return;
-    const std::string plain = PlainPath(path);
-    const bool another = plain != path_;
-    path_ = plain;
-    FillRows();
-    if (another) Change();
+    const std::string before = path_;
+    if (StartWith(path) && path_ != before) Change();
 }
 
 void DirListBox::FillRows() {
@@ -134,11 +93,26 @@ void DirListBox::FillRows() {
     }
 }
 
+int DirListBox::DepthOf(int row) const {
+    if (!Rows().Contains(row)) return 0;
+    const fs::path target(targets_[static_cast<std::size_t>(row)]);
+    return static_cast<int>(std::distance(target.begin(), target.end())) - 1;
+}
+
 void DirListBox::UserActivates() {
     if (!Answers() || !Rows().Contains(ListIndex())) return;
     const std::string target = targets_[static_cast<std::size_t>(ListIndex())];
     ListBox::UserActivates();
-    if (Answers()) SetPath(target);
+    if (!Answers()) return;
+    if (target != path_) return SetPath(target);
+    // What lies in it may have changed, or may not have been shown yet; it may also be gone.
+    StartWith(target);
+    Change();
+}
+
+void DirListBox::KeyPressed(int code, int shift) {
+    ListBox::KeyPressed(code, shift);
+    if (code == keyBackspace && Answers() && !path_.empty()) SetPath(fs::path(path_).parent_path());
 }
 
 void DirListBox::VisitProperties(PropertyVisitor& visitor) {
@@ -154,23 +128,29 @@ void DirListBox::VisitEvents(EventVisitor& visitor) {
 }
 
 DriveListBox::DriveListBox(Container& container, std::string_view name, int index)
-    : ListBox(container, name, index) {
-    const std::string home = HomeFolder();
-    AddItem("/");
-    if (home != "/") AddItem(home);
-    for (const auto& place : RemovablePlaces(ReadMountTable())) {
+    : ListBox(container, name, index) {}
+
+void DriveListBox::StartWith(const std::vector<std::string>& places, std::string_view folder) {
+    Clear();
+    std::size_t innermost = 0;
+    int chosen = -1;
+    for (const std::string& place : places) {
+        if (LiesIn(folder, place) && place.size() > innermost) {
+            innermost = place.size();
+            chosen = ListCount();
+        }
         AddItem(place);
     }
-    ChooseSilently(Rows().Find(home));
+    ChooseSilently(chosen);
 }
 
 void DriveListBox::SetDrive(const std::string& path) {
     if (const int row = Rows().Find(path); row >= 0) SetListIndex(row);
 }
 
-void DriveListBox::RowChosen(bool another) {
+void DriveListBox::RowChosen(bool) {
     Click();
-    if (another) Change();
+    Change();
 }
 
 void DriveListBox::VisitProperties(PropertyVisitor& visitor) {

@@ -27,7 +27,8 @@ private:
 };
 
 /// The folder in use: the folders above it, from the root on, itself, which is chosen, then those in it. A
-/// double click on a row goes there. Another path raises `Change`. It starts in the user's home.
+/// double click on a row, or Enter, goes there, Backspace goes up. Another path raises `Change`, and so does
+/// the folder in use when its own row is chosen that way. At first it has no folder and no rows.
 class DirListBox : public ListBox {
 public:
     DirListBox(Container& container, std::string_view name, int index = noIndex);
@@ -35,9 +36,14 @@ public:
     const std::string& Path() const { return path_; }
     /// A path that is no folder is passed over.
     void SetPath(const std::string& path);
+    /// Starts with a folder, which raises nothing. False, with everything as it was, if it is no folder.
+    bool StartWith(const std::string& path);
+    /// How far below the root the folder of a row lies.
+    int DepthOf(int row) const;
     Event<> Change;
 
     void UserActivates() override;
+    void KeyPressed(int code, int shift) override;
     bool PassesEnterOn() const override { return false; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
@@ -49,12 +55,14 @@ private:
     std::vector<std::string> targets_;  ///< The folder behind each row.
 };
 
-/// The places to start from: the root, the user's home, which is chosen at first, and what is mounted below
-/// /media and /mnt. Choosing another one raises `Change`, after `Click`.
+/// The places to start from, as the desktop names them. Choosing another one raises `Change`, after `Click`;
+/// the user's choice does so also on the chosen one, since he may have gone elsewhere meanwhile.
 class DriveListBox : public ListBox {
 public:
     DriveListBox(Container& container, std::string_view name, int index = noIndex);
 
+    /// Lists these places, and chooses without an event the innermost one that `folder` lies in, if any.
+    void StartWith(const std::vector<std::string>& places, std::string_view folder);
     /// The path of the place.
     const std::string& Drive() const { return List(ListIndex()); }
     /// A path that isn't listed is passed over.
@@ -68,8 +76,7 @@ protected:
     void RowChosen(bool another) override;
 };
 
-/// The mount points below /media and /mnt in a table of mounts (a line a mount, the point its second field,
-/// with blanks written as \040), sorted.
-std::vector<std::string> RemovablePlaces(std::string_view mountTable);
+/// True if `path` is `folder` or lies in it; both in full, without a separator at the end.
+bool LiesIn(std::string_view path, std::string_view folder);
 
 }  // namespace coinlet

@@ -67,8 +67,8 @@ void PictureBox::VisitProperties(PropertyVisitor& visitor) {
     VisitProperty(
         visitor, "ScaleMode", PropertyKind::Number, [this] { return surface.ScaleMode(); },
         [this](int mode) { surface.SetScaleMode(mode); });
-    VisitReadOnly(visitor, "ScaleWidth", PropertyKind::Number, [this] { return surface.ScaleWidth(); });
-    VisitReadOnly(visitor, "ScaleHeight", PropertyKind::Number, [this] { return surface.ScaleHeight(); });
+    VisitReadOnly(visitor, "ScaleWidth", PropertyKind::Number, [this] { return ScaleWidth(); });
+    VisitReadOnly(visitor, "ScaleHeight", PropertyKind::Number, [this] { return ScaleHeight(); });
     VisitFont(visitor, surface);
 }
 

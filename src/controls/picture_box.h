@@ -32,6 +32,14 @@ public:
     void SetWidth(double width) override;
     void SetHeight(double height) override;
 
+    /// Inner size in the units of the surface's scale.
+    virtual double ScaleWidth() const { return surface.ScaleWidth(); }
+    virtual double ScaleHeight() const { return surface.ScaleHeight(); }
+    /// What it shows.
+    virtual coinlet::Image Image() const { return surface.Image(); }
+    /// Gives the surface a picture.
+    virtual void SetPicture(const coinlet::Image& picture) { surface.SetPicture(picture); }
+
     float PointerUnitsPerPixel() const override;
     void VisitProperties(PropertyVisitor& visitor) override;
 

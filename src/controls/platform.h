@@ -54,6 +54,9 @@ public:
     /// that is then in front is activated. A dialog that unloads itself while it loads is never shown.
     void ShowModal(Form& dialog);
 
+    /// Makes the pointer on the screen the one that `Screen` names, at once and without serving events.
+    virtual void ShowPointer() {}
+
     /// Serves waiting events once. At a depth of 16 calls it returns at once.
     void DoEvents();
     /// Serves events for that many seconds; not above 0, once. At a depth of 16 calls it returns at once.

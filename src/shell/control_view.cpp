@@ -19,11 +19,22 @@ namespace coinlet {
 namespace {
 
 int ButtonNumber(Qt::MouseButton button) {
-    return button == Qt::LeftButton ? 1 : button == Qt::RightButton ? 2 : 0;
+    switch (button) {
+        case Qt::LeftButton:
+            return 1;
+        case Qt::RightButton:
+            return 2;
+        case Qt::MiddleButton:
+            return 4;
+        default:
+            return 0;
+    }
 }
 
 int HeldButton(Qt::MouseButtons buttons) {
-    return buttons.testFlag(Qt::LeftButton) ? 1 : buttons.testFlag(Qt::RightButton) ? 2 : 0;
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+        if (buttons.testFlag(button)) return ButtonNumber(button);
+    return 0;
 }
 
 }  // namespace

@@ -33,6 +33,7 @@ public:
 
     void PopupMenu(MenuItem& menu) override;
     bool IsPointerOver(const Control& control) const override;
+    void ShowPointer() override { MirrorHourglass(); }
 
     /// Makes all windows equal to their forms.
     void Mirror() { gate_.Mirror(); }

@@ -99,9 +99,77 @@ TEST_F(FileBoxesTest, ADoubleClickGoesThere) {
     form.Dir1.UserActivates();
     EXPECT_EQ(form.Dir1.Path(), "/");
     log.Take();
-    form.Dir1.UserPicks(0);
+}
+
+TEST_F(FileBoxesTest, TheFolderInUseMayBeChosenAnew) {
+    form.Dir1.SetPath(folder.Path().string());
+    log.Take();
+    fs::create_directories(folder.Path() / "new");
     form.Dir1.UserActivates();
-    EXPECT_EQ(log.Take(), (Lines{"Dir1.Click", "Dir1.DblClick"}));
+    EXPECT_EQ(log.Take(), (Lines{"Dir1.DblClick", "Dir1.Change"}));
+    EXPECT_EQ(RowsFromChosen(form.Dir1), (Lines{folder.Path().filename().string(), "new", "Other", "sub"}));
+    fs::remove_all(folder.Path());
+    form.Dir1.KeyPressed(keyReturn, 0);
+    EXPECT_EQ(log.Take(), (Lines{"Dir1.DblClick", "Dir1.Change"}));
+}
+
+TEST_F(FileBoxesTest, EnterGoesDownAndBackspaceUp) {
+    form.Dir1.SetPath(folder.Path().string());
+    log.Take();
+    form.Dir1.UserPicks(form.Dir1.ListIndex() + 2);
+    form.Dir1.KeyPressed(keyReturn, 0);
+    EXPECT_EQ(form.Dir1.Path(), (folder.Path() / "sub").string());
+    log.Take();
+    form.Dir1.KeyPressed(keyBackspace, 0);
+    EXPECT_EQ(form.Dir1.Path(), folder.Path().string());
+    EXPECT_EQ(log.Take(), Lines{"Dir1.Change"});
+    form.Dir1.SetPath("/");
+    log.Take();
+    form.Dir1.KeyPressed(keyBackspace, 0);
+    EXPECT_EQ(form.Dir1.Path(), "/");
+    EXPECT_EQ(log.Take(), Lines{});
+}
+
+TEST_F(FileBoxesTest, TheStartRaisesNothing) {
+    EXPECT_EQ(form.Dir1.ListCount(), 0);
+    form.Dir1.KeyPressed(keyBackspace, 0);
+    EXPECT_FALSE(form.Dir1.StartWith((folder.Path() / "missing").string()));
+    EXPECT_EQ(form.Dir1.ListCount(), 0);
+    EXPECT_TRUE(form.Dir1.StartWith((folder.Path() / "sub").string()));
+    EXPECT_EQ(RowsFromChosen(form.Dir1), (Lines{"sub", "deep"}));
+    form.Drive1.StartWith({"/", folder.Path().string(), folder.Path().string() + "/su"}, form.Dir1.Path());
+    EXPECT_EQ(form.Drive1.Drive(), folder.Path().string());
+    EXPECT_EQ(log.Take(), Lines{});
+}
+
+TEST_F(FileBoxesTest, RowsKnowHowDeepTheyLie) {
+    form.Dir1.StartWith((folder.Path() / "sub").string());
+    const int chosen = form.Dir1.ListIndex();
+    EXPECT_EQ(form.Dir1.DepthOf(0), 0);
+    EXPECT_EQ(form.Dir1.DepthOf(1), 1);
+    EXPECT_EQ(form.Dir1.DepthOf(chosen), chosen);
+    EXPECT_EQ(form.Dir1.DepthOf(chosen + 1), chosen + 1);
+    EXPECT_EQ(form.Dir1.DepthOf(chosen + 2), 0);
+}
+
+TEST_F(FileBoxesTest, LinksInALoopAndFoldersWithoutPermissionAreQuiet) {
+    fs::create_symlink("ring", folder.Path() / "ring");
+    fs::create_directory_symlink(folder.Path(), folder.Path() / "sub" / "back");
+    form.Dir1.StartWith(folder.Path().string());
+    EXPECT_EQ(RowsFromChosen(form.Dir1), (Lines{folder.Path().filename().string(), "Other", "sub"}));
+    std::string path = folder.Path().string();
+    for (int i = 0; i < 12; ++i) {
+        path += "/sub/back";
+        form.Dir1.SetPath(path);
+        EXPECT_EQ(form.Dir1.Path(), path);
+    }
+    fs::create_directory(folder.Path() / "shut");
+    fs::permissions(folder.Path() / "shut", fs::perms::none);
+    form.Dir1.SetPath((folder.Path() / "shut").string());
+    EXPECT_EQ(RowsFromChosen(form.Dir1), Lines{"shut"});
+    form.File1.SetPath((folder.Path() / "shut").string());
+    EXPECT_EQ(form.File1.ListCount(), 0);
+    fs::permissions(folder.Path() / "shut", fs::perms::owner_all);
 }
 
 TEST_F(FileBoxesTest, ADoubleClickHandlerMayUnloadTheForm) {
@@ -125,33 +193,29 @@ TEST_F(FileBoxesTest, PathsThatAreNoFolderArePassedOver) {
     EXPECT_EQ(log.Take(), Lines{});
 }
 
-TEST_F(FileBoxesTest, ThePlacesStartWithTheRootAndAnotherOneIsAChange) {
-    EXPECT_EQ(form.Drive1.List(0), "/");
-    form.Drive1.AddItem("/elsewhere");
-    form.Drive1.SetDrive("/elsewhere");
-    EXPECT_EQ(form.Drive1.Drive(), "/elsewhere");
+TEST_F(FileBoxesTest, APlaceThatIsChosenIsAChangeAlsoWhenItWasBefore) {
+    form.Drive1.StartWith({"/", "/home/user", "/media/user/STICK"}, "/srv/pictures");
+    EXPECT_EQ(form.Drive1.Drive(), "/");
+    form.Drive1.SetDrive("/home/user");
+    EXPECT_EQ(form.Drive1.Drive(), "/home/user");
     EXPECT_EQ(log.Take(), (Lines{"Drive1.Click", "Drive1.Change"}));
+    form.Drive1.SetDrive("/home/user");
     form.Drive1.SetDrive("/not listed");
     EXPECT_EQ(log.Take(), Lines{});
     form.Drive1.UserPicks(form.Drive1.ListIndex());
-    EXPECT_EQ(log.Take(), Lines{"Drive1.Click"});
+    EXPECT_EQ(log.Take(), (Lines{"Drive1.Click", "Drive1.Change"}));
     form.Drive1.UserPicks(0);
     EXPECT_EQ(form.Drive1.Drive(), "/");
     EXPECT_EQ(log.Take(), (Lines{"Drive1.Click", "Drive1.Change"}));
 }
 
-TEST(RemovablePlaces, AreTheMountsBelowMediaAndMnt) {
-    EXPECT_EQ(RemovablePlaces("/dev/sda1 / ext4 rw 0 0\n"
-                              "/dev/sdb1 /mnt/old\\040disk vfat rw 0 0\n"
-                              "/dev/sdc1 /media/user/STICK vfat rw 0 0\n"
-                              "tmpfs /mnt tmpfs rw 0 0\n"
-                              "/dev/sdd1 /mnting ext4 rw 0 0\n"
-                              "/dev/sdc1 /media/user/STICK vfat rw 0 0\n"
-                              "broken\n"
-                              "\n"
-                              "x /mnt/cut\\04 vfat\n"),
-              (Lines{"/media/user/STICK", "/mnt/cut\\04", "/mnt/old disk"}));
-    EXPECT_EQ(RemovablePlaces(""), Lines{});
+TEST(FolderNames, AFolderLiesInItselfAndInThoseAboveIt) {
+    EXPECT_TRUE(LiesIn("/home/user", "/home/user"));
+    EXPECT_TRUE(LiesIn("/home/user/a", "/home/user"));
+    EXPECT_TRUE(LiesIn("/home", "/"));
+    EXPECT_TRUE(LiesIn("/", "/"));
+    EXPECT_FALSE(LiesIn("/home/username", "/home/user"));
+    EXPECT_FALSE(LiesIn("/home", "/home/user"));
 }
 
 }  // namespace
