@@ -93,15 +93,18 @@ void DirListBox::FillRows() {
     }
 }
 
+std::string DirListBox::TargetOf(int row) const {
+    return Rows().Contains(row) ? targets_[static_cast<std::size_t>(row)] : std::string();
+}
+
 int DirListBox::DepthOf(int row) const {
-    if (!Rows().Contains(row)) return 0;
-    const fs::path target(targets_[static_cast<std::size_t>(row)]);
-    return static_cast<int>(std::distance(target.begin(), target.end())) - 1;
+    const fs::path target(TargetOf(row));
+    return target.empty() ? 0 : static_cast<int>(std::distance(target.begin(), target.end())) - 1;
 }
 
 void DirListBox::UserActivates() {
     if (!Answers() || !Rows().Contains(ListIndex())) return;
-    const std::string target = targets_[static_cast<std::size_t>(ListIndex())];
+    const std::string target = TargetOf(ListIndex());
     ListBox::UserActivates();
     if (!Answers()) return;
     if (target != path_) return SetPath(target);

@@ -38,6 +38,8 @@ public:
     void SetPath(const std::string& path);
     /// Starts with a folder, which raises nothing. False, with everything as it was, if it is no folder.
     bool StartWith(const std::string& path);
+    /// The folder behind a row; empty outside the list.
+    std::string TargetOf(int row) const;
     /// How far below the root the folder of a row lies.
     int DepthOf(int row) const;
     Event<> Change;

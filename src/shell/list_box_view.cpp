@@ -1,4 +1,4 @@
-#include "controls/list_box.h"
+#include "controls/file_boxes.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/look.h"
@@ -6,10 +6,33 @@
 #include "shell/views.h"
 
 #include <QListView>
+#include <QPainter>
+#include <QPixmap>
+
+#include <algorithm>
 
 namespace coinlet {
 
 namespace {
+
+/// A small folder, open or shut, to the right of an indent that tells how deep it lies.
+QPixmap FolderMark(int depth, bool open, const QColor& colour, qreal ratio) {
+    constexpr int step = 8, deepest = 10, width = 12, height = 11;
+    const int left = step * std::min(depth, deepest);
+    QPixmap mark((QSizeF(left + width, height) * ratio).toSize());
+    mark.setDevicePixelRatio(ratio);
+    mark.fill(Qt::transparent);
+    QPainter painter(&mark);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(left, 0);
+    painter.setPen(QPen(colour, 1));
+    // The back with its tab, and the front, which leans forward when the folder is open.
+    const QPolygonF back({{0.5, 9.5}, {0.5, 1.5}, {4.5, 1.5}, {5.5, 3.5}, {9.5, 3.5}, {9.5, 9.5}});
+    painter.drawPolygon(back);
+    painter.setBrush(open ? QBrush(colour) : QBrush(Qt::NoBrush));
+    if (open) painter.drawPolygon(QPolygonF({{0.5, 9.5}, {2.5, 5.5}, {11.5, 5.5}, {9.5, 9.5}}));
+    return mark;
+}
 
 class ListBoxView : public ViewOf<ListBox> {
 public:
@@ -25,6 +48,16 @@ public:
         widget.setFrameShadow(QFrame::Plain);
         widget.setContextMenuPolicy(Qt::NoContextMenu);
         Watch(*widget.viewport());
+        const auto* folders = dynamic_cast<const DirListBox*>(&list);
+        if (!folders) return;
+        // The way down to the folder in use is open.
+        rows_.Mark = [this, folders](int row) -> QVariant {
+            const int depth = folders->DepthOf(row);
+            const bool open = LiesIn(folders->Path(), folders->TargetOf(row));
+            return FolderMark(depth, open, ToQColor(fore_), list_.devicePixelRatioF());
+        };
+        constexpr int widest = 120, height = 11;
+        widget.setIconSize({widest, height});
     }
 
     void Detach() override {

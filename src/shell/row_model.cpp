@@ -26,6 +26,7 @@ int RowModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::DecorationRole && rows_ && index.isValid() && Mark) return Mark(index.row());
     const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
     if (!text || !rows_ || !index.isValid()) return {};
     return ToQString(rows_->Row(index.row()));

@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 
 #include <cstdint>
+#include <functional>
 
 namespace coinlet {
 
@@ -12,6 +13,9 @@ namespace coinlet {
 class RowModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
+
+    /// What stands before the text of a row; empty: nothing.
+    std::function<QVariant(int row)> Mark;
 
     /// Tells whoever shows the rows if they have changed since the last call; true if so.
     bool Mirror(const RowList& rows);
