@@ -10,6 +10,7 @@
 #include "core/dialog.h"
 #include "core/floating_image.h"
 #include "core/language.h"
+#include "core/text_keys.h"
 #include "libraries/dialog_form_layout.h"
 #include "surface/codecs.h"
 
@@ -92,7 +93,7 @@ DialogForm::DialogForm(Context& context)
 }
 
 void DialogForm::Form_Load() {
-    Label4.Caption = LookupInfoText(context_, "120");
+    Label4.Caption = LookupInfoText(context_, key::importHelp);
     Label5.Caption = "Size... :";
     // Where the user's pictures are, without listing them yet; else at home.
     const std::vector<std::string> places = context_.services.desktop.StartingPlaces();
