@@ -1,7 +1,6 @@
 // What scenarios can't see of the import of pictures: the date of a file, its size, and memory.
 #include "libraries/dialog_form.h"
 
-#include "unit/controls/layout_check.h"
 #include "unit/store/store_world.h"
 
 #include <utime.h>
@@ -76,15 +75,6 @@ TEST_F(DialogFormTest, APictureAtTwiceItsSizeHasNoPixelsOfItsOwn) {
         EXPECT_EQ(dialog.HScroll1.Max(), 2000 * 15 - 9555);
         dialog.HScroll1.SetValue(dialog.HScroll1.Max());
         EXPECT_EQ(dialog.Pic.surface.Point(9540, 0), black);
-    });
-}
-
-TEST_F(DialogFormTest, IsLaidOutWithoutOverlap) {
-    Open([](DialogForm& dialog) {
-        ExpectApartAndInside(dialog,
-                             {&dialog.Label1, &dialog.Drive1, &dialog.Label2, &dialog.Dir1, &dialog.Label3,
-                              &dialog.List1, &dialog.Pic, &dialog.HScroll1, &dialog.VScroll1, &dialog.Label4,
-                              &dialog.Label5, &dialog.HoekKnop, &dialog.ExportKnop, &dialog.CancelKnop});
     });
 }
 
