@@ -12,7 +12,6 @@
 #include "core/rulers.h"
 #include "core/settings.h"
 #include "core/side_panel.h"
-#include "core/unfinished.h"
 #include "tools/image_browser.h"
 
 #include <string>
@@ -89,10 +88,6 @@ void StartLanguage(Context& context) {
     ShowLanguageInTitle(context);
 }
 
-void HideUnfinished(Context& context) {
-    DisableUnfinished(context.main);
-}
-
 // The form is laid out when it is made, and the session has its defaults; these steps do the rest.
 constexpr void (*steps[])(Context&) = {
     RemoveFilesOfKilledPrograms,
@@ -106,7 +101,6 @@ constexpr void (*steps[])(Context&) = {
     LoadPmsColors,
     ReadSettings,
     StartLanguage,
-    HideUnfinished,
 };
 
 }  // namespace
