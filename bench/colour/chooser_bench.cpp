@@ -3,7 +3,7 @@
 
 #include "colour/pms_form.h"
 #include "colour/pms_table.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <benchmark/benchmark.h>
 #include <functional>
@@ -18,7 +18,7 @@ std::string CodeOf(int line) {
     return std::to_string(100 + line);
 }
 
-class ChooserWorld : public test::StoreWorld {
+class ChooserWorld : public test::World {
 public:
     ChooserWorld() {
         std::string table;

@@ -18,7 +18,7 @@
 #include "peer_filters.h"
 #include "plain_filters.h"
 #include "surface/device.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <algorithm>
 #include <array>
@@ -164,7 +164,7 @@ void Compare(benchmark::State& state, const NumberedFilter& filter) {
     };
     for (PixelArray* picture : {&ours, &plain, &peer})
         Copy(source, *picture);
-    test::StoreWorld world;
+    test::World world;
     FilterCore core(world.context);
     Surface& canvas = world.main.Pic.surface;
     std::int32_t progress = 0;

@@ -1,7 +1,7 @@
 // The dialog over a full store: how long the user waits for it, for a preview, and for a design.
 
 #include "store/open_file.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <benchmark/benchmark.h>
 #include <functional>
@@ -12,7 +12,7 @@ namespace coinlet {
 namespace {
 
 /// A store of so many designs, all of them links to one picture.
-class FullStore : public test::StoreWorld {
+class FullStore : public test::World {
 public:
     explicit FullStore(std::int64_t designs) {
         const fs::path picture = folder / "picture.bmp";

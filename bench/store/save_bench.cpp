@@ -2,7 +2,7 @@
 // pauses in which the user watches the bar take no time here.
 
 #include "store/save_form.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,7 +10,7 @@ namespace coinlet {
 namespace {
 
 void SaveADesignOverItself(benchmark::State& state) {
-    test::StoreWorld world;
+    test::World world;
     world.main.Pic.surface.Line(100, 100, 400, 400, RGB(200, 30, 40), Box::Filled);
     world.SetRows({"Club tag, 25 mm", "brass"});
     world.session.SaveMode = "BMP";

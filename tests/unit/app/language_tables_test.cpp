@@ -10,7 +10,7 @@
 #include "media/qt_font_engine.h"
 #include "store/open_file.h"
 #include "store/tekst_form.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ constexpr const char* hints[] = {"001", "004", "010", "011", "012", "013", "014"
                                  "019", "020", "021", "022", "023", "024", "025", "027", "060", "061",
                                  "071", "090", "091", "092", "093", "130", "140", "300"};
 
-class LanguageTable : public testing::TestWithParam<const char*>, protected test::StoreWorld {
+class LanguageTable : public testing::TestWithParam<const char*>, protected test::World {
 protected:
     LanguageTable() {
         fs::create_directories(folder / "app/Data");

@@ -2,7 +2,7 @@
 // wish.
 #include "collection/collection_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <unistd.h>
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr const char* catalogue = "app/Collection/Collection.col";
 
-class CollectionFormTest : public testing::Test, protected StoreWorld {
+class CollectionFormTest : public testing::Test, protected World {
 protected:
     CollectionFormTest() { fs::create_directories(folder / "app/Collection"); }
 

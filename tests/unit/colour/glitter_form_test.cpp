@@ -1,7 +1,7 @@
 // Bars that were given other ends, and the layout.
 #include "colour/glitter_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace coinlet::test {
 namespace {
 
-class GlitterFormTest : public testing::Test, protected StoreWorld {};
+class GlitterFormTest : public testing::Test, protected World {};
 
 TEST_F(GlitterFormTest, TakesAnyValueOfItsBars) {
     GlitterForm dialog(context);

@@ -2,7 +2,7 @@
 #include "core/canvas_dialog.h"
 
 #include "core/context.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr Colour red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
 
-class CanvasDialogTest : public testing::Test, protected test::StoreWorld {
+class CanvasDialogTest : public testing::Test, protected test::World {
 protected:
     struct Dialog : Form {
         using Form::Form;

@@ -4,7 +4,7 @@
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/main_layout.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 constexpr Colour red = RGB(255, 0, 0);
 
-class FloatingImageTest : public testing::Test, protected test::StoreWorld {
+class FloatingImageTest : public testing::Test, protected test::World {
 protected:
     FloatingImageTest() {
         LayOutMain(main);

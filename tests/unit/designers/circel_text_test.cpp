@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "designers/rotated_text.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ struct Dot {
     friend bool operator==(const Dot&, const Dot&) = default;
 };
 
-class CircelTextTest : public testing::Test, protected test::StoreWorld {
+class CircelTextTest : public testing::Test, protected test::World {
 protected:
     CircelTextTest() {
         form.Form_Load();

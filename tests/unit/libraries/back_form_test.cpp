@@ -1,7 +1,7 @@
 // Rows that no collection has, files that are none, and the layout.
 #include "libraries/back_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <algorithm>
 #include <functional>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr Colour back = RGB(10, 200, 30);
 
-class BackFormTest : public testing::Test, protected StoreWorld {
+class BackFormTest : public testing::Test, protected World {
 protected:
     BackFormTest() { fs::create_directories(folder / "app/Data"); }
 

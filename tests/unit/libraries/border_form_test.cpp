@@ -1,7 +1,7 @@
 // What goes to the canvas and the side panel, pixel by pixel, and what may stand in the folder of borders.
 #include "libraries/border_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr Colour design = RGB(255, 255, 0), border = RGB(10, 200, 30);
 
-class BorderFormTest : public testing::Test, protected StoreWorld {
+class BorderFormTest : public testing::Test, protected World {
 protected:
     BorderFormTest() {
         fs::create_directories(folder / "app/Borders");

@@ -2,7 +2,7 @@
 #include "store/bmp_to_jpeg.h"
 
 #include "support/failing_step.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 #include <string>

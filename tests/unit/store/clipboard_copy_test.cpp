@@ -1,7 +1,7 @@
 // Copying the canvas, with a clipboard that takes it and one that doesn't.
 #include "store/clipboard_copy.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace coinlet::test {
 namespace {
 
 TEST(ClipboardCopy, TellsTheSameIfAnotherProgramHoldsTheClipboard) {
-    StoreWorld world;  // its clipboard loses everything
+    World world;  // its clipboard loses everything
     const ClipboardCopy copy(world.context);
     world.main.BewerkenCopy.Click();
     ASSERT_EQ(world.platform.messages.size(), 1U);

@@ -2,20 +2,20 @@
 #include "store/info_text.h"
 
 #include "support/failing_step.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 
 namespace coinlet {
 namespace {
 
-using test::StoreWorld;
+using test::World;
 using Rows = std::vector<std::string>;
 
 const std::string header = "Ivo Kestrell Software 2014\r\n--------------------------\r\n";
 
 TEST(WriteDesignInfoText, WritesAHeaderAndEveryRow) {
-    StoreWorld world;
+    World world;
     world.SetRows({"first", "", "  third, with a comma", "   "});
     WriteDesignInfoText(world.context, "coin");
     EXPECT_EQ(world.Stored("coin.txt"), header + "first\r\n\r\n  third, with a comma\r\n   \r\n");
@@ -23,13 +23,13 @@ TEST(WriteDesignInfoText, WritesAHeaderAndEveryRow) {
 }
 
 TEST(WriteDesignInfoText, WritesTheHeaderAloneForNoRows) {
-    StoreWorld world;
+    World world;
     WriteDesignInfoText(world.context, "coin");
     EXPECT_EQ(world.Stored("coin.txt"), header);
 }
 
 TEST(WriteDesignInfoText, WritesOneByteACharacter) {
-    StoreWorld world;
+    World world;
     world.SetRows({"café €5 \U0001F600"});
     WriteDesignInfoText(world.context, "coin");
     EXPECT_EQ(world.Stored("coin.txt"), header +
@@ -38,7 +38,7 @@ TEST(WriteDesignInfoText, WritesOneByteACharacter) {
 }
 
 TEST(WriteDesignInfoText, ReplacesALongerOne) {
-    StoreWorld world;
+    World world;
     world.Store("coin.txt", std::string(1000, 'x'));
     world.SetRows({"new"});
     WriteDesignInfoText(world.context, "coin");
@@ -46,7 +46,7 @@ TEST(WriteDesignInfoText, ReplacesALongerOne) {
 }
 
 TEST(WriteDesignInfoText, TakesNamesAsTheyAreTyped) {
-    StoreWorld world;
+    World world;
     world.SetRows({"row"});
     const Rows names{" leading and trailing ", "-rf", "\"quoted\" 'name'", "café", "\U0001F600", "..",
                      std::string(251, 'n')};
@@ -58,7 +58,7 @@ TEST(WriteDesignInfoText, TakesNamesAsTheyAreTyped) {
 }
 
 TEST(WriteDesignInfoText, WritesNothingUnderANameThatNoFileCanHave) {
-    StoreWorld world;
+    World world;
     world.SetRows({"row"});
     fs::create_directory(world.folder / "app/Ontwerpen/sub");
     for (const std::string& name : {std::string("../coin"), std::string("sub/coin"), std::string("/coin"),
@@ -71,7 +71,7 @@ TEST(WriteDesignInfoText, WritesNothingUnderANameThatNoFileCanHave) {
 }
 
 TEST(WriteDesignInfoText, MakesNoFolder) {
-    StoreWorld world;
+    World world;
     fs::remove(world.folder / "app/Ontwerpen");
     world.SetRows({"row"});
     WriteDesignInfoText(world.context, "coin");
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(AtEachStep, WriteDesignInfoTextFails,
                                          test::Step::Close, test::Step::Rename));
 
 TEST_P(WriteDesignInfoTextFails, AndLeavesTheOldOneOrNone) {
-    StoreWorld world;
+    World world;
     world.Store("old.txt", "old\r\n");
     world.SetRows({"new"});
     for (const char* name : {"old", "new"}) {
@@ -97,7 +97,7 @@ TEST_P(WriteDesignInfoTextFails, AndLeavesTheOldOneOrNone) {
 }
 
 Rows Read(std::string_view content) {
-    StoreWorld world;
+    World world;
     world.SetRows({"of an earlier design"});
     world.Store("coin.txt", content);
     ReadDesignInfoText(world.context, "coin");
@@ -135,7 +135,7 @@ TEST(ReadDesignInfoText, FindsNoRowsWhereThereIsNoText) {
     EXPECT_EQ(Read("x\r\n"), Rows{});
     EXPECT_EQ(Read(header), Rows{});
     for (const std::string& name : {std::string("missing"), std::string("../coin"), std::string(300, 'n')}) {
-        StoreWorld world;
+        World world;
         world.SetRows({"of an earlier design"});
         world.folder.Write("app/coin.txt", header + "not in the store\r\n");
         ReadDesignInfoText(world.context, name);
@@ -144,14 +144,14 @@ TEST(ReadDesignInfoText, FindsNoRowsWhereThereIsNoText) {
 }
 
 TEST(ReadDesignInfoText, PassesOverAFolderOfThatName) {
-    StoreWorld world;
+    World world;
     fs::create_directory(world.folder / "app/Ontwerpen/coin.txt");
     ReadDesignInfoText(world.context, "coin");
     EXPECT_EQ(world.Rows(), Rows{});
 }
 
 TEST(DesignInfoText, ComesBackWithoutItsBlankRows) {
-    StoreWorld world;
+    World world;
     world.SetRows({"one", "", "  two", "    ", "three, and", ""});
     WriteDesignInfoText(world.context, "coin");
     ReadDesignInfoText(world.context, "coin");

@@ -2,7 +2,7 @@
 // piece.
 #include "store/open_file.h"
 #include "store/save_form.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <unistd.h>
 
@@ -26,7 +26,7 @@ constexpr std::string_view designName = "coin";
 constexpr std::array<Colour, 2> colours{RGB(200, 30, 40), RGB(10, 120, 130)};
 
 /// A user who saves two designs under the same name, in turn.
-class KilledSave : public testing::Test, protected StoreWorld {
+class KilledSave : public testing::Test, protected World {
 protected:
     void Draw(std::size_t design) {
         main.Pic.surface.Line(0, 0, 499, 499, colours.at(design), Box::Filled);
@@ -122,7 +122,7 @@ TEST_F(KilledSave, LeavesTheOldDesignOrTheNewOne) {
             << left.infoText;
 
         // A fresh start finds this design alone, whatever else the kill has left in the folder, and opens it.
-        StoreWorld next;
+        World next;
         fs::copy(folder / "app/Ontwerpen", next.folder / "app/Ontwerpen", fs::copy_options::recursive);
         OpenFile dialog(next.context);
         next.platform.doings.emplace_back([&] {

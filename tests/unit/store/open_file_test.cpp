@@ -1,7 +1,7 @@
 // What may stand in the folder of designs beside designs: nothing of it hangs or breaks the dialog.
 #include "store/open_file.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr Colour red = RGB(200, 30, 40);
 
-class OpenFileTest : public testing::Test, protected StoreWorld {
+class OpenFileTest : public testing::Test, protected World {
 protected:
     fs::path InStore(const std::string& name) const { return folder / "app/Ontwerpen" / name; }
 

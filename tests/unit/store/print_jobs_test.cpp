@@ -3,7 +3,7 @@
 
 #include "controls/file_boxes.h"
 #include "controls/picture_box.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -63,7 +63,7 @@ struct ScratchForm : Form {
     PictureBox Picture2{*this, "Picture2"};
 };
 
-class PrintJobs : public testing::Test, protected StoreWorld {
+class PrintJobs : public testing::Test, protected World {
 protected:
     PrintJobs() { fs::create_directories(folder / "app/Cliparts"); }
 

@@ -2,7 +2,7 @@
 #include "store/save_form.h"
 
 #include "support/failing_step.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,12 +15,12 @@
 namespace coinlet {
 namespace {
 
-using test::StoreWorld;
+using test::World;
 
 constexpr Colour inCanvas = RGB(200, 30, 40), inPanel = RGB(20, 130, 40);
 
 /// A world with a spot on the canvas and one on the side panel.
-class DesignWorld : public StoreWorld {
+class DesignWorld : public World {
 public:
     DesignWorld() {
         main.Pic.surface.PSet(7, 9, inCanvas);

@@ -4,18 +4,18 @@
 #include "core/language.h"
 #include "store/info_text.h"
 #include "store/text_box_rows.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 
 namespace coinlet {
 namespace {
 
-using test::StoreWorld;
+using test::World;
 using Rows = std::vector<std::string>;
 
 /// Opens the dialog, lets the user do something in it, and presses a button.
-void Edit(StoreWorld& world, const std::function<void(TekstForm&)>& doing, VistaButton TekstForm::*button) {
+void Edit(World& world, const std::function<void(TekstForm&)>& doing, VistaButton TekstForm::*button) {
     TekstForm dialog(world.context);
     world.platform.doings.push_back([&] {
         doing(dialog);
@@ -24,17 +24,17 @@ void Edit(StoreWorld& world, const std::function<void(TekstForm&)>& doing, Vista
     world.platform.ShowModal(dialog);
     EXPECT_FALSE(dialog.Loaded());
 }
-void Confirm(StoreWorld& world, const std::string& text) {
+void Confirm(World& world, const std::string& text) {
     Edit(
         world, [&](TekstForm& dialog) { dialog.Text1.SetText(text); }, &TekstForm::OkKnop);
 }
-void ConfirmUnchanged(StoreWorld& world) {
+void ConfirmUnchanged(World& world) {
     Edit(
         world, [](TekstForm&) {}, &TekstForm::OkKnop);
 }
 
 TEST(TekstForm, MakesTwoEmptyRowsOfAnEmptyText) {
-    StoreWorld world;
+    World world;
     Confirm(world, "");
     EXPECT_EQ(world.Rows(), (Rows{"", ""}));
     WriteDesignInfoText(world.context, "coin");
@@ -45,13 +45,13 @@ TEST(TekstForm, MakesTwoEmptyRowsOfAnEmptyText) {
 }
 
 TEST(TekstForm, AddsAnEmptyRowBehindTheDisplayedLines) {
-    StoreWorld world;
+    World world;
     Confirm(world, "one\r\ntwo\r\nthree");
     EXPECT_EQ(world.Rows(), (Rows{"one", "two", "three", ""}));
 }
 
 TEST(TekstForm, AddsTwoMoreEachTimeItIsConfirmedUnchanged) {
-    StoreWorld world;
+    World world;
     world.SetRows({"one", "two"});
     ConfirmUnchanged(world);
     EXPECT_EQ(world.Rows(), (Rows{"one", "two", "", ""}));
@@ -63,7 +63,7 @@ TEST(TekstForm, AddsTwoMoreEachTimeItIsConfirmedUnchanged) {
 }
 
 TEST(TekstForm, MakesARowOfEachDisplayedLine) {
-    StoreWorld world;
+    World world;
     // The box is 314 pixels wide inside; a letter of 8.25 points is a block of 4 pixels: 78 a line.
     const std::string long1(70, 'a'), long2(20, 'b');
     Confirm(world, long1 + " " + long2 + "\r\nend");
@@ -78,7 +78,7 @@ TEST(TekstForm, MakesARowOfEachDisplayedLine) {
 }
 
 TEST(TekstForm, ShowsThePromptOfTheLanguageAndTakesItForAText) {
-    StoreWorld world;
+    World world;
     world.main.InfoList.AddItem("200 what it is for");
     world.main.InfoList.AddItem("201 type here");
     Edit(
@@ -93,7 +93,7 @@ TEST(TekstForm, ShowsThePromptOfTheLanguageAndTakesItForAText) {
 }
 
 TEST(TekstForm, ChangesNothingIfItIsCancelledOrClosed) {
-    StoreWorld world;
+    World world;
     world.SetRows({"kept"});
     world.session.DesignChanged = true;
     Edit(
@@ -111,7 +111,7 @@ TEST(TekstForm, ChangesNothingIfItIsCancelledOrClosed) {
 
 TEST(TekstForm, LeavesTheMarkOfUnsavedWork) {
     for (const bool changed : {false, true}) {
-        StoreWorld world;
+        World world;
         world.session.DesignChanged = changed;
         Confirm(world, "text");
         EXPECT_EQ(world.session.DesignChanged, changed);
@@ -119,7 +119,7 @@ TEST(TekstForm, LeavesTheMarkOfUnsavedWork) {
 }
 
 TEST(TekstForm, TellsTheHighestIndexOfTheRows) {
-    StoreWorld world;
+    World world;
     const TekstForm dialog(world.context);
     Rows rows{"left over"};
     EXPECT_EQ(GetTextBoxLines(dialog.Text1, rows), 1);
