@@ -4,8 +4,10 @@
 #include "core/main_form.h"
 #include "core/side_panel.h"
 #include "core/stock_pictures.h"
+#include "core/tool_sliders.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace coinlet {
@@ -15,7 +17,9 @@ namespace {
 constexpr Colour boardColour = RGB(60, 64, 72);
 constexpr Colour sliderPanelColour = RGB(206, 206, 174);
 
-constexpr int rulerHeight = 20;
+constexpr int rulerWidth = 21, rulerHeight = 20;  // pixels
+/// Where the rulers meet, in twips.
+constexpr double rulersLeft = 180, rulersTop = 270;
 
 constexpr double Twips(int pixels) {
     return pixels * twipsPerPixel;
@@ -81,20 +85,20 @@ void LayOutCanvas(MainForm& main) {
     main.LabelPic.Move(75, 180, 10650, 7935);
     main.LabelPic.surface.SetBackColor(boardColour);
 
-    main.TopPic.Move(495, 270, Twips(canvasSide), Twips(rulerHeight));
-    main.LeftPic.Move(180, 570, Twips(21), Twips(canvasSide));
+    main.TopPic.Move(canvasLeft, rulersTop, canvasTwips, Twips(rulerHeight));
+    main.LeftPic.Move(rulersLeft, canvasTop, Twips(rulerWidth), canvasTwips);
     NarrowCorner(main);
     main.HoekKnop.SetCaption(" Paste ");
     main.HoekKnop.ToolTipText = " Paste Image on Coinlet ";
     main.HoekKnop.Visible = false;
 
-    main.Pic.Move(495, 570, 7500, 7500);
+    main.Pic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
     main.Pic.FixedBitmap = true;
     main.Pic.MousePointer = toolPointer;
-    main.UndoPic.Move(495, 570, 7500, 7500);
+    main.UndoPic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
 
-    main.Line1.X2 = 21;
-    main.Line2.Y2 = 20;
+    main.Line1.X2 = rulerWidth;
+    main.Line2.Y2 = rulerHeight;
     for (LineShape* mark : {&main.Line1, &main.Line2})
         mark->BorderColor = RGB(0, 0, 160);
     main.Line3.X2 = canvasSide;
@@ -170,21 +174,26 @@ struct Slider {
     ScrollBar MainForm::*bar;
     Label MainForm::*panel;  ///< What shows that the slider belongs to one tool; none for the pen's.
     Label MainForm::*caption;
-    int minimum, maximum, value, largeChange;
+    SliderRange range;
+    int largeChange;
     int top;  ///< Of the caption, in pixels.
-    std::string_view text;
+    std::string (*text)(int value);
 };
+constexpr SliderRange canvasPlaces{canvasLeft, canvasLeft + canvasTwips, canvasLeft};
+std::string MoveCaption(int /*value*/) {
+    return "Move Coinlet";
+}
 constexpr int toolSliderTop = 372, aboutSliderTop = 452;
 constexpr std::array<Slider, 5> sliders{{
-    {&MainForm::HScroll1, nullptr, &MainForm::Label7, 1, 9, 2, 1, 324, "Line Width (2)"},
-    {&MainForm::HScroll2, &MainForm::Label9, &MainForm::Label10, 10, 100, 30, 10, toolSliderTop,
-     "Corner (30)"},
-    {&MainForm::HScroll3, &MainForm::Label11, &MainForm::Label12, 10, 50, 20, 5, toolSliderTop,
-     "Size (20/50)"},
-    {&MainForm::HScroll4, &MainForm::Label20, &MainForm::Label21, 5, 100, 10, 10, toolSliderTop,
-     "Raster (10)"},
-    {&MainForm::HScroll5, &MainForm::Label5, &MainForm::Label22, 495, 7995, 495, 750, aboutSliderTop,
-     "Move Coinlet"},
+    {&MainForm::HScroll1, nullptr, &MainForm::Label7, lineWidths, 1, 324, LineWidthCaption},
+    {&MainForm::HScroll2, &MainForm::Label9, &MainForm::Label10, cornerSizes, 10, toolSliderTop,
+     CornerCaption},
+    {&MainForm::HScroll3, &MainForm::Label11, &MainForm::Label12, eraserSizes, 5, toolSliderTop,
+     EraserCaption},
+    {&MainForm::HScroll4, &MainForm::Label20, &MainForm::Label21, rasterSteps, 10, toolSliderTop,
+     RasterCaption},
+    {&MainForm::HScroll5, &MainForm::Label5, &MainForm::Label22, canvasPlaces, 750, aboutSliderTop,
+     MoveCaption},
 }};
 
 void LayOutTools(MainForm& main) {
@@ -222,10 +231,10 @@ void LayOutTools(MainForm& main) {
     for (const Slider& slider : sliders) {
         ScrollBar& bar = main.*slider.bar;
         Label& caption = main.*slider.caption;
-        bar.SetRange(slider.minimum, slider.maximum);
-        bar.SetValue(slider.value);
+        bar.SetRange(slider.range.minimum, slider.range.maximum);
+        bar.SetValue(slider.range.standard);
         bar.LargeChange = slider.largeChange;
-        caption.Caption = slider.text;
+        caption.Caption = slider.text(slider.range.standard);
         const bool framed = slider.panel != nullptr;
         const int left = framed ? 14 : 10, width = framed ? 138 : 150;
         Place(caption, left, slider.top, width, 14);
@@ -286,14 +295,13 @@ void LayOutFoot(MainForm& main) {
 }
 
 void ShowCorner(MainForm& main, int width) {
-    main.HoekPic.Move(180, 270, Twips(width), Twips(rulerHeight));
+    main.HoekPic.Move(rulersLeft, rulersTop, Twips(width), Twips(rulerHeight));
     main.HoekKnop.Move(0, 0, width, rulerHeight);
 }
 
 }  // namespace
 
 void NarrowCorner(MainForm& main) {
-    constexpr int rulerWidth = 21;
     ShowCorner(main, rulerWidth);
 }
 

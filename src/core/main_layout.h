@@ -1,8 +1,11 @@
 #pragma once
 
+#include "core/main_form.h"
+
 namespace coinlet {
 
-class MainForm;
+/// Where the canvas lies on its board while it isn't slid aside, and the length of its sides, in twips.
+constexpr int canvasLeft = 495, canvasTop = 570, canvasTwips = static_cast<int>(canvasSide * twipsPerPixel);
 
 /// Places every control of the main form and gives it its looks. Places that other rules speak of are twips;
 /// the rest stands on a grid of 4 pixels.

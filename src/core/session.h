@@ -1,8 +1,10 @@
 #pragma once
 
+#include "controls/house_colours.h"
 #include "controls/property.h"
 #include "core/materials.h"
 #include "core/tool_codes.h"
+#include "core/tool_sliders.h"
 
 #include <cstdint>
 #include <string>
@@ -19,10 +21,11 @@ struct Session {
     float StartX = 0, StartY = 0;
     /// The previous pointer position of a gesture, to wipe its inverted preview.
     float LastX = 0, LastY = 0;
-    std::uint8_t EraserSize = 20;  ///< Pixels.
-    std::uint8_t LineWidth = 2;    ///< Pixels.
-    std::int32_t CornerSize = 30;  ///< Pixels.
-    std::int16_t RasterStep = 10;  ///< Pixels.
+    // The measures of the tools, in pixels.
+    std::uint8_t EraserSize = eraserSizes.standard;
+    std::uint8_t LineWidth = lineWidths.standard;
+    std::int32_t CornerSize = cornerSizes.standard;
+    std::int16_t RasterStep = rasterSteps.standard;
     /// A text hangs on the pointer: from "Draw Text" to the next release on the canvas.
     bool TextPlacing = false;
     /// Name of the design in the store; empty for a new one.
@@ -36,8 +39,8 @@ struct Session {
     std::int16_t MaterialRed = 0, MaterialGreen = 0, MaterialBlue = 0;
     /// The fill colour of the present pick. Red and green keep the text they came from, a number's decimal
     /// form or a field of the colour table, since the table is searched by that text.
-    std::string PmsRed = "255", PmsGreen = "252";
-    std::int16_t PmsBlue = 13;
+    std::string PmsRed = std::to_string(Red(accentColour)), PmsGreen = std::to_string(Green(accentColour));
+    std::int16_t PmsBlue = Blue(accentColour);
     std::string BackName;
     /// "BMP" for saving a design, "JPG" for its export.
     std::string SaveMode;

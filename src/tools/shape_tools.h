@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/tool_sliders.h"
 #include "tools/gesture_engine.h"
 
 namespace coinlet {
@@ -15,8 +16,8 @@ struct ShapeBox {
 
 /// What the sliders of single figures tell, in pixels.
 struct ShapeMeasures {
-    int cornerSize = 30;  ///< Width and height of the corners of the rounded rectangle.
-    int rasterStep = 10;  ///< From line to line of the raster; below 1 draws none.
+    int cornerSize = cornerSizes.standard;  ///< Width and height of the corners of the rounded rectangle.
+    int rasterStep = rasterSteps.standard;  ///< From line to line of the raster; below 1 draws none.
 };
 
 /// Draws the figure of a tool code from 21 to 36 as a black outline in the surface's pen width. A drag that

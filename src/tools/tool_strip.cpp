@@ -1,20 +1,20 @@
 #include "tools/tool_strip.h"
 
 #include "core/context.h"
+#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
+#include "core/main_layout.h"
 #include "core/text_keys.h"
 #include "core/tool_codes.h"
+#include "core/tool_sliders.h"
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace coinlet {
 
 namespace {
-
-constexpr int canvasLeft = 495, canvasWidth = 7500, canvasRight = canvasLeft + canvasWidth;  // twips
 
 struct ToolRow {
     std::string_view hintKey;  ///< Empty: the button says nothing.
@@ -96,19 +96,19 @@ void ToolStrip::BindSliders() {
     };
     bind(main.HScroll1, [&] {
         session.LineWidth = static_cast<std::uint8_t>(main.HScroll1.Value());
-        main.Label7.Caption = "Line Width (" + std::to_string(main.HScroll1.Value()) + ")";
+        main.Label7.Caption = LineWidthCaption(main.HScroll1.Value());
     });
     bind(main.HScroll2, [&] {
         session.CornerSize = main.HScroll2.Value();
-        main.Label10.Caption = "Corner (" + std::to_string(main.HScroll2.Value()) + ")";
+        main.Label10.Caption = CornerCaption(main.HScroll2.Value());
     });
     bind(main.HScroll3, [&] {
         session.EraserSize = static_cast<std::uint8_t>(main.HScroll3.Value());
-        main.Label12.Caption = "Size (" + std::to_string(main.HScroll3.Value()) + "/50)";
+        main.Label12.Caption = EraserCaption(main.HScroll3.Value());
     });
     bind(main.HScroll4, [&] {
         session.RasterStep = static_cast<std::int16_t>(main.HScroll4.Value());
-        main.Label21.Caption = "Raster (" + std::to_string(main.HScroll4.Value()) + ")";
+        main.Label21.Caption = RasterCaption(main.HScroll4.Value());
     });
     bind(main.HScroll5, [this] { HScroll5_Change(); });
 }
@@ -126,7 +126,7 @@ void ToolStrip::Knop_Click(int index) {
         control->Visible = false;
     main.HScroll5.SetValue(canvasLeft);
     main.Pic.SetLeft(canvasLeft);
-    main.Pic.SetWidth(canvasWidth);
+    main.Pic.SetWidth(canvasTwips);
     main.Label22.Visible = false;
 
     const auto place = static_cast<std::size_t>(index);
@@ -174,7 +174,7 @@ void ToolStrip::HScroll5_Change() {
     MainForm& main = context_.main;
     const int left = main.HScroll5.Value();
     main.Pic.SetLeft(left);
-    main.Pic.SetWidth(canvasRight - left);
+    main.Pic.SetWidth(canvasLeft + canvasTwips - left);
     context_.services.platform.DoEvents();
     for (int i = main.Knop.First(); i <= main.Knop.Last(); ++i)
         main.Knop[i].SetEnabled(left == canvasLeft);
