@@ -6,6 +6,7 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "core/tool_codes.h"
 #include "filters/filter_core.h"
 #include "filters/filter_menu.h"
 #include "store/clipboard_copy.h"
@@ -39,6 +40,9 @@ struct Application::House {
         gestures.placeText = [this](GesturePoint pointer) { text.Place(pointer); };
         gestures.Add(CopyTool(context));
         gestures.Add(HoleTool(context));
+        gestures.Add(EmptyBandTools(shapesMenuTool, shapesMenuTool));
+        gestures.Add(EmptyBandTools(flipMenuTool, flipMenuTool));
+        gestures.Add(EmptyBandTools(aboutTool, firstShapeTool - 1));
         BindDialogs(context, strip);
         main.Load = [this] { StartUp(context); };
     }

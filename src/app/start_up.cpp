@@ -21,7 +21,6 @@ namespace coinlet {
 namespace {
 
 constexpr int smallestLetter = 8, largestLetter = 150, letterStep = 2, standardLetter = 6;
-constexpr double holeMarkerSide = 89;  // pixels
 
 /// In the folders that the program writes files into.
 void RemoveFilesOfKilledPrograms(Context& context) {
@@ -68,11 +67,6 @@ void FillTextPanel(Context& context) {
     main.InfoLabel.Caption = "Maak uw keuze...";
 }
 
-void SizeHoleMarker(Context& context) {
-    context.main.HoleShape.SetWidth(holeMarkerSide);
-    context.main.HoleShape.SetHeight(holeMarkerSide);
-}
-
 void ReadSettings(Context& context) {
     const auto& folder = context.services.applicationFolder;
     if (const auto language = ReadLanguageSetting(folder)) {
@@ -96,7 +90,6 @@ constexpr void (*steps[])(Context&) = {
     PreparePanel,
     ShowStartPicture,
     FillTextPanel,
-    SizeHoleMarker,
     PrintAboutText,
     LoadPmsColors,
     ReadSettings,

@@ -60,6 +60,10 @@ ToolFamily EraseTool(Context& context) {
 }
 
 ToolFamily PickTool(Context& context) {
+    // The field shows the colour under the pointer all the time.
+    const auto follow = [&main = context.main](GesturePoint at) {
+        main.ColorLabel.BackColor = main.Pic.surface.Point(at.x, at.y);
+    };
     const auto press = [&context](GesturePoint at) {
         const Colour colour = context.main.Pic.surface.Point(at.x, at.y);
         Session& session = context.session;
@@ -67,7 +71,7 @@ ToolFamily PickTool(Context& context) {
         session.PmsGreen = std::to_string(Green(colour));
         session.PmsBlue = static_cast<std::int16_t>(Blue(colour));
     };
-    return {.firstCode = pickTool, .lastCode = pickTool, .press = press};
+    return {.firstCode = pickTool, .lastCode = pickTool, .follow = follow, .press = press};
 }
 
 }  // namespace coinlet

@@ -3,7 +3,6 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
-#include "core/tool_codes.h"
 #include "core/undo.h"
 
 #include <algorithm>
@@ -14,21 +13,17 @@ namespace {
 
 // The read-out of the band stands above its anchor, a little to the left.
 constexpr float readOutAbove = 15, readOutLeft = 3;
-// The hole's marker is 89 pixels wide, the pointer in its middle.
-constexpr float holeMarkerOffset = 43;
 constexpr double textDistance = 5;
 
-/// A press with these codes shows an empty band, also where no move sizes it.
-bool ShowsBand(int code) {
-    return code == shapesMenuTool || (code >= copyTool && code <= lastShapeTool && code != holeTool);
-}
-
-/// A drag with these codes sizes the band.
-bool SizesBand(int code) {
-    return code == copyTool || IsShapeTool(code);
+bool IsSized(Band band) {
+    return band == Band::Drag || band == Band::Area;
 }
 
 }  // namespace
+
+ToolFamily EmptyBandTools(int firstCode, int lastCode) {
+    return {.firstCode = firstCode, .lastCode = lastCode, .band = Band::Empty};
+}
 
 GestureEngine::GestureEngine(Context& context) : context_(context) {
     PictureBox& canvas = context.main.Pic;
@@ -52,9 +47,10 @@ void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
     canvas.DrawWidth = session.LineWidth;
 
     if (button == leftButton) {
-        if (session.ToolCode == holeTool) main.HoleShape.Visible = true;
-        if (ShowsBand(session.ToolCode)) StartBand(x, y);
-        if (const ToolFamily* family = Family(); family != nullptr && family->press) family->press({x, y});
+        if (const ToolFamily* family = Family()) {
+            if (family->band != Band::None) StartBand(x, y);
+            if (family->press) family->press({x, y});
+        }
     }
     // The right button is a dropper for the colour field's display alone.
     if (button == rightButton) main.ColorLabel.BackColor = canvas.Point(x, y);
@@ -68,11 +64,8 @@ void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
         mark->Y1 = mark->Y2 = y;
     for (LineShape* mark : {&main.Line2, &main.Line4})
         mark->X1 = mark->X2 = x;
-    if (session.ToolCode == pickTool) main.ColorLabel.BackColor = main.Pic.surface.Point(x, y);
-    if (session.ToolCode == holeTool) {
-        main.HoleShape.Visible = true;
-        main.HoleShape.Move(x - holeMarkerOffset, y - holeMarkerOffset);
-    }
+    const ToolFamily* family = Family();
+    if (family != nullptr && family->follow) family->follow({x, y});
     // The text rides on the pointer also while nobody sees it, so that it appears in its place.
     main.TextLabel.Move(x - main.TextLabel.Width() - textDistance,
                         y - main.TextLabel.Height() - textDistance);
@@ -80,8 +73,8 @@ void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
     if (button != leftButton) return;
 
     GesturePoint pointer{x, y};
-    if (SizesBand(session.ToolCode)) SizeBand(pointer);
-    if (const ToolFamily* family = Family()) {
+    if (family != nullptr) {
+        if (IsSized(family->band)) SizeBand(family->band, pointer);
         if (family->move) family->move(pointer);
         if (family->movesChangeDesign) session.DesignChanged = true;
     }
@@ -122,7 +115,7 @@ void GestureEngine::StartBand(float x, float y) {
     main.Layer.Visible = true;
 }
 
-void GestureEngine::SizeBand(GesturePoint& pointer) {
+void GestureEngine::SizeBand(Band band, GesturePoint& pointer) {
     MainForm& main = context_.main;
     Session& session = context_.session;
     // The band never goes up or to the left of its anchor.
@@ -130,8 +123,7 @@ void GestureEngine::SizeBand(GesturePoint& pointer) {
     pointer.y = std::max(pointer.y, session.StartY);
     const float width = pointer.x - session.StartX, height = pointer.y - session.StartY;
     main.Layer.Move(session.StartX, session.StartY, width + 1, height + 1);
-    // A copy tells the size of what is copied, a shape the distance dragged.
-    const float extra = session.ToolCode == copyTool ? 1 : 0;
+    const float extra = band == Band::Area ? 1 : 0;
     main.XYcor.Caption = " " + FormatNumber(width + extra) + "," + FormatNumber(height + extra) + " ";
     session.DesignChanged = true;
 }

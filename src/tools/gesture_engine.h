@@ -12,17 +12,34 @@ struct GesturePoint {
     float x = 0, y = 0;
 };
 
-/// A family of tools: what it does with the left button beside the steps that all tools share. A member left
-/// empty does nothing.
+/// What a tool does with the rubber band, which a press with the left button lays at the pointer, with a
+/// read-out above it.
+enum class Band {
+    None,
+    Empty,  ///< The band stays as the press left it.
+    Drag,   ///< A drag sizes the band; the read-out tells how far it went.
+    Area,   ///< The same, but the read-out tells the pixels that the band covers, which are one more.
+};
+
+/// A family of tools: what it does beside the steps that all tools share. A member left empty does nothing.
 struct ToolFamily {
     int firstCode = 0, lastCode = 0;  ///< The values of `ToolCode` that it serves.
+    Band band = Band::None;
+    /// The pointer moves over the canvas, with or without a button.
+    std::function<void(GesturePoint)> follow = {};
+    /// The left button goes down, is held down in a move, and comes up.
     std::function<void(GesturePoint)> press = {}, move = {}, release = {};
     /// A moving pointer changes the design.
     bool movesChangeDesign = false;
 };
 
+/// The tools of these codes do nothing with the canvas but leave an empty band at a press: they are buttons
+/// that open a menu, or no tools at all.
+ToolFamily EmptyBandTools(int firstCode, int lastCode);
+
 /// The three pointer events of the canvas. It takes the undo copy, keeps the anchor and the read-outs, shows
-/// and sizes the rubber band, and hands each event to the family of the tool in use.
+/// and sizes the rubber band of the tools that have one, and hands each event to the family of the tool in
+/// use. Which tools there are it doesn't know.
 class GestureEngine {
 public:
     explicit GestureEngine(Context& context);
@@ -38,7 +55,7 @@ private:
 
     void PlaceEraserMarker(float x, float y);
     void StartBand(float x, float y);
-    void SizeBand(GesturePoint& pointer);
+    void SizeBand(Band band, GesturePoint& pointer);
     const ToolFamily* Family() const;
 
     Context& context_;

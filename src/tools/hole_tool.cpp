@@ -16,6 +16,10 @@ namespace {
 
 constexpr int discRadius = 43, ringSide = 100;
 
+// The marker that rides on the pointer: a circle about the disc to come.
+constexpr double markerSide = 89;
+constexpr float markerOffset = 43;
+
 void WipeDisc(Surface& canvas, GesturePoint centre) {
     // Circle about circle; a pen of one pixel would leave gaps between them.
     constexpr int pen = 2;
@@ -38,17 +42,25 @@ void StampRing(Context& context, GesturePoint centre) {
 }  // namespace
 
 ToolFamily HoleTool(Context& context) {
-    const auto release = [&context](GesturePoint centre) {
+    Shape& marker = context.main.HoleShape;
+    marker.SetWidth(markerSide);
+    marker.SetHeight(markerSide);
+    const auto show = [&marker](GesturePoint) { marker.Visible = true; };
+    const auto follow = [&marker](GesturePoint pointer) {
+        marker.Visible = true;
+        marker.Move(pointer.x - markerOffset, pointer.y - markerOffset);
+    };
+    const auto release = [&context, &marker](GesturePoint centre) {
         Surface& canvas = context.main.Pic.surface;
         Session& session = context.session;
         WipeDisc(canvas, centre);
         StampRing(context, centre);
         canvas.DrawWidth = session.LineWidth;
         session.ToolCode = nothingArmed;
-        context.main.HoleShape.Visible = false;
+        marker.Visible = false;
         ShowHint(context, key::ready);
     };
-    return {.firstCode = holeTool, .lastCode = holeTool, .release = release};
+    return {.firstCode = holeTool, .lastCode = holeTool, .follow = follow, .press = show, .release = release};
 }
 
 }  // namespace coinlet

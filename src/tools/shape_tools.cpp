@@ -191,7 +191,7 @@ ToolFamily ShapeTools(Context& context) {
                            static_cast<float>(band.Height())};
         DrawShape(context.main.Pic.surface, session.ToolCode, box, {session.CornerSize, session.RasterStep});
     };
-    return {.firstCode = firstShapeTool, .lastCode = lastShapeTool, .release = release};
+    return {.firstCode = firstShapeTool, .lastCode = lastShapeTool, .band = Band::Drag, .release = release};
 }
 
 }  // namespace coinlet

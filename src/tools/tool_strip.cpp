@@ -1,7 +1,6 @@
 #include "tools/tool_strip.h"
 
 #include "core/context.h"
-#include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_layout.h"
