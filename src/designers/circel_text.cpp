@@ -5,13 +5,13 @@
 #include "core/canvas_dialog.h"
 #include "core/context.h"
 #include "core/language.h"
+#include "core/letter_outline.h"
 #include "core/main_form.h"
 #include "core/text_keys.h"
 #include "designers/circel_text_layout.h"
 #include "designers/rotated_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -37,12 +37,6 @@ void Fill(ComboBox& combo, const NumberList& list) {
         combo.AddItem(std::to_string(number));
     combo.SetListIndex((list.standard - list.first) / list.step);
 }
-
-/// Where a letter is printed again and again so that together they make a ring of two pixels around it.
-struct Offset {
-    int x, y;
-};
-constexpr std::array<Offset, 8> ring{{{0, -2}, {1, -1}, {2, 0}, {1, 1}, {0, 2}, {-1, 1}, {-2, 0}, {-1, -1}}};
 
 /// Points. What a surface can't hold is the largest that it can.
 float FontSizeOf(const std::string& text) {
@@ -127,7 +121,7 @@ void CircelText::DrawGlyph(std::string_view glyph, double rotation, int x, int y
     const int degrees = RoundHalfEven(rotation);
     picture.ForeColor = InkColour();
     if (Check5.Value()) {
-        for (const Offset& offset : ring)
+        for (const LetterOffset& offset : letterOutline)
             DrawRotatedText(glyph, degrees, x + offset.x, y + offset.y, picture);
         picture.ForeColor = white;
     }

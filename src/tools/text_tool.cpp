@@ -3,12 +3,12 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "core/context.h"
+#include "core/letter_outline.h"
 #include "core/main_form.h"
 #include "core/undo.h"
 #include "surface/device.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -24,13 +24,6 @@ constexpr int fullChannel = 255;
 
 constexpr int shadowDepth = 8, shadowDarkest = 180, shadowStep = 6;
 
-/// Where the letters are printed so that together they make an outline of two pixels.
-struct Offset {
-    float x, y;
-};
-constexpr std::array<Offset, 9> outline{
-    {{0, -2}, {1, -1}, {2, 0}, {1, 1}, {0, 2}, {-1, 1}, {-2, 0}, {-1, -1}, {0, -2}}};
-
 /// The size on the panel in points; nothing if what the user typed there is no number that a font can have.
 std::optional<float> ChosenSize(const MainForm& main) {
     double size = 0;
@@ -39,10 +32,10 @@ std::optional<float> ChosenSize(const MainForm& main) {
     return usable ? std::optional(static_cast<float>(size)) : std::nullopt;
 }
 
-void TakeStyle(const MainForm& main, FontProperties& font) {
-    font.FontBold = main.BoldCheck.Value();
-    font.FontItalic = main.ItalicCheck.Value();
-    font.FontUnderline = main.UnderlineCheck.Value();
+void TakeTicks(const TextStyle& style, FontProperties& font) {
+    font.FontBold = style.bold;
+    font.FontItalic = style.italic;
+    font.FontUnderline = style.underline;
 }
 
 void PrintAt(Surface& target, float x, float y, std::string_view text) {
@@ -58,14 +51,23 @@ bool IsCarriedOver(Colour colour) {
 
 }  // namespace
 
-bool DrawStyledText(const MainForm& main, Surface& target, float x, int y, std::string_view text) {
-    target.FontName = main.Combo2.Text();
-    const auto size = ChosenSize(main);
-    if (!size) return false;
-    target.FontSize = *size;
-    TakeStyle(main, target);
+TextStyle StyleOnPanel(const MainForm& main) {
+    return {.fontName = main.Combo2.Text(),
+            .size = ChosenSize(main),
+            .bold = main.BoldCheck.Value(),
+            .italic = main.ItalicCheck.Value(),
+            .underline = main.UnderlineCheck.Value(),
+            .open = main.OpenCheck.Value(),
+            .shadow = main.SchaduwCheck.Value()};
+}
+
+bool DrawStyledText(Surface& target, float x, int y, std::string_view text, const TextStyle& style) {
+    target.FontName = style.fontName;
+    if (!style.size) return false;
+    target.FontSize = *style.size;
+    TakeTicks(style, target);
     const auto top = static_cast<float>(y);
-    if (main.SchaduwCheck.Value()) {
+    if (style.shadow) {
         for (int i = shadowDepth; i >= 1; --i) {
             const int gray = shadowDarkest + shadowStep * i;
             target.ForeColor = RGB(gray, gray, gray);
@@ -73,9 +75,9 @@ bool DrawStyledText(const MainForm& main, Surface& target, float x, int y, std::
         }
     }
     target.ForeColor = black;
-    if (main.OpenCheck.Value()) {
-        for (const Offset& offset : outline)
-            PrintAt(target, x + offset.x, top + offset.y, text);
+    if (style.open) {
+        for (const LetterOffset& offset : letterOutline)
+            PrintAt(target, x + static_cast<float>(offset.x), top + static_cast<float>(offset.y), text);
         target.ForeColor = white;
     }
     PrintAt(target, x, top, text);
@@ -121,14 +123,14 @@ void TextTool::PlaatsKnop_Click() {
     }
     KeepForUndo(main);
     main.VertPic.surface.SetPicture({});
-    TakeStyle(main, main.TextLabel);
-    TakeStyle(main, main.VertPic.surface);
+    const TextStyle style = StyleOnPanel(main);
+    TakeTicks(style, main.TextLabel);
+    TakeTicks(style, main.VertPic.surface);
     main.TextLabel.ForeColor = black;
     main.TextLabel.Caption = main.Text1.Text() + " ";
-    main.TextLabel.FontName = main.Combo2.Text();
-    const auto size = ChosenSize(main);
-    if (!size) return;
-    main.TextLabel.FontSize = *size;
+    main.TextLabel.FontName = style.fontName;
+    if (!style.size) return;
+    main.TextLabel.FontSize = *style.size;
     main.TextLabel.Visible = true;
     context_.session.TextPlacing = true;
     PrintForTurning();
@@ -156,7 +158,7 @@ void TextTool::Place(GesturePoint pointer) {
     } else {
         const auto left = static_cast<float>(pointer.x - main.TextLabel.Width() - textDistance);
         const int top = RoundHalfEven(pointer.y - main.TextLabel.Height() - textDistance);
-        if (!DrawStyledText(main, main.Pic.surface, left, top, main.Text1.Text())) return;
+        if (!DrawStyledText(main.Pic.surface, left, top, main.Text1.Text(), StyleOnPanel(main))) return;
     }
     main.TextLabel.Visible = false;
     context_.session.TextPlacing = false;

@@ -3,8 +3,8 @@
 
 #include "tools/text_tool.h"
 
+#include "support/world.h"
 #include "surface/device.h"
-#include "unit/store/store_world.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ namespace {
 
 constexpr int letterWidth = 3, letterHeight = 7, cellWidth = 4, cellHeight = 8;
 
-class TextToolTest : public testing::Test, protected test::StoreWorld {
+class TextToolTest : public testing::Test, protected test::World {
 protected:
     TextToolTest() {
         main.Combo2.SetText("Block");
@@ -51,7 +51,7 @@ protected:
 TEST_F(TextToolTest, PlainTextIsBlack) {
     Surface sheet(fonts, 30, 30);
     sheet.ForeColor = RGB(1, 2, 3);
-    ASSERT_TRUE(DrawStyledText(main, sheet, 5, 6, "a"));
+    ASSERT_TRUE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main)));
     Picture expected;
     Stamp(expected, 5, 6, black);
     ExpectPicture(sheet, expected);
@@ -63,7 +63,7 @@ TEST_F(TextToolTest, PlainTextIsBlack) {
 TEST_F(TextToolTest, ShadowGrowsLighterAwayFromTheLetters) {
     main.SchaduwCheck.SetValue(true);
     Surface sheet(fonts, 30, 30);
-    ASSERT_TRUE(DrawStyledText(main, sheet, 5, 6, "a"));
+    ASSERT_TRUE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main)));
     Picture expected;
     const int grays[] = {186, 192, 198, 204, 210, 216, 222, 228};
     for (int i = 8; i >= 1; --i)
@@ -75,7 +75,7 @@ TEST_F(TextToolTest, ShadowGrowsLighterAwayFromTheLetters) {
 TEST_F(TextToolTest, OpenLettersAreWhiteInABlackOutline) {
     main.OpenCheck.SetValue(true);
     Surface sheet(fonts, 30, 30);
-    ASSERT_TRUE(DrawStyledText(main, sheet, 5, 6, "a"));
+    ASSERT_TRUE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main)));
     Picture expected;
     // All places at a distance of two, counted along the axes.
     for (int dy = -2; dy <= 2; ++dy) {
@@ -92,7 +92,7 @@ TEST_F(TextToolTest, OpenLettersHaveTheShadowBelowTheirOutline) {
     main.OpenCheck.SetValue(true);
     main.SchaduwCheck.SetValue(true);
     Surface sheet(fonts, 30, 30);
-    ASSERT_TRUE(DrawStyledText(main, sheet, 5, 6, "a"));
+    ASSERT_TRUE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main)));
     EXPECT_EQ(sheet.Point(5, 6), white);
     EXPECT_EQ(sheet.Point(4, 6), black);
     EXPECT_EQ(sheet.Point(5 + 8 + 2, 6 + 8 + 6), RGB(228, 228, 228));
@@ -100,7 +100,7 @@ TEST_F(TextToolTest, OpenLettersHaveTheShadowBelowTheirOutline) {
 
 TEST_F(TextToolTest, FractionsOfAPlaceAreRoundedAtTheMomentOfDrawing) {
     Surface sheet(fonts, 30, 30);
-    ASSERT_TRUE(DrawStyledText(main, sheet, 4.5F, 6, "a"));
+    ASSERT_TRUE(DrawStyledText(sheet, 4.5F, 6, "a", StyleOnPanel(main)));
     Picture expected;
     Stamp(expected, 4, 6, black);
     ExpectPicture(sheet, expected);
@@ -112,7 +112,7 @@ TEST_F(TextToolTest, StylesFollowTheTicks) {
         main.BoldCheck.SetValue((ticks & 1) != 0);
         main.ItalicCheck.SetValue((ticks & 2) != 0);
         main.UnderlineCheck.SetValue((ticks & 4) != 0);
-        ASSERT_TRUE(DrawStyledText(main, sheet, 0, 0, "a"));
+        ASSERT_TRUE(DrawStyledText(sheet, 0, 0, "a", StyleOnPanel(main)));
         main.PlaatsKnop.Click();
         for (const FontProperties* font :
              std::initializer_list<const FontProperties*>{&sheet, &main.TextLabel, &main.VertPic.surface}) {
@@ -129,7 +129,7 @@ TEST_F(TextToolTest, ASizeThatIsNoNumberPrintsNothing) {
     Surface sheet(fonts, 30, 30);
     for (const char* size : {"", "big", "12 pt", "1e300", "12,5"}) {
         main.Combo3.SetText(size);
-        EXPECT_FALSE(DrawStyledText(main, sheet, 5, 6, "a")) << size;
+        EXPECT_FALSE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main))) << size;
     }
     ExpectPicture(sheet, {});
 }
@@ -138,7 +138,7 @@ TEST_F(TextToolTest, AnOddSizeIsNoHarm) {
     Surface sheet(fonts, 30, 30);
     for (const char* size : {"0", "-20", " 8 ", "8.5", "1e-30"}) {
         main.Combo3.SetText(size);
-        EXPECT_TRUE(DrawStyledText(main, sheet, 5, 6, "a")) << size;
+        EXPECT_TRUE(DrawStyledText(sheet, 5, 6, "a", StyleOnPanel(main))) << size;
     }
 }
 
