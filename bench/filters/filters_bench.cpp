@@ -17,8 +17,8 @@
 #include "filters/filter_table.h"
 #include "peer_filters.h"
 #include "plain_filters.h"
-#include "surface/device.h"
 #include "support/world.h"
+#include "surface/device.h"
 
 #include <algorithm>
 #include <array>

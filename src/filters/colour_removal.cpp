@@ -2,7 +2,7 @@
 
 #include "base/numbers.h"
 #include "core/context.h"
-#include "filters/progress_bar.h"
+#include "core/progress_bar.h"
 #include "filters/surface_walk.h"
 
 #include <algorithm>

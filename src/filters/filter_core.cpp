@@ -1,8 +1,8 @@
 #include "filters/filter_core.h"
 
 #include "core/context.h"
+#include "core/progress_bar.h"
 #include "filters/filter_table.h"
-#include "filters/progress_bar.h"
 #include "surface/device.h"
 
 namespace coinlet {
@@ -41,6 +41,11 @@ private:
 
 void FilterCore::FilterPicture(std::int32_t number, Surface& picture, std::int32_t parameter,
                                std::int32_t& progress) {
+    RunFilter(FindFilter(number), picture, parameter, progress);
+}
+
+void FilterCore::RunFilter(const NumberedFilter* filter, Surface& picture, std::int32_t parameter,
+                           std::int32_t& progress) {
     if (busy_) return;
     const Busy busy(busy_);
     const int width = picture.PixelWidth(), height = picture.PixelHeight();
@@ -48,7 +53,7 @@ void FilterCore::FilterPicture(std::int32_t number, Surface& picture, std::int32
     PixelArray work(width, height), source(width, height);
     GetDIBits(picture.hDC(), 0, height, work.Bytes(), topRowFirst);
     GetDIBits(picture.hDC(), 0, height, source.Bytes(), topRowFirst);
-    if (const NumberedFilter* filter = FindFilter(number)) {
+    if (filter != nullptr) {
         ScreenPace pace(context_, progress);
         FilterRun run(work, source, random_, pace);
         filter->apply(run, parameter);

@@ -8,6 +8,7 @@ namespace coinlet {
 
 class Surface;
 struct Context;
+struct NumberedFilter;
 
 /// Runs the numbered filters (filter_table.h) on whole pictures, one at a time.
 class FilterCore {
@@ -19,6 +20,9 @@ public:
     /// another call does nothing. A number that is no filter leaves the picture as it is. Throws ProgramEnded
     /// if the program ended in an event.
     void FilterPicture(std::int32_t number, Surface& picture, std::int32_t parameter, std::int32_t& progress);
+    /// The same for who has the filter already; nullptr is no filter.
+    void RunFilter(const NumberedFilter* filter, Surface& picture, std::int32_t parameter,
+                   std::int32_t& progress);
 
 private:
     Context& context_;

@@ -2,12 +2,12 @@
 
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/progress_bar.h"
 #include "core/tool_codes.h"
 #include "core/undo.h"
 #include "filters/filter_core.h"
 #include "filters/filter_table.h"
 #include "filters/photo_effects.h"
-#include "filters/progress_bar.h"
 
 #include <algorithm>
 #include <optional>
@@ -52,19 +52,18 @@ constexpr EffectEntry effectEntries[] = {{3, "Edge Lines", {}, DrawEdgeLines},
 /// The entries that open a sub-menu.
 constexpr int contrastHead = 9, swapHead = 12;
 
-/// The filter and its entry at that place of the menu; nothing where there is none.
+/// The filter behind an entry of the menu, and what it runs with; no filter where there is none.
 struct FoundEntry {
-    FilterNumber number;
-    std::int32_t parameter;
+    const NumberedFilter* filter = nullptr;
+    std::int32_t parameter = 0;
 };
-std::optional<FoundEntry> FindEntry(FilterMenuPart part, int index) {
+FoundEntry FindEntry(FilterMenuPart part, int index) {
     for (const NumberedFilter& filter : AllFilters()) {
         for (const FilterEntry& entry : filter.Entries())
-            if (entry.part == part && entry.index == index) return FoundEntry{filter.number, entry.parameter};
+            if (entry.part == part && entry.index == index) return {&filter, entry.parameter};
     }
     return {};
 }
-
 ControlArray<MenuItem>& EntriesOf(MainForm& main, FilterMenuPart part) {
     switch (part) {
         case FilterMenuPart::Contrast:
@@ -105,7 +104,7 @@ void FilterMenu::Filter_Click(int index) {
         RunEntry(FilterMenuPart::Filter, index);
         const auto* effect = std::ranges::find(effectEntries, index, &EffectEntry::index);
         if (effect == std::end(effectEntries)) return;
-        if (effect->first) RunFilter(*effect->first, 0);
+        if (effect->first) RunFilter(*FindFilter(static_cast<std::int32_t>(*effect->first)), 0);
         effect->apply(context_);
     });
 }
@@ -119,7 +118,8 @@ void FilterMenu::EditSwap_Click(int index) {
 }
 
 void FilterMenu::RunEntry(FilterMenuPart part, int index) {
-    if (const auto entry = FindEntry(part, index)) RunFilter(entry->number, entry->parameter);
+    const FoundEntry entry = FindEntry(part, index);
+    if (entry.filter != nullptr) RunFilter(*entry.filter, entry.parameter);
 }
 
 void FilterMenu::ChangeCanvas(const std::function<void()>& change) {
@@ -130,9 +130,9 @@ void FilterMenu::ChangeCanvas(const std::function<void()>& change) {
     canvas.Refresh();
 }
 
-void FilterMenu::RunFilter(FilterNumber number, std::int32_t parameter) {
-    core_.FilterPicture(static_cast<std::int32_t>(number), context_.main.Pic.surface, parameter,
-                        filterProgress_);
+void FilterMenu::RunFilter(const NumberedFilter& filter, std::int32_t parameter) {
+    std::int32_t percent = 0;  // The bar shows it.
+    core_.RunFilter(&filter, context_.main.Pic.surface, parameter, percent);
 }
 
 }  // namespace coinlet

@@ -25,11 +25,10 @@ private:
     void ChangeCanvas(const std::function<void()>& change);
     /// Runs the filter of an entry; does nothing where there is none.
     void RunEntry(FilterMenuPart part, int index);
-    void RunFilter(FilterNumber number, std::int32_t parameter);
+    void RunFilter(const NumberedFilter& filter, std::int32_t parameter);
 
     Context& context_;
     FilterCore& core_;
-    std::int32_t filterProgress_ = 0;  ///< Percent.
 };
 
 }  // namespace coinlet

@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
-#include "filters/progress_bar.h"
+#include "core/progress_bar.h"
 #include "surface/surface.h"
 
 #include <algorithm>

@@ -3,9 +3,9 @@
 #include "base/numbers.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "core/progress_bar.h"
 #include "core/tool_codes.h"
 #include "core/undo.h"
-#include "filters/progress_bar.h"
 #include "surface/mirror.h"
 #include "surface/rotation.h"
 

@@ -1,4 +1,4 @@
-#include "filters/progress_bar.h"
+#include "core/progress_bar.h"
 
 #include "core/context.h"
 #include "core/main_form.h"
