@@ -5,14 +5,12 @@
 namespace coinlet {
 
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension) {
-    std::string file = (Beneath(applicationFolder, "\\Ontwerpen") / "").string();
+    std::string file = (Beneath(applicationFolder, designFolder) / "").string();
     return file.append(name).append(extension);
 }
 
-std::optional<fs::path> DesignPath(const fs::path& applicationFolder, std::string_view name,
-                                   std::string_view extension) {
-    if (!IsFileName(std::string(name).append(extension))) return {};
-    return DesignFile(applicationFolder, name, extension);
+bool IsDesignName(std::string_view name) {
+    return IsFileName(std::string(name).append(designPicture));
 }
 
 std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view name,

@@ -30,8 +30,7 @@ std::string_view AfterItem(std::string_view text) {
 }  // namespace
 
 void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls) {
-    const auto path = DesignPath(context.services.applicationFolder, name, designInfoText);
-    if (!path) return;
+    if (!IsDesignName(name)) return;
     std::string text;
     const auto addLine = [&](std::string_view line) { text.append(line).append(lineEnd); };
     addLine(banner);
@@ -39,15 +38,16 @@ void WriteDesignInfoText(const Context& context, std::string_view name, FileCall
     const ListBox& rows = context.main.List2;
     for (int i = 0; i < rows.ListCount(); ++i)
         addLine(rows.List(i));
-    static_cast<void>(ReplaceFile(*path, AsBytes(ToCodePage(text)), calls));
+    const fs::path path = DesignFile(context.services.applicationFolder, name, designInfoText);
+    static_cast<void>(ReplaceFile(path, AsBytes(ToCodePage(text)), calls));
 }
 
 void ReadDesignInfoText(const Context& context, std::string_view name) {
     ListBox& rows = context.main.List2;
     rows.Clear();
-    const fs::path& folder = context.services.applicationFolder;
-    if (!DesignPath(folder, name, designInfoText)) return;
-    const auto bytes = ReadFile(StoredDesignFile(folder, name, designInfoText), largestInfoText);
+    if (!IsDesignName(name)) return;
+    const auto bytes =
+        ReadFile(StoredDesignFile(context.services.applicationFolder, name, designInfoText), largestInfoText);
     if (!bytes) return;
     std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
     for (int item = 0; item < headerItems; ++item)

@@ -19,12 +19,6 @@
 
 namespace coinlet {
 
-namespace {
-
-constexpr std::string_view designPattern = "*.pat";
-
-}  // namespace
-
 OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFile"), context_(context) {
     LayOutOpenFile(*this);
     List1.Click = [this] { List1_Click(); };
@@ -36,20 +30,18 @@ OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFi
 
 void OpenFile::Form_Load() {
     Label2.Caption = LookupInfoText(context_, key::openFileHelp);
-    File1.SetPattern(std::string(designPattern));
-    File1.SetPath(Beneath(context_.services.applicationFolder, "\\Ontwerpen\\").string());
+    File1.SetPattern("*" + std::string(designPicture));
+    File1.SetPath(Beneath(context_.services.applicationFolder, designFolder).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         List1.AddItem(WithoutExtension(File1.List(i)));
     List1.SetFocus();
 }
 
-std::string OpenFile::PathOf(const std::string& name, std::string_view extension) const {
-    return StoredDesignFile(context_.services.applicationFolder, name, extension);
-}
-
 void OpenFile::List1_Click() {
     DelKnop.SetEnabled(true);
-    if (const auto picture = LoadPicture(PathOf(List1.Text(), designPicture), context_.services.codecs))
+    const std::string file =
+        StoredDesignFile(context_.services.applicationFolder, List1.Text(), designPicture);
+    if (const auto picture = LoadPicture(file, context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
     const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - sidePanelWidth, BackPic.surface.ScaleHeight()};
@@ -59,7 +51,7 @@ void OpenFile::List1_Click() {
 
 void OpenFile::OpenChosen() {
     const std::string name = List1.Text();
-    const std::string file = PathOf(name, designPicture);
+    const std::string file = StoredDesignFile(context_.services.applicationFolder, name, designPicture);
     Session& session = context_.session;
     session.DesignFile = file;
     // Without a choice the name is empty, and a file called ".pat" isn't meant.
@@ -97,10 +89,11 @@ void OpenFile::DelKnop_Click() {
                                                 .standard = Answer::No});
     if (answer != Answer::Yes) return;
     // A file that can't be deleted, or is gone already, is passed over: the row goes all the same.
-    static_cast<void>(DeleteFile(PathOf(name, designPicture)));
+    const fs::path& folder = context_.services.applicationFolder;
+    static_cast<void>(DeleteFile(StoredDesignFile(folder, name, designPicture)));
     List1.RemoveItem(row);
     Image1.surface.Cls();
-    static_cast<void>(DeleteFile(PathOf(name, designInfoText)));
+    static_cast<void>(DeleteFile(StoredDesignFile(folder, name, designInfoText)));
 }
 
 }  // namespace coinlet

@@ -36,8 +36,6 @@ public:
     void DelKnop_Click();
 
 private:
-    /// A file of the design `name` in the store.
-    std::string PathOf(const std::string& name, std::string_view extension) const;
     /// Puts the chosen design on the canvas, or leaves the present one if it can't be read.
     void OpenChosen();
 

@@ -129,7 +129,7 @@ void PrintDesign(const Context& context, double copies, bool withInfoText) {
 
 void PrintAllDesigns(const Context& context, FileListBox& files, Surface& picture) {
     Printer& printer = context.services.printer;
-    ListFolder(files, context, "\\Ontwerpen\\", "*.pat");
+    ListFolder(files, context, designFolder, "*" + std::string(designPicture));
     const PrintJob job(printer, PageOrientation::Portrait);
     printer.Print(sheetLeft, 600, headerFont, headerColour,
                   Header(context.services.clock, std::to_string(files.ListCount()) + " Designs"));

@@ -101,14 +101,13 @@ bool SaveForm::ExportJpeg() {
 }
 
 bool SaveForm::SaveDesign() {
-    const fs::path& folder = context_.services.applicationFolder;
-    const std::string& name = Text1.Text();
-    context_.session.DesignFile = DesignFile(folder, name, designPicture);
-    const auto target = DesignPath(folder, name, designPicture);
-    if (!target) return true;
-    if (!MayWrite(*target)) return false;
+    const std::string name = Text1.Text();
+    const std::string target = DesignFile(context_.services.applicationFolder, name, designPicture);
+    context_.session.DesignFile = target;
+    if (!IsDesignName(name)) return true;
+    if (!MayWrite(target)) return false;
     // A user who isn't told of a failure finds the older design untouched.
-    static_cast<void>(SavePicture(BmpPic.surface.Image(), *target));
+    static_cast<void>(SavePicture(BmpPic.surface.Image(), target));
     if (context_.main.List2.ListCount() > 0) WriteDesignInfoText(context_, name);
     return true;
 }
