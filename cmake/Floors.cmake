@@ -5,6 +5,12 @@
 # A new unit is a new file in the folder; no list names it.
 function(coinlet_floor name)
     cmake_parse_arguments(FLOOR "" "" "USES;LIBRARIES" ${ARGN})
+    # What tests/lint/floors.sh holds the includes against.
+    list(JOIN FLOOR_USES " " uses)
+    if(FLOOR_LIBRARIES MATCHES "Qt6::")
+        string(APPEND uses " Qt")
+    endif()
+    set_property(GLOBAL APPEND_STRING PROPERTY COINLET_FLOORS "${name}: ${uses}\n")
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
     if(NOT sources)  # headers alone
         add_library(${name} INTERFACE)
