@@ -3,6 +3,9 @@
 #include "sample_form.h"
 #include "user.h"
 
+#include <string>
+#include <vector>
+
 namespace coinlet::test {
 namespace {
 
@@ -34,6 +37,33 @@ TEST_F(Canvas, StrokeLandsOnThePixelsPointedAt) {
         EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 60, 50)), black);
         EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 61, 50)), white);
         EXPECT_EQ(user.ColourAt(user.PlaceOf(form.Pic, 21, 49)), white);
+    });
+}
+
+TEST_F(Canvas, EachEventTellsItsButtonAndAMoveTheOneThatIsHeld) {
+    std::vector<std::string> told;
+    const auto note = [&told](const char* event) {
+        return [&told, event](int button, int, float, float) {
+            const std::string line = event + std::to_string(button);
+            // However many steps a move has.
+            if (told.empty() || told.back() != line) told.push_back(line);
+        };
+    };
+    form.Pic.MouseDown = note("down ");
+    form.Pic.MouseMove = note("move ");
+    form.Pic.MouseUp = note("up ");
+    Run(form, [&](User& user) {
+        user.MoveTo(user.PlaceOf(form.Pic, 20, 30));
+        for (const int button : {1, 3}) {
+            user.Press(button);
+            user.MoveTo(user.PlaceOf(form.Pic, 40, 30));
+            user.Release(button);
+            user.MoveTo(user.PlaceOf(form.Pic, 20, 30));
+        }
+        const std::vector<std::string> expected{"move 0", "down 1", "move 1", "up 1",  "move 0",
+                                                "down 2", "move 2", "up 2",   "move 0"};
+        EXPECT_TRUE(user.Sees([&] { return told.size() >= expected.size(); }));
+        user.Has([&] { EXPECT_EQ(told, expected); });
     });
 }
 

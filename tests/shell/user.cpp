@@ -78,11 +78,11 @@ void User::Do(const std::vector<std::string>& arguments) {
 void User::MoveTo(const QPoint& place) {
     Do({"mousemove", "--sync", std::to_string(place.x()), std::to_string(place.y())});
 }
-void User::Press() {
-    Do({"mousedown", "1"});
+void User::Press(int button) {
+    Do({"mousedown", std::to_string(button)});
 }
-void User::Release() {
-    Do({"mouseup", "1"});
+void User::Release(int button) {
+    Do({"mouseup", std::to_string(button)});
 }
 void User::Click(const QPoint& place) {
     Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});

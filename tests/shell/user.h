@@ -31,8 +31,9 @@ public:
     QPoint PlaceOf(const MenuItem& item);
 
     void MoveTo(const QPoint& place);
-    void Press();
-    void Release();
+    /// Buttons as the window system counts them: 1 left, 2 middle, 3 right.
+    void Press(int button = 1);
+    void Release(int button = 1);
     void Click(const QPoint& place);
     void Click(const Control& control, int x, int y) { Click(PlaceOf(control, x, y)); }
     /// Two clicks, as quickly as a double click takes.

@@ -291,6 +291,20 @@ TEST_F(FieldsTest, ASortedListKeepsItsOrderAndItsChoice) {
     EXPECT_EQ(log.Take(), Lines{});
 }
 
+TEST_F(FieldsTest, ASortedListPutsARowBehindItsEquals) {
+    form.List.SetSorted(true);
+    for (const char* row : {"a", "b", "c"})
+        form.List.AddItem(row);
+    form.List.SetListIndex(1);
+    log.Take();
+    // So a row that is there already doesn't move the chosen one.
+    form.List.AddItem("b");
+    EXPECT_EQ(form.List.ListCount(), 4);
+    EXPECT_EQ(form.List.ListIndex(), 1);
+    EXPECT_EQ(form.List.Text(), "b");
+    EXPECT_EQ(log.Take(), Lines{});
+}
+
 TEST_F(FieldsTest, ASortedListMovesARowToThePlaceOfItsNewText) {
     form.List.SetSorted(true);
     for (const char* row : {"b", "d", "f"})
