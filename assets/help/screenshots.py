@@ -2,7 +2,8 @@
 """Takes the pictures of the manuals: of the real program's windows, and of canvases drawn without one.
 
     assets/help/screenshots.py        all of them, into assets/help/pictures/: canvases into the folder
-                                      itself, windows into a folder for each language
+                                      itself, windows into a folder for each language; the English
+                                      main window goes into docs/ too
 
 Needs the built program (cmake --preset release; ninja -C build/release) and what `dev/setup.sh assets`
 installs. What the program can't do yet is told and left out; the manuals then have text alone. Afterwards
@@ -11,6 +12,7 @@ installs. What the program can't do yet is told and left out; the manuals then h
 
 import contextlib
 import pathlib
+import shutil
 import sys
 import tempfile
 import time
@@ -22,6 +24,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
 from help import canvas, player, sample, window  # noqa: E402
 
 PICTURES = player.HERE / "pictures"
+README_PICTURE = player.ROOT / "docs/main-window.png"
 LANGUAGES = {"en": "English", "nl": "Nederlands"}  # what the program says differs; its captions don't
 TWIPS = 15
 MENU_BAR = 18
@@ -313,6 +316,8 @@ def main():
             (PICTURES / code).mkdir(parents=True, exist_ok=True)
             skipped = canvases(folder, stages) if code == "en" else []
             skipped += windows(folder, PICTURES / code)
+            if code == "en":
+                shutil.copy(PICTURES / code / "main_window.png", README_PICTURE)
             if skipped:
                 print(f"{language}: not yet in the program:", ", ".join(skipped), flush=True)
 
