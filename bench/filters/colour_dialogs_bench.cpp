@@ -1,6 +1,6 @@
 // Figures for what the dialogs that remove and replace colours do to a noisy canvas, without the screen.
 
-#include "filters/color_palettes.h"
+#include "filters/colour_palettes.h"
 #include "filters/colour_removal.h"
 #include "filters/surface_walk.h"
 #include "support/block_fonts.h"
@@ -40,7 +40,7 @@ void ByColumns(benchmark::State& state) {
     Surface source(fonts, side, side), picture(fonts, side, side);
     source.SetPicture(Noise());
     std::vector<Pixel> column;
-    const ColorPalette& palette = colorPalettes[2];
+    const ColourPalette& palette = colourPalettes[2];
     const PaletteTargets targets(palette.targets);
     for ([[maybe_unused]] auto _ : state) {
         for (int x = 0; x < side; ++x) {

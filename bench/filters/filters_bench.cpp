@@ -50,7 +50,7 @@ std::int32_t UsualParameter(FilterNumber number) {
         case FilterNumber::Defuse:
             return 6;
         case FilterNumber::Edge:
-        case FilterNumber::SwapColors:
+        case FilterNumber::SwapColours:
             return 1;
         case FilterNumber::Brightness:
             return 4;

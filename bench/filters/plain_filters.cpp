@@ -40,7 +40,7 @@ void MapByTable(PixelArray& work, const PixelArray& source, Value value) {
          [&](int c, int x, int y) { return table[static_cast<std::size_t>(Channel(source, c, x, y))]; });
 }
 
-void SwapColors(PixelArray& work, const PixelArray& source) {
+void SwapColours(PixelArray& work, const PixelArray& source) {
     for (int y = 0; y < work.Height(); ++y) {
         for (int x = 0; x < work.Width(); ++x) {
             const int blue = Channel(source, 0, x, y), green = Channel(source, 1, x, y),
@@ -243,8 +243,8 @@ void PlainFilter(FilterNumber number, std::int32_t parameter, PixelArray& work, 
             return MapByTable(work, source,
                               [exponent](int v) { return ClampRound(std::pow(v / 255.0, exponent) * 255); });
         }
-        case FilterNumber::SwapColors:
-            return SwapColors(work, source);
+        case FilterNumber::SwapColours:
+            return SwapColours(work, source);
         case FilterNumber::Contrast:
             return Contrast(parameter, work, source);
         case FilterNumber::Saturation:

@@ -14,9 +14,9 @@ namespace {
 /// The folder for what scripts make: the caller's, or one that goes again.
 class OutFolder {
 public:
-    explicit OutFolder(const std::optional<fs::path>& told) : isTemporary_(!told) {
+    explicit OutFolder(const std::optional<fs::path>& given) : isTemporary_(!given) {
         std::error_code error;
-        path_ = told ? *told : MakeTemporary();
+        path_ = given ? *given : MakeTemporary();
         fs::create_directories(path_ / "Pictures", error);
         isThere_ = !path_.empty() && !error;
     }

@@ -26,10 +26,10 @@
 namespace coinlet {
 
 struct Application::House {
-    explicit House(const Services& told)
-        : services(told),
-          main(told.ForForms()),
-          plaatjes(told.ForForms()),
+    explicit House(const Services& given)
+        : services(given),
+          main(given.ForForms()),
+          plaatjes(given.ForForms()),
           context{services, session, main, plaatjes} {
         gestures.Add(FreeHandTool(context));
         gestures.Add(LineTool(context));

@@ -76,7 +76,7 @@ bool FileExists(const fs::path& path);
 /// Deletes a regular file, or a symbolic link alone; anything else is refused.
 [[nodiscard]] std::error_code DeleteFile(const fs::path& path);
 
-/// A name that the user typed or a file told may hold anything; only a plain name leads to a file. Whatever
+/// A name that the user typed or a file held may hold anything; only a plain name leads to a file. Whatever
 /// is made into a path asks here first. False for names with a separator, "/" or the one of literals, or a
 /// zero byte, for the empty name and for "." and "..".
 bool IsFileName(std::string_view name);

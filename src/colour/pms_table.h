@@ -35,7 +35,7 @@ std::optional<PmsFields> SplitPmsLine(std::string_view line);
 /// The code that a line starts with, up to its first comma.
 std::string PmsCodeOf(std::string_view line);
 
-/// A channel told by a text, as a whole number: that of " 12" is 12, of "abc" 0; out of range it is the
+/// A channel read from a text, as a whole number: that of " 12" is 12, of "abc" 0; out of range it is the
 /// nearest there is.
 std::int16_t PmsChannel(std::string_view text);
 

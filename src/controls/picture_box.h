@@ -7,8 +7,8 @@ namespace coinlet {
 
 /// A control that shows a surface and may hold other controls, placed in the units of its scale.
 ///
-/// It keeps the told size in its container's units; the bitmap has a fifteenth of the twips, rounded half to
-/// even.
+/// It keeps the size assigned in its container's units; the bitmap has a fifteenth of the twips, rounded half
+/// to even.
 class PictureBox : public Control, public Container {
 public:
     PictureBox(Container& container, std::string_view name, int index = noIndex);

@@ -25,7 +25,7 @@ enum class PropertyKind { Flag, Number, Colour, Text };
 
 using PropertyValue = std::variant<bool, double, std::string>;
 
-/// A property by its name, in the product's vocabulary. Flags hold a bool, numbers and colours a double,
+/// A property by the name that scripts and dumps call it. Flags hold a bool, numbers and colours a double,
 /// texts a string; `set` is empty for what can only be read, takes a value of the same alternative, and has
 /// the effects (events included) that an assignment in the program has.
 struct Property {

@@ -205,16 +205,16 @@ void LayOutTools(MainForm& main) {
     Place(main.Frame4, 928, 72, 166, 508);
     for (int i = 0; i <= main.Knop.Last(); ++i) {
         VistaButton& button = main.Knop[i];
-        const ToolButton& told = toolButtons[static_cast<std::size_t>(i)];
+        const ToolButton& look = toolButtons[static_cast<std::size_t>(i)];
         const bool apart = i >= 2 * buttonsInAColumn;
         const int column = apart ? i - 2 * buttonsInAColumn : i / buttonsInAColumn;
         const int row = i % buttonsInAColumn;
         button.Move(150 + column * 1080, apart ? 3600 : 240 + row * 450,
                     columnWidths[static_cast<std::size_t>(column)], 420);
-        button.SetCaption(std::string(told.caption));
-        button.ToolTipText = told.toolTip;
+        button.SetCaption(std::string(look.caption));
+        button.ToolTipText = look.toolTip;
         FontProperties font;
-        font.FontSize = told.points;
+        font.FontSize = look.points;
         button.SetFont(font);
         button.LoadPictures(toolIconFrames);
         button.SetPicture(ToolIconStrip(i));

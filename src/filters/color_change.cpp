@@ -8,7 +8,7 @@
 #include "core/main_form.h"
 #include "core/text_keys.h"
 #include "filters/color_change_layout.h"
-#include "filters/color_palettes.h"
+#include "filters/colour_palettes.h"
 #include "filters/surface_walk.h"
 
 #include <array>
@@ -44,8 +44,8 @@ PaletteColours ColoursOf(const ControlArray<PictureBox>& boxes) {
 ColorChange::ColorChange(Context& context)
     : Form(context.services.ForForms(), "ColorChange"), context_(context) {
     LayOutColorChange(*this);
-    SetBoxes(picTarget, colorPalettes[ownPalette].targets);
-    SetBoxes(picResult, colorPalettes[ownPalette].results);
+    SetBoxes(picTarget, colourPalettes[ownPalette].targets);
+    SetBoxes(picResult, colourPalettes[ownPalette].results);
     HScroll1.Bind(&ScrollBar::Change, [this](int index) { HScroll1_Change(index); });
     HScroll1.Bind(&ScrollBar::Scroll, [this](int index) { HScroll1_Change(index); });
     picTarget.Bind(&PictureBox::Click, [this](int index) { Box_Click(picTarget[index]); });
@@ -61,7 +61,7 @@ ColorChange::ColorChange(Context& context)
 void ColorChange::Form_Load() {
     InfoLabel.Caption = LookupInfoText(context_, key::replacementHelp);
     Combo1.Clear();
-    for (const ColorPalette& palette : colorPalettes)
+    for (const ColourPalette& palette : colourPalettes)
         Combo1.AddItem(std::string(palette.name));
     Combo1.SetListIndex(ownPalette);
     for (int i = HScroll1.First(); i <= HScroll1.Last(); ++i) {
@@ -93,7 +93,7 @@ void ColorChange::Combo1_Change() {
     for (int i = Line1.First(); i <= Line1.Last(); ++i)
         Line1[i].BorderColor = chosen == ownPalette ? bracketColour : BackColor;
     if (chosen <= ownPalette) return;
-    const ColorPalette& palette = colorPalettes.at(static_cast<std::size_t>(chosen));
+    const ColourPalette& palette = colourPalettes.at(static_cast<std::size_t>(chosen));
     SetBoxes(picTarget, palette.targets);
     SetBoxes(picResult, palette.results);
 }

@@ -127,7 +127,7 @@ void FilterBrightness(FilterRun& run, std::int32_t percent) {
     MapChannelsByFactor(run, TableOf([factor](int value) { return RoundToByte(factor * value); }), factor, 0);
 }
 
-void FilterSwapColors(FilterRun& run, std::int32_t order) {
+void FilterSwapColours(FilterRun& run, std::int32_t order) {
     constexpr int blue = 0, green = 8, red = 16;  // Where a word has them.
     struct Order {
         int newRed, newGreen, newBlue;

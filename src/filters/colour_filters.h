@@ -15,7 +15,7 @@ void FilterGrayscale(FilterRun& run);
 void FilterBrightness(FilterRun& run, std::int32_t percent);
 /// `order` 1 to 5 is one of the other orders of red, green, blue: BRG, GBR, RBG, BGR, GRB. Another number
 /// leaves the picture as it is.
-void FilterSwapColors(FilterRun& run, std::int32_t order);
+void FilterSwapColours(FilterRun& run, std::int32_t order);
 /// Moves each channel away from the picture's mean gray by so many percent of its distance. What a channel
 /// can't hold goes to the other two, so that the hue stays.
 void FilterContrast(FilterRun& run, std::int32_t percent);

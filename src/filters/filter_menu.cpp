@@ -68,7 +68,7 @@ ControlArray<MenuItem>& EntriesOf(MainForm& main, FilterMenuPart part) {
     switch (part) {
         case FilterMenuPart::Contrast:
             return main.EditContrastConvert;
-        case FilterMenuPart::SwapColors:
+        case FilterMenuPart::SwapColours:
             return main.EditSwap;
         default:
             return main.Filter;
@@ -114,7 +114,7 @@ void FilterMenu::EditContrastConvert_Click(int index) {
 }
 
 void FilterMenu::EditSwap_Click(int index) {
-    ChangeCanvas([this, index] { RunEntry(FilterMenuPart::SwapColors, index); });
+    ChangeCanvas([this, index] { RunEntry(FilterMenuPart::SwapColours, index); });
 }
 
 void FilterMenu::RunEntry(FilterMenuPart part, int index) {

@@ -26,7 +26,7 @@ enum class FilterNumber : std::int32_t {
     Relief,
     Brightness,
     Pixelize,
-    SwapColors,
+    SwapColours,
     Contrast,
     Threshold,
     SharpDither,
@@ -45,7 +45,7 @@ enum class FilterNumber : std::int32_t {
 };
 
 /// The menu in which an entry stands: the Filter menu itself, or one of its two sub-menus.
-enum class FilterMenuPart { Filter, Contrast, SwapColors };
+enum class FilterMenuPart { Filter, Contrast, SwapColours };
 
 /// An entry of the menu that runs a filter with a parameter.
 struct FilterEntry {

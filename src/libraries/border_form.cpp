@@ -139,8 +139,8 @@ void BorderForm::DrawBorderPreview() {
     Pic.surface.PaintPicture(Image1[static_cast<int>(borderMetal_)].Picture, previewMiddle, tagSize);
     if (!Check1.Value()) return;
     StampHole(Pic.surface, 1, HoleColumn());
-    // On purpose not the stamp's own column: beyond the first metal there is nothing to stamp here, and only
-    // the export stamps the border.
+    // Not the stamp's own column: beyond the first metal there is nothing to stamp here, and only the export
+    // stamps the border.
     StampHole(Orgineel.surface, 2, column);
 }
 

@@ -47,7 +47,8 @@ unsigned IndexAt(const std::uint8_t* bytes, unsigned i, bool halves) {
 }  // namespace
 
 void DrawRunLengths(const Header& header, Bitmap& bitmap) {
-    constexpr std::uint8_t endOfRow = 0, endOfPicture = 1, skip = 2;  // Higher: so many pixels, told singly.
+    constexpr std::uint8_t endOfRow = 0, endOfPicture = 1,
+                           skip = 2;  // Higher: so many pixels, listed singly.
     const bool halves = header.compression == Compression::RunLength4;
     Codes codes = header.pixels;
     Pen pen(header, bitmap);

@@ -1,8 +1,8 @@
 #pragma once
 
-// Device operations: they reach a surface by its handle, under the names and with the arguments that they are
-// documented with, as far as this program uses them. Coordinates are whole pixels from the top left corner;
-// what falls outside the surface is clipped. `DrawMode` is not heeded.
+// Device operations: they reach a surface by its handle. Names and arguments are those that generations of
+// desktop programmers know them by, as far as this program uses them. Coordinates are whole pixels from the
+// top left corner; what falls outside the surface is clipped. `DrawMode` is not heeded.
 
 #include "surface/surface.h"
 
@@ -43,13 +43,13 @@ bool FloodFill(DeviceContext hDC, int x, int y, Colour colour);
 
 /// A rectangle with elliptical corners of width `w` and height `h`: its outline with the pen of `ForeColor`
 /// and `DrawWidth`, filled with `FillColor` if `FillStyle` is solidFill. The right and bottom edges lie at x2
-/// - 1 and y2 - 1. Corners told the wrong way round are exchanged; corners larger than the box are cut to it.
+/// - 1 and y2 - 1. Corners the wrong way round are exchanged; corners larger than the box are cut to it.
 void RoundRect(DeviceContext hDC, int x1, int y1, int x2, int y2, int w, int h);
 
 /// Copies in the same size. Source and target may be one surface: the source counts as it was before.
 void BitBlt(DeviceContext target, int x, int y, int w, int h, DeviceContext source, int sx, int sy,
             RasterOp op);
-/// Copies stretched, by the rule of `PaintPicture`. A negative width or height runs from the told column or
+/// Copies stretched, by the rule of `PaintPicture`. A negative width or height runs from the given column or
 /// row leftward or upward, that one included: (W - 1, 0) with -W, H is the whole picture from right to left.
 void StretchBlt(DeviceContext target, int x, int y, int w, int h, DeviceContext source, int sx, int sy,
                 int sw, int sh, RasterOp op);
@@ -72,7 +72,7 @@ constexpr int GRADIENT_FILL_RECT_V = 1;
 
 /// A two-colour gradient over each rectangle of `mesh`; the right and bottom edges are left out. Row i of n
 /// of a vertical one has the colour (c0 (n - i) + c1 i) / n in 16 bits, its low byte dropped; columns of a
-/// horizontal one alike. A rectangle told with its x or y the wrong way round is the same area; each vertex
+/// horizontal one alike. A rectangle given with its x or y the wrong way round is the same area; each vertex
 /// keeps its colour, so that the upper one gives the top colour and the left one the left colour. Returns
 /// false, drawing nothing, on an index outside `vertices` or another mode.
 bool GradientFill(DeviceContext hDC, std::span<const TRIVERTEX> vertices, std::span<const GRADIENT_RECT> mesh,

@@ -9,7 +9,7 @@
 
 namespace coinlet {
 
-/// A box whose corners are quarters of an ellipse: what is round or square in the drawing vocabulary, from a
+/// A box whose corners are quarters of an ellipse: all that is round or square on a canvas, from a
 /// dot to a box with rounded corners, is one of these. A pixel belongs to it if its centre does.
 struct RoundedBox {
     PixelRect edges;

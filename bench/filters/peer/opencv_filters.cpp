@@ -147,7 +147,7 @@ std::function<void()> PeerFilter(FilterNumber number, std::int32_t parameter, co
                          [parameter](int v) { return std::pow(v / 255.0, 100.0 / parameter) * 255; });
         case FilterNumber::Stretch:
             return Table(source, target, [](int v) { return v; });
-        case FilterNumber::SwapColors:
+        case FilterNumber::SwapColours:
             return [=]() mutable {
                 const std::array<int, 8> pairs{1, 0, 2, 1, 0, 2, 3, 3};
                 cv::mixChannels(&source, 1, &target, 1, pairs.data(), 4);

@@ -126,7 +126,7 @@ TEST_F(CircelTextTest, TextBelowGoesBackFromThreeOClock) {
     EXPECT_EQ(Dots(black).size(), 3U);
 }
 
-// All letters of long texts, with the constant of pi that the angles are told in.
+// All letters of long texts, with the pi of so many digits that the angles are computed with.
 TEST_F(CircelTextTest, EveryLetterStandsWhereItsAngleTells) {
     std::string text;
     for (int i = 0; i < 60; ++i)

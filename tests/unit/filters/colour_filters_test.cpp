@@ -11,7 +11,7 @@ using test::Filtered;
 using test::Flat;
 using test::Picture;
 
-constexpr int negative = 2, grayscale = 12, brightness = 14, swapColors = 16, contrast = 17, stretch = 28,
+constexpr int negative = 2, grayscale = 12, brightness = 14, swapColours = 16, contrast = 17, stretch = 28,
               saturation = 30, gamma = 31;
 
 /// What becomes of a picture of one pixel.
@@ -46,15 +46,15 @@ TEST(Brightness, HalvesGoToTheEvenNeighbour) {
     EXPECT_EQ(Filtered(brightness, -50, Pixel(1, 3, 5)), Pixel(0, 2, 2));
 }
 
-TEST(SwapColors, HasFiveOrders) {
+TEST(SwapColours, HasFiveOrders) {
     const Picture picture = Pixel(3, 2, 1);
-    EXPECT_EQ(Filtered(swapColors, 1, picture), Pixel(2, 1, 3));
-    EXPECT_EQ(Filtered(swapColors, 2, picture), Pixel(1, 3, 2));
-    EXPECT_EQ(Filtered(swapColors, 3, picture), Pixel(2, 3, 1));
-    EXPECT_EQ(Filtered(swapColors, 4, picture), Pixel(1, 2, 3));
-    EXPECT_EQ(Filtered(swapColors, 5, picture), Pixel(3, 1, 2));
-    EXPECT_EQ(Filtered(swapColors, 6, picture), picture);
-    EXPECT_EQ(Filtered(swapColors, 0, picture), picture);
+    EXPECT_EQ(Filtered(swapColours, 1, picture), Pixel(2, 1, 3));
+    EXPECT_EQ(Filtered(swapColours, 2, picture), Pixel(1, 3, 2));
+    EXPECT_EQ(Filtered(swapColours, 3, picture), Pixel(2, 3, 1));
+    EXPECT_EQ(Filtered(swapColours, 4, picture), Pixel(1, 2, 3));
+    EXPECT_EQ(Filtered(swapColours, 5, picture), Pixel(3, 1, 2));
+    EXPECT_EQ(Filtered(swapColours, 6, picture), picture);
+    EXPECT_EQ(Filtered(swapColours, 0, picture), picture);
 }
 
 TEST(Contrast, LeavesAFlatGray) {

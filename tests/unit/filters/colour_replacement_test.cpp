@@ -1,7 +1,7 @@
 // Replacing by a palette and by a metal, against the rule worked out slowly.
 #include "filters/colour_replacement.h"
 
-#include "filters/color_palettes.h"
+#include "filters/colour_palettes.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -112,7 +112,7 @@ TEST(ColourReplacement, ReducesAnyPictureToFiveColoursByTheFirstExample) {
     Pixels pixels(10000);
     for (Pixel& pixel : pixels)
         pixel = ToPixel(dice.AnyColour());
-    const ColorPalette& example = colorPalettes[1];
+    const ColourPalette& example = colourPalettes[1];
     PaletteTargets(example.targets).Replace(pixels, example.results);
     const std::set<Pixel> left(pixels.begin(), pixels.end());
     std::set<Pixel> allowed;

@@ -22,7 +22,7 @@ TEST(FilterTable, GivesEveryEntryOfTheMenuAPlaceOfItsOwn) {
 }
 
 TEST(FilterTable, SwapsByTheNumberOfTheEntry) {
-    for (const FilterEntry& entry : FindFilter(static_cast<int>(FilterNumber::SwapColors))->Entries())
+    for (const FilterEntry& entry : FindFilter(static_cast<int>(FilterNumber::SwapColours))->Entries())
         EXPECT_EQ(entry.parameter, entry.index) << entry.caption;
 }
 

@@ -256,7 +256,7 @@ void OrderedDither(const Picture& source, Picture& work) {
     });
 }
 
-void SwapColors(int order, const Picture& source, Picture& work) {
+void SwapColours(int order, const Picture& source, Picture& work) {
     Everywhere(source, [&](int x, int y) {
         const int b = source(1, x, y), g = source(2, x, y), r = source(3, x, y);
         const auto put = [&](int red, int green, int blue) {
@@ -376,7 +376,7 @@ Picture SlowFilter(int number, std::int32_t parameter, const Picture& source, Ra
             Pixelize(parameter, source, work);
             break;
         case 16:
-            SwapColors(parameter, source, work);
+            SwapColours(parameter, source, work);
             break;
         case 17:
             Contrast(parameter, source, work);

@@ -92,7 +92,7 @@ TEST(GradientFill, WithTheXTheWrongWayRoundItIsTheSameArea) {
 }
 
 TEST(GradientFill, EachVertexKeepsItsColour) {
-    // The lower vertex told first: its colour is still the bottom one.
+    // The lower vertex given first: its colour is still the bottom one.
     Surface surface(fonts, 2, 2);
     Fill(surface, Vertex(0, 2, 200, 0, 0), Vertex(2, 0, 0, 0, 0), GRADIENT_FILL_RECT_V);
     EXPECT_EQ(GetPixel(surface.hDC(), 0, 0), RGB(0, 0, 0));

@@ -9,7 +9,7 @@ namespace coinlet {
 
 /// An entry of the list of palettes. The first one, with its index, is the user's own: it holds what the
 /// boxes show when the dialog opens, and choosing it again leaves them alone.
-struct ColorPalette {
+struct ColourPalette {
     std::string_view name;
     PaletteColours targets, results;
 };
@@ -29,7 +29,7 @@ constexpr PaletteColours mixed{RGB(255, 255, 0), RGB(0, 255, 255), RGB(255, 0, 2
 
 }  // namespace palette_colours
 
-constexpr std::array<ColorPalette, 11> colorPalettes{{
+constexpr std::array<ColourPalette, 11> colourPalettes{{
     {"Current Colors", palette_colours::plainDarkGreen, palette_colours::plainDarkGreen},
     {"Example1", palette_colours::plainDarkGreen, palette_colours::plainDarkGreen},
     {"Example2",
