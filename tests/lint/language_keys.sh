@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Every text that the code looks up stands in the tables of both languages, and both hold the same keys.
+# Every text that the code looks up stands in the tables of both languages, and both hold the same keys. The code
+# has each key in one place, under a name.
 set -euo pipefail
 cd "$1"
 
@@ -7,10 +8,12 @@ faults=0
 complain() { echo "$1"; faults=$((faults + 1)); }
 
 keys_of() { LC_ALL=C grep -aoE '^[0-9]{3}' "data/Data/$1.txt"; }
-# Keys are the only literals of three digits, but for two colour channels of the session.
-used() { grep -rhoE '"[0-9]{3}"' src --include='*.cpp' --include='*.h' --exclude=session.h | tr -d '"' | sort -u; }
+names=src/core/text_keys.h
+used() { grep -ohE '"[0-9]{3}"' $names | tr -d '"' | sort -u; }
 
 [ "$(used | wc -l)" -gt 0 ] || complain "no key found in the code"
+while IFS= read -r hit; do complain "$hit: a key by its number; $names names them"; done \
+    < <(grep -rnE '"[0-9]{3}"' src --include='*.cpp' --include='*.h' --exclude="${names##*/}" || true)
 for language in Nederlands English; do
     while IFS= read -r key; do
         keys_of "$language" | grep -qx "$key" || complain "data/Data/$language.txt: no text for $key"
