@@ -1,9 +1,10 @@
 #!/usr/bin/python3
 """Takes the pictures of the manuals: of the real program's windows, and of canvases drawn without one.
 
-    assets/help/screenshots.py        all of them, into assets/help/pictures/: canvases into the folder
-                                      itself, windows into a folder for each language; the English
-                                      main window goes into docs/ too
+    assets/help/screenshots.py           all of them, into assets/help/pictures/: canvases into the folder
+                                         itself, windows into a folder for each language; the English
+                                         main window goes into docs/ too
+    assets/help/screenshots.py NAME...   the windows whose names begin so, such as main_window or dialog_arc
 
 Needs the built program (cmake --preset release; ninja -C build/release) and what `dev/setup.sh assets`
 installs. What the program can't do yet is told and left out; the manuals then have text alone. Afterwards
@@ -11,6 +12,7 @@ installs. What the program can't do yet is told and left out; the manuals then h
 """
 
 import contextlib
+import functools
 import pathlib
 import shutil
 import sys
@@ -95,9 +97,10 @@ def part(picture, box):
 class Camera:
     """Takes the pictures of the program's windows, with the sample on the canvas."""
 
-    def __init__(self, application_folder, pictures):
+    def __init__(self, application_folder, pictures, names):
         self.folder = application_folder
         self.pictures = pictures
+        self.names = names
         self.program = window.Program(application_folder)
         self.main = self.program.main
         self.titles = text_columns(self.main)
@@ -105,7 +108,13 @@ class Camera:
         self.places = {}
 
     def keep(self, name, picture):
-        save(self.pictures / f"{name}.png", picture)
+        if self.wants(name):
+            save(self.pictures / f"{name}.png", picture)
+
+    def wants(self, *starts):
+        """Some picture with such a beginning is to be taken."""
+        return not self.names or any(one.startswith(two) or two.startswith(one) for one in self.names
+                                     for two in starts)
 
     def place(self, opened, control):
         """The left, top, width and height of a dialog's control, in pixels: the player tells it."""
@@ -264,36 +273,44 @@ def text_columns(main):
 
 
 @contextlib.contextmanager
-def camera_before(folder, pictures):
+def camera_before(folder, pictures, names):
     """The program started anew, and somebody with a camera before it."""
-    camera = Camera(folder, pictures)
+    camera = Camera(folder, pictures, names)
     try:
         yield camera
     finally:
         camera.program.end()
 
 
-def windows(folder, pictures):
+def take(camera, steps):
+    """Those of the steps that take a picture that is wanted; each with the beginnings of its pictures' names."""
+    for step, *starts in steps:
+        if camera.wants(*starts):
+            step()
+
+
+def dialogs(camera, names):
+    return [(functools.partial(camera.dialog, name), f"dialog_{name}") for name in names]
+
+
+def windows(folder, pictures, names):
     """Takes the pictures of the windows. Gives the names of those that can't be taken yet."""
     with window.screen():
-        with camera_before(folder, pictures) as camera:
+        with camera_before(folder, pictures, names) as camera:
             camera.open_design()
-            camera.main_window()
-            camera.menus()
-            camera.popups()
-            camera.screen_information()
-            for name in DIALOGS:
-                if name not in ON_PAPER:
-                    camera.dialog(name)
-            camera.paste_menu()
-            camera.browser()
-        with camera_before(folder, pictures) as second:
-            for name in ON_PAPER:
-                second.dialog(name)
+            take(camera, [
+                (camera.main_window, "main_window", "tool_strip", "side_panel"), (camera.menus, "menu"),
+                (camera.popups, "popup_shapes", "popup_flip", "panel"), (camera.screen_information, "screen_info"),
+                *dialogs(camera, [name for name in DIALOGS if name not in ON_PAPER]),
+                (camera.paste_menu, "popup_paste"), (camera.browser, "browser"),
+            ])
+        with camera_before(folder, pictures, names) as second:
+            take(second, dialogs(second, ON_PAPER))
     return camera.skipped + second.skipped
 
 
 def canvases(folder, stages):
+    """Takes the pictures that need no window. Gives the names of those that can't be taken yet."""
     flips = canvas.flips(folder, stages["coloured"])
     pictures = {f"design_{name}": picture for name, picture in stages.items()}
     pictures |= canvas.shapes(folder) | canvas.filters(folder) | flips
@@ -307,15 +324,15 @@ def write_collection(folder):
     (folder / "Collection" / "Collection.col").write_bytes(catalogue.encode("cp1252"))
 
 
-def main():
+def main(names):
     for code, language in LANGUAGES.items():
         with tempfile.TemporaryDirectory() as scratch:
             folder = player.fresh_application_folder(pathlib.Path(scratch) / "application", language)
             write_collection(folder)
             stages = sample.make(folder)
             (PICTURES / code).mkdir(parents=True, exist_ok=True)
-            skipped = canvases(folder, stages) if code == "en" else []
-            skipped += windows(folder, PICTURES / code)
+            skipped = canvases(folder, stages) if code == "en" and not names else []
+            skipped += windows(folder, PICTURES / code, names)
             if code == "en":
                 shutil.copy(PICTURES / code / "main_window.png", README_PICTURE)
             if skipped:
@@ -323,4 +340,4 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    main(sys.argv[1:])
