@@ -78,7 +78,7 @@ def faults_of_line(line, all_keys):
     if "static_assert" in line or re.match(r"\s*(namespace|template|using|enum)\b", line):
         return
     for match in re.finditer(r"(?<![\w.'])\d+(?![\w.'])", line):
-        if not re.search(r"(array|Array|span)<[^>]*$", line[:match.start()]):
+        if not re.search(r"\b(array|span)<[^;(]*$", line[:match.start()]):
             yield "off by one", match.start(), match[0], str(int(match[0]) + 1)
     for match in re.finditer(r"(?<= )(<=|>=|==|!=|<|>|&&|\|\|)(?= )", line):
         yield "flipped condition", match.start(), match[0], CONDITIONS[match[0]]

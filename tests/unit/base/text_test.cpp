@@ -108,6 +108,10 @@ TEST(Utf8, OneToFourBytes) {
     EXPECT_EQ(Utf8(0x10000), "\xF0\x90\x80\x80");
     EXPECT_EQ(Utf8(0x10FFFF), "\xF4\x8F\xBF\xBF");
     EXPECT_EQ(Utf8(0), std::string(1, '\0'));
+    // Bytes that differ: an e with an accent, the euro, a clef.
+    EXPECT_EQ(Utf8(0xE9), "\xC3\xA9");
+    EXPECT_EQ(Utf8(0x20AC), "\xE2\x82\xAC");
+    EXPECT_EQ(Utf8(0x1D11E), "\xF0\x9D\x84\x9E");
 }
 
 TEST(Utf8, OutsideUnicodeIsTheReplacementCharacter) {
