@@ -57,7 +57,7 @@ std::vector<std::string> Entries(const fs::path& folder, const Wanted& wanted) {
         if (wanted(*entry, name)) names.push_back(std::move(name));
         entry.increment(error);
     }
-    std::sort(names.begin(), names.end(), LessIgnoringCase);
+    std::sort(names.begin(), names.end(), ComesBefore);
     return names;
 }
 

@@ -127,6 +127,42 @@ char32_t LowerCodePoint(char32_t c) {
     return c;
 }
 
+// The letters that a small letter consists of, accents aside.
+std::u32string_view BaseOf(const char32_t& small) {
+    struct Family {
+        char32_t first, last;
+        std::u32string_view base;
+    };
+    static constexpr Family families[] = {
+        {0xDF, 0xDF, U"ss"},  {0xE0, 0xE5, U"a"},    {0xE6, 0xE6, U"ae"},  {0xE7, 0xE7, U"c"},
+        {0xE8, 0xEB, U"e"},   {0xEC, 0xEF, U"i"},    {0xF0, 0xF0, U"d"},   {0xF1, 0xF1, U"n"},
+        {0xF2, 0xF6, U"o"},   {0xF8, 0xF8, U"o"},    {0xF9, 0xFC, U"u"},   {0xFD, 0xFD, U"y"},
+        {0xFE, 0xFE, U"th"},  {0xFF, 0xFF, U"y"},    {0x100, 0x105, U"a"}, {0x106, 0x10D, U"c"},
+        {0x10E, 0x111, U"d"}, {0x112, 0x11B, U"e"},  {0x11C, 0x123, U"g"}, {0x124, 0x127, U"h"},
+        {0x128, 0x131, U"i"}, {0x132, 0x133, U"ij"}, {0x134, 0x135, U"j"}, {0x136, 0x138, U"k"},
+        {0x139, 0x142, U"l"}, {0x143, 0x14B, U"n"},  {0x14C, 0x151, U"o"}, {0x152, 0x153, U"oe"},
+        {0x154, 0x159, U"r"}, {0x15A, 0x161, U"s"},  {0x162, 0x167, U"t"}, {0x168, 0x173, U"u"},
+        {0x174, 0x175, U"w"}, {0x176, 0x178, U"y"},  {0x179, 0x17E, U"z"}, {0x17F, 0x17F, U"s"},
+        {0x300, 0x36F, U""},  // an accent that stands alone
+    };
+    const auto* const found =
+        std::ranges::find_if(families, [&](const Family& family) { return small <= family.last; });
+    const bool isMember = found != std::end(families) && small >= found->first;
+    return isMember ? found->base : std::u32string_view(&small, 1);
+}
+
+std::u32string BaseLetters(std::string_view utf8) {
+    std::u32string letters;
+    letters.reserve(utf8.size());
+    ForEachCharacter(utf8, [&](std::optional<char32_t> codePoint, std::string_view bytes) {
+        // Bytes that are no character come after all that are.
+        const char32_t small = codePoint ? LowerCodePoint(*codePoint)
+                                         : lastCodePoint + 1 + static_cast<unsigned char>(bytes.front());
+        letters += BaseOf(small);
+    });
+    return letters;
+}
+
 }  // namespace
 
 std::string FromCodePage(std::string_view bytes) {
@@ -205,9 +241,27 @@ std::string LowerCase(std::string_view utf8) {
     return lower;
 }
 
-bool LessIgnoringCase(std::string_view a, std::string_view b) {
+bool ComesBefore(std::string_view a, std::string_view b) {
+    const std::u32string baseA = BaseLetters(a), baseB = BaseLetters(b);
+    if (baseA != baseB) return baseA < baseB;
     const std::string lowerA = LowerCase(a), lowerB = LowerCase(b);
     return lowerA != lowerB ? lowerA < lowerB : a < b;
+}
+
+std::string_view FirstLine(std::string_view utf8) {
+    constexpr std::string_view lineSeparator = "\u2028", paragraphSeparator = "\u2029";
+    const auto breakLength = [](std::string_view text) -> std::size_t {
+        if (text.starts_with('\r') || text.starts_with('\n')) return 1;
+        if (text.starts_with(lineSeparator) || text.starts_with(paragraphSeparator))
+            return lineSeparator.size();
+        return 0;
+    };
+    while (const std::size_t length = breakLength(utf8))
+        utf8.remove_prefix(length);
+    std::size_t end = 0;
+    while (end < utf8.size() && breakLength(utf8.substr(end)) == 0)
+        ++end;
+    return utf8.substr(0, end);
 }
 
 std::vector<std::string> Lines(std::string_view text) {

@@ -29,9 +29,15 @@ std::string_view TrimBlanks(std::string_view text);
 /// `text` with its ASCII letters in lower case, and those of Latin-1 and Latin Extended-A too (É -> é).
 std::string LowerCase(std::string_view utf8);
 
-/// Orders texts without regard to case; texts that differ in case alone are ordered by their bytes, so that a
-/// sorted list is always the same list.
-bool LessIgnoringCase(std::string_view a, std::string_view b);
+/// The order of sorted lists, the same on every desktop. Letters with accents stand beside their base letter
+/// (é between e and f), joined ones as their letters (æ as ae), for Latin-1 and Latin Extended-A. Texts of
+/// the same base letters are ordered by their accents, then by case, capitals first; only equal texts are
+/// equal.
+bool ComesBefore(std::string_view a, std::string_view b);
+
+/// What stands before the first line break of a text, those in front of it passed over: what a field of one
+/// line takes. Line breaks are CR, LF and the separators of lines and paragraphs of Unicode.
+std::string_view FirstLine(std::string_view utf8);
 
 /// The lines of a text; CR LF, LF and CR end a line. An end after the last line starts no further one.
 std::vector<std::string> Lines(std::string_view text);

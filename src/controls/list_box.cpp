@@ -14,7 +14,7 @@ const std::string& RowList::Row(int index) const {
 }
 
 int RowList::PlaceOf(const std::string& row) const {
-    return static_cast<int>(std::ranges::upper_bound(rows_, row, LessIgnoringCase) - rows_.begin());
+    return static_cast<int>(std::ranges::upper_bound(rows_, row, ComesBefore) - rows_.begin());
 }
 
 void RowList::Add(const std::string& row) {

@@ -198,7 +198,7 @@ std::vector<std::string> QtFontEngine::Families() const {
     const QStringList families = QFontDatabase::families();
     for (const QString& family : families)
         if (!QFontDatabase::isPrivateFamily(family)) names.push_back(family.toStdString());
-    std::sort(names.begin(), names.end(), LessIgnoringCase);
+    std::sort(names.begin(), names.end(), ComesBefore);
     names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }

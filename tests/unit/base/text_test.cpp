@@ -4,6 +4,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 
 namespace coinlet {
@@ -147,16 +148,98 @@ TEST(LowerCase, OfSmallLettersIsThemselves) {
     }
 }
 
-TEST(LessIgnoringCase, IgnoresCaseButIsAStrictOrder) {
-    EXPECT_TRUE(LessIgnoringCase("apple", "Banana"));
-    EXPECT_FALSE(LessIgnoringCase("Banana", "apple"));
-    EXPECT_TRUE(LessIgnoringCase("a", "ab"));
-    EXPECT_TRUE(LessIgnoringCase("", "a"));
+TEST(ComesBefore, IgnoresCaseButIsAStrictOrder) {
+    EXPECT_TRUE(ComesBefore("apple", "Banana"));
+    EXPECT_FALSE(ComesBefore("Banana", "apple"));
+    EXPECT_TRUE(ComesBefore("a", "ab"));
+    EXPECT_TRUE(ComesBefore("", "a"));
     // Case alone: by bytes, capitals first; never equal, never both.
-    EXPECT_TRUE(LessIgnoringCase("A", "a"));
-    EXPECT_FALSE(LessIgnoringCase("a", "A"));
-    EXPECT_FALSE(LessIgnoringCase("same", "same"));
-    EXPECT_TRUE(LessIgnoringCase("Éa", "éb"));
+    EXPECT_TRUE(ComesBefore("A", "a"));
+    EXPECT_FALSE(ComesBefore("a", "A"));
+    EXPECT_FALSE(ComesBefore("same", "same"));
+    EXPECT_TRUE(ComesBefore("Éa", "éb"));
+}
+
+/// Each is to stand before the next one, and not the other way round.
+void ExpectOrder(const Texts& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        for (std::size_t j = 0; j < texts.size(); ++j)
+            EXPECT_EQ(ComesBefore(texts[i], texts[j]), i < j) << texts[i] << ", " << texts[j];
+    }
+}
+
+TEST(ComesBefore, PutsLettersWithAccentsBesideTheirBaseLetter) {
+    ExpectOrder({"Ängel", "Anton", "Zulu"});
+    ExpectOrder({"Ebro", "Echo", "éclair", "edel", "Zulu"});
+    // The accent counts where the letters are the same, and case after that.
+    ExpectOrder({"RESUME", "resume", "résumé", "resumes", "résumés"});
+    ExpectOrder({"cote", "coté", "côte", "côté", "coter"});
+    ExpectOrder({"Eva", "eva", "Éva", "éva", "Evb"});
+}
+
+TEST(ComesBefore, TakesJoinedLettersApart) {
+    ExpectOrder({"ad", "æ", "af"});
+    ExpectOrder({"odd", "œuf", "of"});
+    ExpectOrder({"Strasse", "Straße", "Strassf"});
+    ExpectOrder({"ĳs", "ik"});
+    ExpectOrder({"lob", "Łódź", "low"});
+    ExpectOrder({"tg", "þing", "ti"});
+}
+
+TEST(ComesBefore, TakesAMarkOfItsOwnAsAnAccent) {
+    ExpectOrder({"Ebro", "e\u0301clair", "edel"});
+    ExpectOrder({"eclair", "e\u0301clair", "éclair", "eclairs"});
+}
+
+TEST(ComesBefore, KnowsEveryLetterOfEuropeWithAnAccent) {
+    const std::map<std::string, std::string> families{{"a", "ÀÁÂÃÄÅàáâãäåĀāĂăĄą"},
+                                                      {"c", "ÇçĆćĈĉĊċČč"},
+                                                      {"d", "ĎďĐđÐð"},
+                                                      {"e", "ÈÉÊËèéêëĒēĔĕĖėĘęĚě"},
+                                                      {"g", "ĜĝĞğĠġĢģ"},
+                                                      {"h", "ĤĥĦħ"},
+                                                      {"i", "ÌÍÎÏìíîïĨĩĪīĬĭĮįİı"},
+                                                      {"j", "Ĵĵ"},
+                                                      {"k", "Ķķĸ"},
+                                                      {"l", "ĹĺĻļĽľĿŀŁł"},
+                                                      {"n", "ÑñŃńŅņŇňŊŋŉ"},
+                                                      {"o", "ÒÓÔÕÖØòóôõöøŌōŎŏŐő"},
+                                                      {"r", "ŔŕŖŗŘř"},
+                                                      {"s", "ŚśŜŝŞşŠšſ"},
+                                                      {"t", "ŢţŤťŦŧ"},
+                                                      {"u", "ÙÚÛÜùúûüŨũŪūŬŭŮůŰűŲų"},
+                                                      {"w", "Ŵŵ"},
+                                                      {"y", "ÝýÿŶŷŸ"},
+                                                      {"z", "ŹźŻżŽž"}};
+    for (const auto& [base, letters] : families) {
+        const std::string next(1, static_cast<char>(base[0] + 1));
+        for (const std::string& letter : Characters(letters)) {
+            EXPECT_TRUE(ComesBefore(base, letter)) << letter;
+            EXPECT_TRUE(ComesBefore(letter, base + "a")) << letter;
+            EXPECT_TRUE(ComesBefore(letter, next)) << letter;
+        }
+    }
+}
+
+TEST(ComesBefore, OrdersWhatIsNoUtf8AtTheEnd) {
+    ExpectOrder({"z", "Ж", "\x80", "\xFF"});
+}
+
+TEST(FirstLine, IsWhatStandsBeforeALineBreak) {
+    EXPECT_EQ(FirstLine("one"), "one");
+    EXPECT_EQ(FirstLine(""), "");
+    EXPECT_EQ(FirstLine("one\r\ntwo"), "one");
+    EXPECT_EQ(FirstLine("one\ntwo\nthree"), "one");
+    EXPECT_EQ(FirstLine("one\rtwo"), "one");
+    EXPECT_EQ(FirstLine("one\n"), "one");
+    EXPECT_EQ(FirstLine("one\u2028two"), "one");
+    EXPECT_EQ(FirstLine("one\u2029two"), "one");
+    // Those in front are passed over.
+    EXPECT_EQ(FirstLine("\r\n\n\u2029one\ntwo"), "one");
+    EXPECT_EQ(FirstLine("\n\n"), "");
+    // Other signs from the same corner of Unicode are none.
+    EXPECT_EQ(FirstLine("one\u2027two\u2030"), "one\u2027two\u2030");
+    EXPECT_EQ(FirstLine("  one\ttwo "), "  one\ttwo ");
 }
 
 TEST(Lines, AnyKindOfEnd) {
