@@ -249,7 +249,7 @@ bool ComesBefore(std::string_view a, std::string_view b) {
 }
 
 std::string_view FirstLine(std::string_view utf8) {
-    constexpr std::string_view lineSeparator = "\u2028", paragraphSeparator = "\u2029";
+    static constexpr std::string_view lineSeparator = "\u2028", paragraphSeparator = "\u2029";
     const auto breakLength = [](std::string_view text) -> std::size_t {
         if (text.starts_with('\r') || text.starts_with('\n')) return 1;
         if (text.starts_with(lineSeparator) || text.starts_with(paragraphSeparator))

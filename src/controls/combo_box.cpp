@@ -1,5 +1,6 @@
 #include "controls/combo_box.h"
 
+#include "base/text.h"
 #include "controls/text_box.h"
 
 namespace coinlet {
@@ -26,8 +27,9 @@ void ComboBox::SetListIndex(int index) {
 }
 
 void ComboBox::SetText(const std::string& text) {
-    if (text == text_) return;
-    text_ = text;
+    const std::string_view taken = FirstLine(text);
+    if (taken == text_) return;
+    text_ = taken;
     rows_.Choose(-1);
     Change();
 }
@@ -41,7 +43,7 @@ void ComboBox::UserTypes(std::string_view character) {
 }
 
 void ComboBox::UserEdits(const std::string& text) {
-    if (Answers()) SetText(text);
+    if (Answers()) SetText(EditedLine(text_, text));
 }
 
 void ComboBox::KeyPressed(int code, int shift) {

@@ -28,6 +28,7 @@ public:
     /// passed over.
     void SetListIndex(int index);
     const std::string& Text() const { return text_; }
+    /// The first line of a text of several.
     void SetText(const std::string& text);
 
     Event<> Change;
@@ -36,7 +37,7 @@ public:
     void UserPicks(int index);
     /// The user types one character behind the text; a control character types nothing.
     void UserTypes(std::string_view character);
-    /// The user's editing made the text what it now is.
+    /// The user's editing made the text what it now is; of what it put in, the first line is taken.
     void UserEdits(const std::string& text);
     /// Up and down step through the rows.
     void KeyPressed(int code, int shift) override;

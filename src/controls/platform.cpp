@@ -1,5 +1,7 @@
 #include "controls/platform.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -111,9 +113,9 @@ Answer Platform::ShowMessage(const Message& message) {
 std::string Platform::InputBox(const std::string& prompt, const std::string& title,
                                const std::string& standard) {
     if (ended_) return {};
-    std::string text = AskText(prompt, title, standard);
+    const std::string text = AskText(prompt, title, standard);
     ThrowIfEnded();
-    return text;
+    return std::string(FirstLine(text));
 }
 
 std::string Platform::PickFolder(const std::string& title) {

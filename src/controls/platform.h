@@ -63,7 +63,7 @@ public:
     void Wait(double seconds);
 
     Answer ShowMessage(const Message& message);
-    /// The user's text; empty if he cancels.
+    /// The user's text, which is one line; empty if he cancels.
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& standard);
     /// The path of the folder that the user chose; empty if he cancels.
     std::string PickFolder(const std::string& title);

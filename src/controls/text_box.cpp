@@ -1,6 +1,9 @@
 #include "controls/text_box.h"
 
+#include "base/text.h"
+
 #include <algorithm>
+#include <cstddef>
 
 namespace coinlet {
 
@@ -11,14 +14,36 @@ std::string TypedText(std::string_view character, bool multiLine) {
     return text;
 }
 
+std::string EditedLine(std::string_view before, std::string_view edited) {
+    if (FirstLine(edited) == edited) return std::string(edited);
+    const auto startsInCharacter = [](std::string_view text) {
+        return !text.empty() && (static_cast<unsigned char>(text.front()) & 0xC0) == 0x80;
+    };
+    const std::size_t most = std::min(before.size(), edited.size());
+    std::size_t inFront = 0, behind = 0;
+    while (inFront < most && before[inFront] == edited[inFront])
+        ++inFront;
+    while (inFront > 0 && startsInCharacter(edited.substr(inFront)))
+        --inFront;
+    while (behind < most - inFront &&
+           before[before.size() - 1 - behind] == edited[edited.size() - 1 - behind])
+        ++behind;
+    while (startsInCharacter(edited.substr(edited.size() - behind)))
+        --behind;
+    const std::size_t end = edited.size() - behind;
+    const std::string_view inserted = edited.substr(inFront, end - inFront);
+    return std::string(edited.substr(0, inFront)).append(FirstLine(inserted)).append(edited.substr(end));
+}
+
 TextBox::TextBox(Container& container, std::string_view name, int index)
     : Control(container, name, index, ControlKind::TextBox) {
     MakeFocusable();
 }
 
 void TextBox::SetText(const std::string& text) {
-    if (text == text_) return;
-    text_ = text;
+    const std::string_view taken = MultiLine ? std::string_view(text) : FirstLine(text);
+    if (taken == text_) return;
+    text_ = taken;
     Change();
 }
 
@@ -27,7 +52,7 @@ void TextBox::UserTypes(std::string_view character) {
 }
 
 void TextBox::UserEdits(const std::string& text) {
-    if (Answers() && !Locked) SetText(text);
+    if (Answers() && !Locked) SetText(MultiLine ? text : EditedLine(text_, text));
 }
 
 void TextBox::VisitProperties(PropertyVisitor& visitor) {

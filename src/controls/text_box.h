@@ -15,12 +15,12 @@ public:
     TextBox(Container& container, std::string_view name, int index = noIndex);
 
     const std::string& Text() const { return text_; }
-    /// A changed text raises `Change`.
+    /// A changed text raises `Change`. A box of one line takes the first line.
     void SetText(const std::string& text);
 
     Colour ForeColor = fieldTextColour;
     Colour BackColor = fieldColour;
-    bool MultiLine = false;       ///< Lines end in CR LF; long ones wrap.
+    bool MultiLine = false;       ///< Lines end in CR LF; long ones wrap. To be set before the text.
     bool VerticalScroll = false;  ///< A scroll bar at the right, for multi-line boxes.
     bool Locked = false;          ///< The user can read and copy, but not change.
 
@@ -34,7 +34,8 @@ public:
     /// The user types one character behind the text; `Change` comes once a character. A control character
     /// other than a line end in a multi-line box types nothing; nor does anything in a locked box.
     void UserTypes(std::string_view character);
-    /// The user's editing made the text what it now is.
+    /// The user's editing made the text what it now is. Of what it put into a box of one line, the first line
+    /// is taken.
     void UserEdits(const std::string& text);
 
     bool PassesEnterOn() const override { return !MultiLine; }
@@ -49,5 +50,9 @@ private:
 /// What a typed character adds to a field: itself without control characters; a line end adds CR LF to a
 /// field of several lines.
 std::string TypedText(std::string_view character, bool multiLine);
+
+/// What a field of one line holds after an edit that turned `before`, which is one line, into `edited`: of
+/// what was put in the first line, and all that stood around it.
+std::string EditedLine(std::string_view before, std::string_view edited);
 
 }  // namespace coinlet

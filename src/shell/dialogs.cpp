@@ -1,10 +1,12 @@
 #include "shell/dialogs.h"
 
+#include "shell/one_line.h"
 #include "shell/qt_text.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -81,6 +83,8 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     // The box makes its buttons when it is first asked for its size.
     box.adjustSize();
     TakeIconsOff(box);
+    for (auto* field : box.findChildren<QLineEdit*>())
+        KeepToOneLine(*field);
     return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }
 

@@ -5,6 +5,7 @@
 #include "shell/event_gate.h"
 #include "shell/line_layout.h"
 #include "shell/look.h"
+#include "shell/one_line.h"
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
@@ -44,7 +45,6 @@ protected:
         if (foreChanged || backChanged) Widget().setPalette(FieldPalette(fore_, back_));
         if (Differs(locked_, box.Locked)) ShowLocked(locked_);
         if (Differs(text_, box.Text())) {
-            const QSignalBlocker silent(Widget());
             ShowText(ToQString(text_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
         }
         if (Differs(selections_, box.Selections())) SelectShownText();
@@ -70,6 +70,7 @@ class LineView : public TextBoxView {
 public:
     LineView(TextBox& box, QLineEdit& widget, EventGate& gate)
         : TextBoxView(box, widget, gate), line_(widget) {
+        KeepToOneLine(widget);
         connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
@@ -130,6 +131,7 @@ public:
 protected:
     void SelectShownText() override { lines_.selectAll(); }
     void ShowText(const QString& text) override {
+        const QSignalBlocker silent(lines_);
         const int cursor = lines_.textCursor().position();
         lines_.setPlainText(text);
         QTextCursor place = lines_.textCursor();

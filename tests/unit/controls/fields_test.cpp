@@ -126,6 +126,54 @@ TEST_F(FieldsTest, AReversedBarHasMinAtItsLeftEnd) {
     EXPECT_FALSE(form.Bar.Inert());
 }
 
+TEST_F(FieldsTest, AFieldOfOneLineTakesTheFirstLineOfATextAssigned) {
+    for (const char* text : {"one\r\ntwo", "\n\r\none\ntwo", "one\u2028two", "one\r"}) {
+        form.Text.SetText("");
+        form.Combo.SetText("");
+        form.Text.SetText(text);
+        form.Combo.SetText(text);
+        EXPECT_EQ(form.Text.Text(), "one") << text;
+        EXPECT_EQ(form.Combo.Text(), "one") << text;
+    }
+    log.Take();
+    // What is left of it stands there already.
+    form.Text.SetText("one\nthree");
+    form.Combo.SetText("one\nthree");
+    EXPECT_EQ(log.Take(), Lines{});
+    form.Text.MultiLine = true;
+    form.Text.SetText("one\r\nthree");
+    EXPECT_EQ(form.Text.Text(), "one\r\nthree");
+}
+
+TEST_F(FieldsTest, AFieldOfOneLineTakesTheFirstLineOfATextInserted) {
+    struct Case {
+        const char *before, *edited, *after;
+    };
+    constexpr Case cases[] = {
+        {"", "72\n15\n8", "72"},
+        {"ac", "ab\r\nxc", "abc"},  // around the caret all stays
+        {"ac", "a\nb\nxc", "abc"},  // a break in front is dropped
+        {"abcd", "aX\nYd", "aXd"},  // in the place of what was selected
+        {"ab", "ab\n", "ab"},
+        {"ab", "\nab", "ab"},
+        {"aa", "aa\naa", "aaaa"},
+        {"x\u00E8", "x\u00E8\u2028", "x\u00E8"},  // the last bytes of both are alike
+        {"\u00E8", "\u00E9\n\u00E8", "\u00E9\u00E8"},
+        {"ab", "cd", "cd"},
+    };
+    for (const auto& [before, edited, after] : cases) {
+        form.Text.SetText(before);
+        form.Combo.SetText(before);
+        form.Text.UserEdits(edited);
+        form.Combo.UserEdits(edited);
+        EXPECT_EQ(form.Text.Text(), after) << edited;
+        EXPECT_EQ(form.Combo.Text(), after) << edited;
+    }
+    form.Text.MultiLine = true;
+    form.Text.UserEdits("c\r\nd");
+    EXPECT_EQ(form.Text.Text(), "c\r\nd");
+}
+
 TEST_F(FieldsTest, ADragScrollsAndItsEndChanges) {
     form.Bar.SetRange(0, 10);
     form.Bar.UserReleases();
