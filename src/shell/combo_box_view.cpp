@@ -3,6 +3,7 @@
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
+#include "shell/one_line.h"
 #include "shell/qt_text.h"
 #include "shell/row_model.h"
 #include "shell/views.h"
@@ -52,6 +53,7 @@ public:
         widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         if (auto* list = qobject_cast<QListView*>(widget.view())) list->setUniformItemSizes(true);
         widget.setModel(&rows_);
+        KeepToOneLine(*widget.lineEdit());
         Watch(*widget.lineEdit());
         connect(&widget, &QComboBox::activated, this, [this](int index) { Pick(index); });
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Edit(text); });
@@ -72,13 +74,17 @@ protected:
         const bool rowsChanged = rows_.Mirror(combo.Rows());
         const bool choiceChanged = Differs(chosen_, combo.ListIndex());
         const bool textChanged = Differs(text_, combo.Text());
-        if (!rowsChanged && !choiceChanged && !textChanged) return;
+        if (textChanged) shownText_ = ToQString(text_);
+        // The widget takes a choice over by itself, also where the program doesn't follow. While its list is
+        // open it stands at the row that it opened at.
+        const bool isElsewhere = !combo_.view()->isVisible() && (combo_.currentIndex() != chosen_ ||
+                                                                 combo_.lineEdit()->text() != shownText_);
+        if (!rowsChanged && !choiceChanged && !textChanged && !isElsewhere) return;
         const QSignalBlocker silent(combo_);
         const int cursor = combo_.lineEdit()->cursorPosition();
         combo_.setCurrentIndex(chosen_);
-        const QString text = ToQString(text_);
-        if (combo_.lineEdit()->text() != text) combo_.lineEdit()->setText(text);
-        combo_.lineEdit()->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
+        if (combo_.lineEdit()->text() != shownText_) combo_.lineEdit()->setText(shownText_);
+        combo_.lineEdit()->setCursorPosition(std::min(cursor, static_cast<int>(shownText_.size())));
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -103,6 +109,7 @@ private:
     }
     void Edit(const QString& text) {
         if (!Shown()) return;
+        shownText_ = text;
         text_ = ToUtf8(text);
         Gate().Enter([&] { model().UserEdits(text_); });
     }
@@ -113,6 +120,7 @@ private:
     Colour fore_ = -2, back_ = -2;
     int chosen_ = -1;
     std::string text_;
+    QString shownText_;
 };
 
 }  // namespace

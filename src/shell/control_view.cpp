@@ -18,23 +18,15 @@ namespace coinlet {
 
 namespace {
 
+/// Left is 1, right 2, middle 4, as the toolkit counts them too; what further buttons there are goes on so.
 int ButtonNumber(Qt::MouseButton button) {
-    switch (button) {
-        case Qt::LeftButton:
-            return 1;
-        case Qt::RightButton:
-            return 2;
-        case Qt::MiddleButton:
-            return 4;
-        default:
-            return 0;
-    }
+    return static_cast<int>(button);
 }
 
+/// Of several buttons the first one in that order.
 int HeldButton(Qt::MouseButtons buttons) {
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
-        if (buttons.testFlag(button)) return ButtonNumber(button);
-    return 0;
+    const auto bits = static_cast<unsigned>(buttons.toInt());
+    return static_cast<int>(bits & (0U - bits));
 }
 
 }  // namespace

@@ -72,9 +72,10 @@ protected:
         const bool foreChanged = Differs(fore_, list.ForeColor);
         const bool backChanged = Differs(back_, list.BackColor);
         if (foreChanged || backChanged) list_.setPalette(FieldPalette(fore_, back_));
-        const bool rowsChanged = rows_.Mirror(list.Rows());
-        const bool choiceChanged = Differs(chosen_, list.ListIndex());
-        if (rowsChanged || choiceChanged) list_.setCurrentIndex(rows_.index(chosen_, 0));
+        rows_.Mirror(list.Rows());
+        // The widget goes to a row by itself when it gets the focus.
+        const QModelIndex chosen = rows_.index(list.ListIndex(), 0);
+        if (list_.currentIndex() != chosen) list_.setCurrentIndex(chosen);
     }
 
     /// A press on a row is its click; a second one soon after it is the double click, and no further click.
@@ -98,7 +99,6 @@ private:
     RowModel& rows_;
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;
-    int chosen_ = -1;
 };
 
 }  // namespace

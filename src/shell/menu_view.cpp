@@ -73,7 +73,8 @@ bool MenuView::Mirror() {
         const Look look{item.Checked, item.Enabled, item.Visible};
         const bool captionChanged = Differs(entry.caption, item.Caption);
         const bool shortcutChanged = Differs(entry.shortcut, item.Shortcut);
-        const bool lookChanged = Differs(entry.look, look);
+        // A choice toggles the mark of a checked entry by itself.
+        const bool lookChanged = Differs(entry.look, look) || entry.action->isChecked() != look.checked;
         if (!captionChanged && !shortcutChanged && !lookChanged) continue;
         changed = true;
         if (captionChanged) {

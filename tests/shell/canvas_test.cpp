@@ -77,6 +77,16 @@ TEST_F(Canvas, PointerIsCountedInTheUnitsOfThePicture) {
     });
 }
 
+TEST_F(Canvas, MiddleButtonIsAButton) {
+    std::vector<int> pressed, released;
+    form.Pic.MouseDown = [&](int button, int, float, float) { pressed.push_back(button); };
+    form.Pic.MouseUp = [&](int button, int, float, float) { released.push_back(button); };
+    Run(form, [&](User& user) {
+        user.ClickMiddle(user.PlaceOf(form.Pic, 10, 12));
+        EXPECT_TRUE(user.Sees([&] { return pressed == std::vector{4} && released == std::vector{4}; }));
+    });
+}
+
 TEST_F(Canvas, IsShownWhileAHandlerStillDraws) {
     bool seen = false;
     form.OkKnop.Click = [&] {

@@ -7,7 +7,14 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -235,6 +242,125 @@ TEST_F(Controls, CutTheirLinesWhereTheProgramDoes) {
         user.Type(".");
         EXPECT_TRUE(user.Sees([&] { return form.Text2.Text().ends_with("."); }));
         EXPECT_TRUE(user.Sees(agree));
+    });
+}
+
+TEST_F(Controls, FieldsOfOneLineTakeTheFirstLineHoweverItComes) {
+    Run(form, [&](User& user) {
+        const auto copied = [&](const char* text, QClipboard::Mode mode = QClipboard::Clipboard) {
+            user.Has([&] { QGuiApplication::clipboard()->setText(QString::fromUtf8(text), mode); });
+        };
+        const auto shows = [&](const char* text) {
+            return user.Sees([&] {
+                const QWidget& widget = platform.WindowOf(form)->ViewOf(form.Text1)->Widget();
+                return form.Text1.Text() == text &&
+                       dynamic_cast<const QLineEdit&>(widget).text() == QString::fromUtf8(text);
+            });
+        };
+        const auto send = [&](QEvent& event) {
+            // Straight to the field: the toolkit delivers such events only while it drags or composes itself.
+            user.Has([&] {
+                QObject& widget = platform.WindowOf(form)->ViewOf(form.Text1)->Widget();
+                widget.event(&event);
+            });
+        };
+        user.Click(form.Text1, 150, 11);
+        EXPECT_TRUE(user.Sees([&] { return form.Text1.HasFocus(); }));
+        copied("s\r\nand more");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(shows("Coinlets"));
+        user.Has([&] { std::erase(form.log, "Activate"); });
+        EXPECT_EQ(form.log, std::vector<std::string>{"Text1 Coinlets"});
+        // In the place of what is selected; breaks in front are passed over.
+        user.Key("ctrl+a");
+        copied("\n72\n15\n8");
+        user.Key("shift+Insert");
+        EXPECT_TRUE(shows("72"));
+        // What stands around the caret stays, and the caret stands behind what came.
+        user.Key("Left");
+        copied("1\n3");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(shows("712"));
+        user.Type("0");
+        EXPECT_TRUE(shows("7102"));
+        // What comes begins as what it replaces did.
+        user.Key("shift+End");
+        copied("2\n2");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(shows("7102"));
+        user.Key("shift+Home");
+        copied("7\n7");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(shows("7"));
+        // The middle button puts in what is selected elsewhere.
+        copied("x\ny", QClipboard::Selection);
+        user.ClickMiddle(user.PlaceOf(form.Text1, 150, 11));
+        EXPECT_TRUE(shows("7x"));
+        QInputMethodEvent composed;
+        composed.setCommitString("q\nr");
+        send(composed);
+        EXPECT_TRUE(shows("7xq"));
+        QMimeData dragged;
+        dragged.setText("0\n0");
+        QDropEvent dropped(QPointF(1, 11), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        send(dropped);
+        EXPECT_TRUE(shows("07xq"));
+
+        user.Click(form.Combo1, 50, 11);
+        user.Key("ctrl+a");
+        copied("Times\nRoman");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "Times"; }));
+        EXPECT_EQ(form.Count("Combo1Change Times"), 1);
+        // A box of several lines takes them all.
+        user.Click(form.Text2, 60, 50);
+        user.Key("ctrl+a");
+        user.Key("ctrl+v");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.Text() == "Times\r\nRoman"; }));
+    });
+}
+
+TEST_F(Controls, ShowWhatTheProgramMadeOfTheUsersChoice) {
+    // The program takes each choice back.
+    form.HScroll1.Change = [&] { form.HScroll1.SetValue(0); };
+    form.Combo1.Click = [&] {
+        form.log.emplace_back("refused");
+        form.Combo1.SetListIndex(0);
+    };
+    form.List1.Click = [&] { form.List1.SetListIndex(-1); };
+    Run(form, [&](User& user) {
+        const auto view = [&](const Control& control) -> QWidget& {
+            return platform.WindowOf(form)->ViewOf(control)->Widget();
+        };
+        user.Click(form.HScroll1, 155, 8);  // The arrow at the right end.
+        EXPECT_TRUE(user.Sees([&] { return form.HScroll1.HasFocus(); }));
+        EXPECT_TRUE(user.Sees([&] { return dynamic_cast<QScrollBar&>(view(form.HScroll1)).value() == 0; }));
+        EXPECT_EQ(form.HScroll1.Value(), 0);
+
+        user.Click(form.Combo1, 112, 11);
+        EXPECT_TRUE(user.Sees([&] { return QApplication::activePopupWidget() != nullptr; }));
+        user.Key("End");
+        user.Key("Return");
+        EXPECT_TRUE(user.Sees([&] { return form.Count("refused") > 0; }));
+        EXPECT_TRUE(user.Sees([&] {
+            const auto& combo = dynamic_cast<QComboBox&>(view(form.Combo1));
+            return combo.currentText() == "Arial" && combo.currentIndex() == 0;
+        }));
+        EXPECT_EQ(form.Combo1.Text(), "Arial");
+    });
+}
+
+TEST_F(Controls, ListWithTheFocusHasNoRowThatNobodyChose) {
+    Run(form, [&](User& user) {
+        user.Click(form.HScroll1, 60, 8);
+        for (int steps = 0; steps < 2; ++steps)
+            user.Key("Tab");
+        EXPECT_TRUE(user.Sees([&] { return form.List1.HasFocus(); }));
+        EXPECT_TRUE(user.Sees([&] {
+            const QWidget& widget = platform.WindowOf(form)->ViewOf(form.List1)->Widget();
+            return !dynamic_cast<const QAbstractItemView&>(widget).currentIndex().isValid();
+        }));
+        EXPECT_EQ(form.List1.ListIndex(), -1);
     });
 }
 

@@ -12,6 +12,8 @@
 #include <QProcess>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace coinlet::test {
 namespace {
 
@@ -47,6 +49,40 @@ TEST_F(Windows, MenuEntryIsChosenByPointer) {
         EXPECT_TRUE(user.Sees([&] { return platform.WindowOf(form)->PopupOf(form.File)->isVisible(); }));
         user.Click(user.PlaceOf(form.FileNew));
         EXPECT_TRUE(user.Sees([&] { return form.Count("FileNew") == 1; }));
+    });
+}
+
+TEST_F(Windows, CheckedEntryKeepsItsMarkWhenItIsChosenAgain) {
+    form.FileNew.Checked = true;
+    form.ShapesStar.Checked = true;
+    Run(form, [&](User& user) {
+        const auto isMarked = [&](const MenuItem& entry) {
+            const auto actions = platform.WindowOf(form)->PopupOf(*entry.Parent())->actions();
+            return std::ranges::any_of(actions, [&](const QAction* action) {
+                return action->text().toStdString() == entry.Caption && action->isChecked();
+            });
+        };
+        int chosen = 0;
+        for (MenuItem* entry : {&form.FileNew, &form.EditCopy, &form.ShapesStar}) {
+            MenuItem& menu = *entry->Parent();
+            for (int times = 1; times <= 2; ++times) {
+                if (menu.Visible) {
+                    user.Click(user.PlaceOf(menu));
+                } else {
+                    user.Has([&] { platform.PopupMenu(menu); });
+                }
+                EXPECT_TRUE(user.Sees([&] { return platform.WindowOf(form)->PopupOf(menu)->isVisible(); }));
+                user.Click(user.PlaceOf(*entry));
+                const std::string name(entry->Name());
+                EXPECT_TRUE(user.Sees([&] { return form.Count(name) == times; })) << name;
+                EXPECT_TRUE(user.Sees([&] { return isMarked(*entry); })) << name;
+                ++chosen;
+            }
+        }
+        EXPECT_EQ(chosen, 6);
+        // The entry itself says whether it has a mark.
+        user.Has([&] { form.EditCopy.Checked = false, platform.Mirror(); });
+        EXPECT_TRUE(user.Sees([&] { return !isMarked(form.EditCopy); }));
     });
 }
 

@@ -88,6 +88,10 @@ void User::Click(const QPoint& place) {
     Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});
     Do({"click", "1"});
 }
+void User::ClickMiddle(const QPoint& place) {
+    Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});
+    Do({"click", "2"});
+}
 void User::DoubleClick(const QPoint& place) {
     Do({"mousemove", std::to_string(place.x()), std::to_string(place.y())});
     Do({"click", "--repeat", "2", "--delay", "20", "1"});

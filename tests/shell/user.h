@@ -36,6 +36,7 @@ public:
     void Release(int button = 1);
     void Click(const QPoint& place);
     void Click(const Control& control, int x, int y) { Click(PlaceOf(control, x, y)); }
+    void ClickMiddle(const QPoint& place);
     /// Two clicks, as quickly as a double click takes.
     void DoubleClick(const QPoint& place);
     /// A key by its name in the window system: "Return", "ctrl+n".
