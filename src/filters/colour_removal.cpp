@@ -69,7 +69,7 @@ void ApplyBlackWhite(Context& context, Surface& picture) {
         MakeBlackAndWhite(RowToChange(picture, y, Truncate(picture.ScaleWidth())), threshold);
         picture.Refresh();
         platform.DoEvents();
-        ShowProgress(context, y, rows - 1);
+        ShowProgress(context, y, Truncate(picture.ScaleHeight()) - 1);
     }
     picture.Refresh();
 }

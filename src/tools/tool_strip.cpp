@@ -171,12 +171,13 @@ void ToolStrip::ExitKnop_Click() {
 
 void ToolStrip::HScroll5_Change() {
     MainForm& main = context_.main;
-    const int left = main.HScroll5.Value();
-    main.Pic.SetLeft(left);
-    main.Pic.SetWidth(canvasLeft + canvasTwips - left);
+    main.Pic.SetLeft(main.HScroll5.Value());
+    main.Pic.SetWidth(canvasLeft + canvasTwips - main.HScroll5.Value());
     context_.services.platform.DoEvents();
+    // The slider may have been moved on meanwhile.
+    const bool inPlace = main.HScroll5.Value() == canvasLeft;
     for (int i = main.Knop.First(); i <= main.Knop.Last(); ++i)
-        main.Knop[i].SetEnabled(left == canvasLeft);
+        main.Knop[i].SetEnabled(inPlace);
 }
 
 }  // namespace coinlet
