@@ -77,6 +77,15 @@ void PMSForm::HScroll1_Change() {
     ShowPmsEntry(table.List(HScroll1.Value()));
 }
 
+/// Where the slider stands already, a colour from outside the table may be shown.
+void PMSForm::ShowNumber(int number) {
+    if (number == HScroll1.Value()) {
+        HScroll1_Change();
+    } else {
+        HScroll1.SetValue(number);
+    }
+}
+
 void PMSForm::ShowPmsEntry(const std::string& line) {
     const auto fields = SplitPmsLine(line);
     if (!fields) return;
@@ -94,7 +103,7 @@ void PMSForm::Combo1_Change() {
     const ListBox& table = context_.main.PMSlist;
     for (int i = 0; i < table.ListCount(); ++i) {
         if (PmsCodeOf(table.List(i)) != Combo1.Text()) continue;
-        HScroll1.SetValue(i);
+        ShowNumber(i);
         return;
     }
 }
@@ -117,7 +126,7 @@ void PMSForm::Pic_MouseDown(int button, float x, float y) {
 void PMSForm::FindPmsColor() {
     const Session& session = context_.session;
     const int found = FindPmsColour(context_.main.PMSlist, session.PmsRed, session.PmsGreen, session.PmsBlue);
-    if (found >= 0) HScroll1.SetValue(found);
+    if (found >= 0) ShowNumber(found);
 }
 
 void PMSForm::OkKnop_Click() {

@@ -44,6 +44,7 @@ public:
 
 private:
     void HScroll1_Change();
+    void ShowNumber(int number);
     void Combo1_Change();
     void Pic_MouseDown(int button, float x, float y);
     void OkKnop_Click();

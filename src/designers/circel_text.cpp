@@ -111,21 +111,24 @@ void CircelText::DrawCurvedText(bool onTop) {
         // The corner that a letter hangs by is at its head, which on top lies outside.
         const double distance = onTop ? radius - height : radius;
         DrawGlyph(letter, quarterTurn - turned,
-                  RoundHalfEven(std::cos(outward) * distance + std::cos(along) * halfWidth + centre),
-                  RoundHalfEven(std::sin(outward) * distance + std::sin(along) * halfWidth + centre));
+                  std::nearbyint(std::cos(outward) * distance + std::cos(along) * halfWidth + centre),
+                  std::nearbyint(std::sin(outward) * distance + std::sin(along) * halfWidth + centre));
     }
 }
 
-void CircelText::DrawGlyph(std::string_view glyph, double rotation, int x, int y) {
+void CircelText::DrawGlyph(std::string_view glyph, double rotation, double x, double y) {
     Surface& picture = Pic.surface;
     const int degrees = RoundHalfEven(rotation);
+    const auto draw = [&](double atX, double atY) {
+        DrawRotatedText(glyph, degrees, RoundHalfEven(atX), RoundHalfEven(atY), picture);
+    };
     picture.ForeColor = InkColour();
     if (Check5.Value()) {
         for (const LetterOffset& offset : letterOutline)
-            DrawRotatedText(glyph, degrees, x + offset.x, y + offset.y, picture);
+            draw(x + offset.x, y + offset.y);
         picture.ForeColor = white;
     }
-    DrawRotatedText(glyph, degrees, x, y, picture);
+    draw(x, y);
 }
 
 }  // namespace coinlet

@@ -52,7 +52,7 @@ private:
     void DrawKnop_Click();
 
     void DrawCurvedText(bool onTop);
-    void DrawGlyph(std::string_view glyph, double rotation, int x, int y);
+    void DrawGlyph(std::string_view glyph, double rotation, double x, double y);
     Colour InkColour() const;
 
     Context& context_;

@@ -173,17 +173,20 @@ void FilterConnection(FilterRun& run) {
 void FilterAquarel(FilterRun& run) {
     WithVectorUnits(run.units, [&run] {
         const int width = run.Width(), height = run.Height();
-        if (width < 5 || height < 5) return;
+        // Narrower pictures have no pixel with four blocks; their rows are walked all the same.
+        const bool hasInside = width >= 5;
         // A pixel needs the blocks around the rows above and below it: three rows of blocks, used in turn.
         std::array<BlockRow, 3> blocks{BlockRow(width), BlockRow(width), BlockRow(width)};
         const auto blocksAround = [&blocks](int y) -> BlockRow& {
             return blocks[static_cast<std::size_t>(y) % blocks.size()];
         };
-        for (const int y : {1, 2})
-            blocksAround(y).Measure(run.source, y);
         for (int y = 2; y < height - 2; ++y) {
-            blocksAround(y + 1).Measure(run.source, y + 1);
-            ChooseCalmest(blocksAround(y - 1), blocksAround(y + 1), width, run.work.Row(y));
+            if (hasInside) {
+                // The first row needs the blocks above it, which no row before it has measured.
+                for (int row = y == 2 ? 1 : y + 1; row <= y + 1; ++row)
+                    blocksAround(row).Measure(run.source, row);
+                ChooseCalmest(blocksAround(y - 1), blocksAround(y + 1), width, run.work.Row(y));
+            }
             run.RowDone(y);
         }
     });

@@ -1,6 +1,7 @@
 #include "filters/color_change.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "controls/hourglass.h"
 #include "core/canvas_dialog.h"
 #include "core/context.h"
@@ -11,8 +12,10 @@
 #include "filters/colour_palettes.h"
 #include "filters/surface_walk.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -83,12 +86,20 @@ void ColorChange::HScroll1_Change(int index) {
     ColorLabel.BackColor = RGB(HScroll1[0].Value(), HScroll1[1].Value(), HScroll1[2].Value());
 }
 
+int ColorChange::ChosenPalette() const {
+    if (Combo1.ListIndex() >= 0) return Combo1.ListIndex();
+    const std::string typed = LowerCase(Combo1.Text());
+    const auto* const found = std::ranges::find_if(
+        colorPalettes, [&typed](const ColorPalette& palette) { return LowerCase(palette.name) == typed; });
+    return found == std::end(colorPalettes) ? -1 : static_cast<int>(found - std::begin(colorPalettes));
+}
+
 void ColorChange::Box_Click(PictureBox& box) {
-    if (Combo1.ListIndex() == ownPalette) box.surface.SetBackColor(ColorLabel.BackColor);
+    if (ChosenPalette() == ownPalette) box.surface.SetBackColor(ColorLabel.BackColor);
 }
 
 void ColorChange::Combo1_Change() {
-    const int chosen = Combo1.ListIndex();
+    const int chosen = ChosenPalette();
     // The bracket tells that the boxes take the sliders' colour.
     for (int i = Line1.First(); i <= Line1.Last(); ++i)
         Line1[i].BorderColor = chosen == ownPalette ? bracketColour : BackColor;
@@ -99,7 +110,7 @@ void ColorChange::Combo1_Change() {
 }
 
 void ColorChange::StartKnop_Click() {
-    const int chosen = Combo1.ListIndex();
+    const int chosen = ChosenPalette();
     if (chosen < firstMetalPalette) {
         ReplaceByPalette();
     } else {

@@ -49,6 +49,8 @@ private:
     void StartKnop_Click();
     void ResetKnop_Click();
 
+    /// The row of the palette that is picked, or that the typed text names without regard to case; else -1.
+    int ChosenPalette() const;
     void ReplaceByPalette();
     void ReplaceDarkColors(Metal metal);
     void ShowSlider(int index);

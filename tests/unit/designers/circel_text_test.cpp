@@ -217,6 +217,20 @@ TEST_F(CircelTextTest, OpenLettersAreWhiteWithinARing) {
     EXPECT_EQ(Dots(main.ColorLabel.BackColor).size(), 8U);
 }
 
+// Their rings lie farther out than any number tells; in sanitized builds nothing may overflow on the way.
+TEST_F(CircelTextTest, OpenLettersMayLieBeyondAllNumbers) {
+    form.Check5.SetValue(true);
+    for (const char* radius : {"2147483400", "-2147483400", "1e300", "-1e300"}) {
+        for (const bool onTop : {true, false}) {
+            form.Check2.SetValue(onTop);
+            form.Combo2.SetText(radius);
+            Draw();
+            EXPECT_EQ(dots.asked.size(), 27U) << radius;
+            EXPECT_TRUE(Dots(black).empty()) << radius;
+        }
+    }
+}
+
 TEST_F(CircelTextTest, FillColourIsThatOfTheColourField) {
     main.ColorLabel.BackColor = RGB(1, 100, 200);
     form.Check1.SetValue(true);

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 #include <utility>
+#include <vector>
 
 namespace coinlet {
 namespace {
 
 using test::Filtered;
 using test::Flat;
+using test::NotedPace;
 using test::Picture;
 
 constexpr int sharpen = 1, blur = 3, smooth = 5, edge = 6, contour = 7, diagonalBack = 8, gradientBack = 9,
@@ -173,6 +175,22 @@ TEST(Aquarel, TakesTheCalmestBlockAndOfEqualsTheFirst) {
                  Gray({{0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}}))(
             1, 3, 3),
         0);
+}
+
+TEST(Aquarel, WalksTheRowsOfNarrowPicturesToo) {
+    for (const int width : {0, 1, 2, 3, 4, 5}) {
+        const Picture picture = Flat(width, 7, 10, 20, 30);
+        RandomGenerator random;
+        NotedPace pace;
+        EXPECT_EQ(Filtered(aquarel, 0, picture, random, pace), picture);
+        // Rows 3 to 5 of seven, in the percentage y * 100 / H.
+        EXPECT_EQ(pace.percents, (std::vector<int>{42, 57, 71})) << width;
+        EXPECT_EQ(pace.rows, (std::vector<std::pair<int, int>>{{3, 6}, {4, 6}, {5, 6}})) << width;
+    }
+    RandomGenerator random;
+    NotedPace pace;
+    Filtered(aquarel, 0, Flat(7, 4, 10, 20, 30), random, pace);
+    EXPECT_TRUE(pace.rows.empty());
 }
 
 TEST(Aquarel, LeavesABorderOfTwo) {
