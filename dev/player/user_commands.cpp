@@ -14,6 +14,7 @@
 #include "player/script_run.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace coinlet::player {
@@ -50,8 +51,8 @@ void Click(ScriptRun& run, const Arguments& arguments) {
 
 int ReadButton(const Arguments& arguments) {
     const int button = arguments.Whole(1);
-    constexpr int known[] = {0, 1, 2, 4};
-    if (std::ranges::find(known, button) == std::end(known))
+    constexpr std::array buttons{noButton, leftButton, rightButton, middleButton};
+    if (std::ranges::find(buttons, button) == buttons.end())
         Fail("expected button 0 (none), 1 (left), 2 (right) or 4 (middle), found " + std::to_string(button));
     return button;
 }

@@ -38,7 +38,8 @@ Colour Sepia(Colour gray) {
 }
 
 Colour Doubled(Colour colour) {
-    return RGB(2 * Red(colour), 2 * Green(colour), 2 * Blue(colour));
+    const auto doubled = [](int channel) { return std::min(2 * channel, 255); };
+    return RGB(doubled(Red(colour)), doubled(Green(colour)), doubled(Blue(colour)));
 }
 
 /// Each channel |2 (255 - 3 v)| / 5 * 3, at most 255.

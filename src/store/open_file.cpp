@@ -77,9 +77,10 @@ void OpenFile::OkKnop_Click() {
 }
 
 void OpenFile::DelKnop_Click() {
-    const int row = List1.ListIndex();
-    if (row < 0) return;
+    // Without a choice, or on the row of a file called ".pat", there is no name.
     const std::string name = List1.Text();
+    if (name.empty()) return;
+    const int row = List1.ListIndex();
     // The question is Dutch in every language.
     const Answer answer =
         context_.services.platform.ShowMessage({.prompt = "Wilt u het ontwerp '" + name + "' verwijderen?",

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int dotsPerInch = 96;
 constexpr double pointsPerInch = 72;
-constexpr std::size_t longestFaceName = 31;
+constexpr std::size_t longestFaceName = 32;
 constexpr int boldWeight = 700;
 constexpr int smoothQuality = 4;
 

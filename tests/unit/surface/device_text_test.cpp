@@ -197,9 +197,9 @@ LOGFONT Letters(int height) {
 TEST(CreateFont, RefusesLongNamesAndNoHeight) {
     LOGFONT font = Letters(-8);
     EXPECT_NE(CreateFontIndirectA(font), nullptr);
-    font.lfFaceName = std::string(31, 'x');
-    EXPECT_NE(CreateFontIndirectA(font), nullptr);
     font.lfFaceName = std::string(32, 'x');
+    EXPECT_NE(CreateFontIndirectA(font), nullptr);
+    font.lfFaceName = std::string(33, 'x');
     EXPECT_EQ(CreateFontIndirectA(font), nullptr);
     // Characters count, not the bytes that they take.
     font.lfFaceName = "文泉驿微米黑文泉驿微米黑";

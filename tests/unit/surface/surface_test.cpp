@@ -26,6 +26,24 @@ protected:
     Surface surface_{fonts_, 4, 3};
 };
 
+TEST(Colour, IsTheSumOfItsParts) {
+    EXPECT_EQ(RGB(0, 0, 0), 0);
+    EXPECT_EQ(RGB(1, 2, 3), 0x030201);
+    EXPECT_EQ(RGB(255, 255, 255), 0xFFFFFF);
+    // Parts out of range go over into the others.
+    EXPECT_EQ(RGB(-1, 0, 0), -1);
+    EXPECT_EQ(RGB(256, 0, 0), RGB(0, 1, 0));
+    EXPECT_EQ(RGB(300, -1, 2), 300 - 256 + 2 * 65536);
+    EXPECT_EQ(RGB(32767, 32767, 32767), static_cast<int>(32767U + 256U * 32767U + 65536U * 32767U));
+}
+
+TEST(Colour, BelowZeroIsDrawnWhite) {
+    constexpr Pixel whitePixel = 0xFFFFFFFF;
+    for (const Colour none : {-1, -2, -256, -65536, std::numeric_limits<Colour>::min()})
+        EXPECT_EQ(ToPixel(none), whitePixel) << none;
+    EXPECT_EQ(ToPixel(RGB(1, 2, 3)), 0xFF010203);
+}
+
 TEST_F(SurfaceTest, IsWhiteAtFirst) {
     EXPECT_EQ(surface_.PixelWidth(), 4);
     EXPECT_EQ(surface_.PixelHeight(), 3);
