@@ -28,7 +28,10 @@ void PrinterRecord::SelectPrinter(std::string_view name) {
 }
 
 void PrinterRecord::FeedPage() {
-    if (!inJob_) lines.Add("job");
+    if (!inJob_) {
+        jobStart_ = lines.All().size();
+        lines.Add("job");
+    }
     if (!onPage_) lines.Add(orientation_ == PageOrientation::Landscape ? "page landscape" : "page portrait");
     inJob_ = onPage_ = true;
 }
@@ -52,6 +55,11 @@ void PrinterRecord::Box(double x1, double y1, double x2, double y2, Colour colou
 
 void PrinterRecord::EndDoc() {
     if (inJob_) lines.Add("end");
+    inJob_ = onPage_ = false;
+}
+
+void PrinterRecord::KillDoc() {
+    if (inJob_) lines.Forget(jobStart_);
     inJob_ = onPage_ = false;
 }
 

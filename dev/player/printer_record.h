@@ -3,6 +3,8 @@
 #include "player/record.h"
 #include "surface/printer.h"
 
+#include <cstddef>
+
 namespace coinlet::player {
 
 /// Two printers, "Printer A" (current at first) and "Printer B", that write down what is sent to them, a
@@ -27,12 +29,15 @@ public:
     void Box(double x1, double y1, double x2, double y2, Colour colour) override;
     void NewPage() override { onPage_ = false; }
     void EndDoc() override;
+    /// The lines of the job are forgotten.
+    void KillDoc() override;
 
     Record<std::string> lines;
 
 private:
     std::string current_ = "Printer A";
     PageOrientation orientation_ = PageOrientation::Portrait;
+    std::size_t jobStart_ = 0;
     bool inJob_ = false;
     bool onPage_ = false;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,11 @@ class Record {
 public:
     void Add(Entry entry) { entries_.push_back(std::move(entry)); }
     const std::vector<Entry>& All() const { return entries_; }
+    /// Forgets the entries from that one on.
+    void Forget(std::size_t first) {
+        entries_.resize(std::min(first, entries_.size()));
+        taken_ = std::min(taken_, entries_.size());
+    }
     /// Takes the oldest entry; nullptr if none is left.
     const Entry* Take() { return taken_ < entries_.size() ? &entries_[taken_++] : nullptr; }
     /// The entry that Take would give.

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <deque>
 #include <string_view>
 #include <system_error>
@@ -34,152 +35,217 @@ QPageLayout::Orientation ToQt(PageOrientation orientation) {
     return orientation == PageOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
-/// A printer of the system. Places count from the corner of the sheet, not from where the printer's margin
-/// ends.
-std::unique_ptr<QPagedPaintDevice> OpenPrinter(const QString& name) {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setPrinterName(name);
-    printer->setDocName(documentName);
-    printer->setFullPage(true);
-    return printer;
-}
+/// A picture of a job that waits for its end. All designs of a large store together would take more memory
+/// than a small machine has; packed, a design is a tenth of its size.
+class PackedPicture {
+public:
+    explicit PackedPicture(const Image& image) {
+        const QImage plain = ToQImage(image);
+        size_ = plain.size();
+        format_ = plain.format();
+        bytes_ = qCompress(plain.constBits(), plain.sizeInBytes(), quickly);
+    }
 
-std::unique_ptr<QPagedPaintDevice> WritePdf(QIODevice& file) {
-    auto writer = std::make_unique<QPdfWriter>(&file);
-    writer->setTitle(documentName);
-    writer->setCreator(documentName);
-    writer->setPageMargins({});
-    return writer;
+    QImage Unpacked() const {
+        const QByteArray plain = qUncompress(bytes_);
+        QImage image(size_, format_);
+        if (!image.isNull() && image.sizeInBytes() == plain.size())
+            std::memcpy(image.bits(), plain.constData(), static_cast<std::size_t>(plain.size()));
+        return image;
+    }
+
+private:
+    static constexpr int quickly = 1;
+
+    QSize size_;
+    QImage::Format format_;
+    QByteArray bytes_;
+};
+
+/// The most recent of what was made for something: what comes again soon isn't made again.
+template <class Key, class Made>
+class RecentlyMade {
+public:
+    template <class Make>
+    const Made& Get(const Key& key, const Make& make) {
+        constexpr std::size_t most = 4;
+        const auto known = std::ranges::find(entries_, key, &Entry::first);
+        if (known != entries_.end()) return known->second;
+        if (entries_.size() == most) entries_.pop_front();
+        return entries_.emplace_back(key, make()).second;
+    }
+
+private:
+    using Entry = std::pair<Key, Made>;
+    std::deque<Entry> entries_;
+};
+
+using Picture = std::shared_ptr<const PackedPicture>;
+/// A picture that stands on many sheets is one object of the toolkit, so that it is in the job once.
+using PrintedPictures = RecentlyMade<Picture, QImage>;
+
+struct Sheet {
+    PageOrientation orientation;
+    std::vector<std::function<void(QPainter& page, PrintedPictures& pictures)>> drawings;
+};
+
+/// False if the device can't be printed on.
+bool PrintSheets(const std::vector<Sheet>& sheets, QPagedPaintDevice& device) {
+    QPainter page;
+    PrintedPictures pictures;
+    for (const Sheet& sheet : sheets) {
+        device.setPageOrientation(ToQt(sheet.orientation));
+        if (page.isActive()) {
+            device.newPage();
+        } else {
+            if (!page.begin(&device)) return false;
+            // Outlines stay as crisp as they were drawn.
+            page.setRenderHint(QPainter::LosslessImageRendering);
+        }
+        const double dotsPerTwip = device.logicalDpiX() / twipsPerInch;
+        page.setTransform(QTransform::fromScale(dotsPerTwip, dotsPerTwip));
+        for (const auto& draw : sheet.drawings)
+            draw(page, pictures);
+    }
+    return true;
 }
 
 }  // namespace
 
-/// What is printed on until the job ends.
-struct QtPrinter::Job {
-    explicit Job(const std::string& printer) {
-        const QString name = ToQString(printer);
-        if (QPrinterInfo::printerInfo(name).isNull()) {
-            file.open(QIODevice::WriteOnly);
-            device = WritePdf(file);
-        } else {
-            device = OpenPrinter(name);
-        }
-    }
-
-    /// The picture as the toolkit's. One that comes again soon is the same object, so that it stands in the
-    /// job once, however many sheets show it.
-    QImage ToPrint(const Image& image) {
-        constexpr std::size_t mostRecent = 4;
-        const auto known = std::ranges::find(recent, image, &Recent::image);
-        if (known != recent.end()) return known->printed;
-        if (recent.size() == mostRecent) recent.pop_front();
-        return recent.emplace_back(image, ToQImage(image)).printed;
-    }
-
-    struct Recent {
-        Image image;
-        QImage printed;
-        Recent(const Image& ours, const QImage& theirs) : image(ours), printed(theirs) {}
-    };
-    std::deque<Recent> recent;
-    QBuffer file;  ///< Of a job without a printer: stays in memory until it is whole.
-    std::unique_ptr<QPagedPaintDevice> device;
-    QPainter painter;
-};
-
-QtPrinter::QtPrinter(std::filesystem::path folder) : folder_(std::move(folder)) {}
-
-QtPrinter::~QtPrinter() {
-    EndDoc();
+SystemPrinters ToolkitPrinters() {
+    return {.names =
+                [] {
+                    std::vector<std::string> names;
+                    for (const QString& name : QPrinterInfo::availablePrinterNames())
+                        names.push_back(ToUtf8(name));
+                    return names;
+                },
+            .standard = [] { return ToUtf8(QPrinterInfo::defaultPrinterName()); },
+            .open = [](const std::string& name) -> std::unique_ptr<QPagedPaintDevice> {
+                auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+                printer->setPrinterName(ToQString(name));
+                printer->setDocName(documentName);
+                printer->setFullPage(true);
+                return printer;
+            }};
 }
 
-const std::vector<std::string>& QtPrinter::Names() const {
-    if (names_) return *names_;
-    names_.emplace();
-    for (const QString& name : QPrinterInfo::availablePrinterNames())
-        names_->push_back(ToUtf8(name));
-    if (names_->empty()) names_->emplace_back(filePrinter);
-    return *names_;
+/// What is to be printed when the job ends.
+struct QtPrinter::Job {
+    /// Empty: into the file.
+    std::string printer;
+    std::vector<Sheet> sheets;
+    RecentlyMade<Image, Picture> packed;
+};
+
+QtPrinter::QtPrinter(std::filesystem::path folder, SystemPrinters printers)
+    : folder_(std::move(folder)), printers_(std::move(printers)) {}
+
+QtPrinter::~QtPrinter() = default;
+
+const std::vector<std::string>& QtPrinter::Listed() const {
+    if (!listed_) listed_ = printers_.names();
+    return *listed_;
+}
+
+bool QtPrinter::IsListed(std::string_view name) const {
+    const auto& names = Listed();
+    return std::ranges::find(names, name) != names.end();
 }
 
 std::vector<std::string> QtPrinter::DeviceNames() const {
-    return Names();
+    listed_.reset();
+    return Listed().empty() ? std::vector{std::string(filePrinter)} : Listed();
 }
 
 std::string QtPrinter::DeviceName() const {
-    if (!chosen_.empty()) return chosen_;
-    const std::string standard = ToUtf8(QPrinterInfo::defaultPrinterName());
-    const auto& names = Names();
-    return std::ranges::find(names, standard) == names.end() ? names.front() : standard;
+    if (Listed().empty()) return std::string(filePrinter);
+    if (IsListed(chosen_)) return chosen_;
+    const std::string standard = printers_.standard();
+    return IsListed(standard) ? standard : Listed().front();
 }
 
 void QtPrinter::SelectPrinter(std::string_view name) {
-    const auto& names = Names();
-    if (std::ranges::find(names, name) != names.end()) chosen_ = name;
+    if (IsListed(name)) chosen_ = name;
 }
 
-bool QtPrinter::StartJob() {
-    auto job = std::make_unique<Job>(DeviceName());
-    job->device->setPageSize(QPageSize(QPageSize::A4));
-    job->device->setPageOrientation(ToQt(orientation_));
-    if (!job->painter.begin(job->device.get())) return false;
-    // Outlines stay as crisp as they were drawn.
-    job->painter.setRenderHint(QPainter::LosslessImageRendering);
-    job_ = std::move(job);
-    return true;
-}
-
-QPainter* QtPrinter::Page() {
-    if (!job_ && !StartJob()) return nullptr;
-    if (std::exchange(pageIsDue_, false)) {
-        job_->device->setPageOrientation(ToQt(orientation_));
-        job_->device->newPage();
+void QtPrinter::FeedPage() {
+    if (!job_) {
+        job_ = std::make_unique<Job>();
+        if (!Listed().empty()) job_->printer = DeviceName();
+        pageIsDue_ = true;
     }
-    const double dotsPerTwip = job_->device->logicalDpiX() / twipsPerInch;
-    job_->painter.setTransform(QTransform::fromScale(dotsPerTwip, dotsPerTwip));
-    return &job_->painter;
+    if (std::exchange(pageIsDue_, false)) job_->sheets.push_back({orientation_, {}});
 }
 
 void QtPrinter::Print(double x, double y, const FontProperties& font, Colour colour, std::string_view text) {
-    QPainter* page = Page();
-    if (!page) return;
-    QFont letters = ToQFont(font);
-    letters.setPixelSize(std::max(1, static_cast<int>(std::lround(font.FontSize * twipsPerPoint))));
-    letters.setHintingPreference(QFont::PreferNoHinting);
-    page->setFont(letters);
-    page->setPen(ToQColor(colour));
-    page->drawText(QPointF(x, y + page->fontMetrics().ascent()), ToQString(text));
+    FeedPage();
+    job_->sheets.back().drawings.emplace_back(
+        [x, y, font, colour, shown = ToQString(text)](QPainter& page, PrintedPictures&) {
+            QFont letters = ToQFont(font);
+            letters.setPixelSize(std::max(1, static_cast<int>(std::lround(font.FontSize * twipsPerPoint))));
+            letters.setHintingPreference(QFont::PreferNoHinting);
+            page.setFont(letters);
+            page.setPen(ToQColor(colour));
+            page.drawText(QPointF(x, y + page.fontMetrics().ascent()), shown);
+        });
 }
 
 void QtPrinter::PaintPicture(const Image& image, const Rectangle& to) {
     if (image.Empty()) return;
-    if (QPainter* page = Page())
-        page->drawImage(QRectF(to.x, to.y, to.width, to.height), job_->ToPrint(image));
+    FeedPage();
+    const Picture picture =
+        job_->packed.Get(image, [&image] { return std::make_shared<const PackedPicture>(image); });
+    job_->sheets.back().drawings.emplace_back([picture, to](QPainter& page, PrintedPictures& pictures) {
+        page.drawImage(QRectF(to.x, to.y, to.width, to.height),
+                       pictures.Get(picture, [&picture] { return picture->Unpacked(); }));
+    });
 }
 
 void QtPrinter::Box(double x1, double y1, double x2, double y2, Colour colour) {
-    QPainter* page = Page();
-    if (!page) return;
-    QPen pen(ToQColor(colour), lineWidth);
-    pen.setJoinStyle(Qt::MiterJoin);
-    page->setPen(pen);
-    page->setBrush(Qt::NoBrush);
-    page->drawRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized());
+    FeedPage();
+    job_->sheets.back().drawings.emplace_back([=](QPainter& page, PrintedPictures&) {
+        QPen pen(ToQColor(colour), lineWidth);
+        pen.setJoinStyle(Qt::MiterJoin);
+        page.setPen(pen);
+        page.setBrush(Qt::NoBrush);
+        page.drawRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized());
+    });
 }
 
 void QtPrinter::NewPage() {
-    pageIsDue_ = job_ != nullptr;
+    pageIsDue_ = true;
 }
 
 void QtPrinter::EndDoc() {
-    pageIsDue_ = false;
     const auto job = std::exchange(job_, nullptr);
     if (!job) return;
-    job->painter.end();
-    if (job->file.data().isEmpty()) return;
+    if (job->printer.empty()) return PrintToFile(*job);
+    // A printer that has gone away meanwhile: the toolkit would print into a file without a word.
+    const std::vector<std::string> present = printers_.names();
+    if (std::ranges::find(present, job->printer) == present.end()) return;
+    if (const auto device = printers_.open(job->printer))
+        static_cast<void>(PrintSheets(job->sheets, *device));
+}
+
+void QtPrinter::KillDoc() {
+    job_.reset();
+}
+
+void QtPrinter::PrintToFile(const Job& job) const {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&file);
+        writer.setTitle(documentName);
+        writer.setCreator(documentName);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageMargins({});
+        if (!PrintSheets(job.sheets, writer)) return;
+    }
     std::error_code failed;
     std::filesystem::create_directories(folder_, failed);
-    const QByteArray& bytes = job->file.data();
+    const QByteArray& bytes = file.data();
     const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     static_cast<void>(ReplaceFile(folder_ / fileName, AsBytes(content)));
 }

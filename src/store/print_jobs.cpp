@@ -24,18 +24,25 @@ const FontProperties headerFont{.FontName = "Arial", .FontSize = 10, .FontBold =
 const FontProperties infoTextFont{.FontName = "Arial", .FontSize = 9, .FontBold = true};
 const FontProperties nameFont{.FontName = "Arial", .FontSize = 7};
 
-/// A job under way. However it ends, what was printed so far comes out, and the next job is one of its own.
+/// A job under way; the next one is a job of its own. What was printed so far comes out however it ends,
+/// unless the program ends before it: then nothing does.
 class PrintJob {
 public:
-    PrintJob(Printer& printer, PageOrientation orientation) : printer_(printer) {
-        printer_.SetOrientation(orientation);
+    PrintJob(const Services& services, PageOrientation orientation) : services_(services) {
+        services_.printer.SetOrientation(orientation);
     }
-    ~PrintJob() { printer_.EndDoc(); }
+    ~PrintJob() {
+        if (services_.platform.Ended()) {
+            services_.printer.KillDoc();
+        } else {
+            services_.printer.EndDoc();
+        }
+    }
     PrintJob(const PrintJob&) = delete;
     PrintJob& operator=(const PrintJob&) = delete;
 
 private:
-    Printer& printer_;
+    const Services& services_;
 };
 
 /// The first line of a sheet: when it was printed, and what it shows.
@@ -114,7 +121,7 @@ void PrintDesign(const Context& context, double copies, bool withInfoText) {
     constexpr double mostCopies = 999;
     const MainForm& main = context.main;
     Printer& printer = context.services.printer;
-    const PrintJob job(printer, PageOrientation::Landscape);
+    const PrintJob job(context.services, PageOrientation::Landscape);
     for (int copy = 1; copy <= std::min(copies, mostCopies); ++copy) {
         printer.Print(600, 600, headerFont, headerColour,
                       Header(context.services.clock, main.Label2.Caption));
@@ -130,7 +137,7 @@ void PrintDesign(const Context& context, double copies, bool withInfoText) {
 void PrintAllDesigns(const Context& context, FileListBox& files, Surface& picture) {
     Printer& printer = context.services.printer;
     ListFolder(files, context, designFolder, "*" + std::string(designPicture));
-    const PrintJob job(printer, PageOrientation::Portrait);
+    const PrintJob job(context.services, PageOrientation::Portrait);
     printer.Print(sheetLeft, 600, headerFont, headerColour,
                   Header(context.services.clock, std::to_string(files.ListCount()) + " Designs"));
     PrintPictures(context, designSheets, files, picture, [](double, double) {});
@@ -141,7 +148,7 @@ void PrintAllCliparts(const Context& context, FileListBox& files, Surface& pictu
     Printer& printer = context.services.printer;
     ListFolder(files, context, "\\Cliparts\\", "*.art");
     if (!UserWantsPages(context.services.platform, files.ListCount())) return;
-    const PrintJob job(printer, PageOrientation::Portrait);
+    const PrintJob job(context.services, PageOrientation::Portrait);
     printer.FeedPage();  // A library without a sheet is an empty page.
     PrintPictures(context, clipartSheets, files, picture, [&](double x, double y) {
         printer.Box(x, y, x + clipartSheets.width, y + boxHeight, boxColour);

@@ -14,12 +14,13 @@ namespace coinlet {
 enum class PageOrientation { Portrait = 1, Landscape = 2 };
 
 /// The system's printers and the job that is being printed. Places and sizes are twips from the top left
-/// corner of the page. The first thing drawn starts a job; a page is fed when something is drawn on it.
+/// corner of the sheet, not from where a printer's margin ends. The first thing drawn starts a job; a page is
+/// fed when something is drawn on it.
 class Printer {
 public:
     virtual ~Printer() = default;
 
-    /// The names of all printers, the same order each time.
+    /// The names of all printers as they are now.
     virtual std::vector<std::string> DeviceNames() const = 0;
     /// The current printer.
     virtual std::string DeviceName() const = 0;
@@ -37,6 +38,8 @@ public:
     /// The next thing drawn stands on a further page.
     virtual void NewPage() = 0;
     virtual void EndDoc() = 0;
+    /// Gives the job up: nothing comes of what was drawn since it started.
+    virtual void KillDoc() = 0;
 };
 
 }  // namespace coinlet

@@ -11,10 +11,16 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QImage>
+#include <QPageSize>
+#include <QPdfWriter>
 #include <QProcess>
 
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace coinlet::test {
 namespace {
@@ -132,6 +138,117 @@ TEST(QtPrinterTest, SamePictureOnManySheetsIsInTheFileOnce) {
          at = pdf.find("/Subtype /Image", at + 1))
         ++pictures;
     EXPECT_EQ(pictures, 2);
+}
+
+TEST(QtPrinterTest, JobThatIsGivenUpLeavesNothing) {
+    const TemporaryFolder folder;
+    const auto file = folder.Write("Coinlet.pdf", "of an earlier job");
+    {
+        QtPrinter printer(folder.Path());
+        printer.Box(0, 0, 100, 100, black);
+        printer.NewPage();
+        printer.Print(300, 300, {}, black, "Coinlet");
+        printer.KillDoc();
+        printer.EndDoc();
+        EXPECT_EQ(Content(file), "of an earlier job");
+        // The next one is a job of its own.
+        printer.FeedPage();
+        printer.EndDoc();
+        EXPECT_EQ(Sheets(Content(file)), 1);
+        folder.Write("Coinlet.pdf", "of an earlier job");
+        printer.Box(0, 0, 100, 100, black);
+    }
+    // Nor does one that the printer itself is gone in.
+    EXPECT_EQ(Content(file), "of an earlier job");
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+/// Printers that a test plugs in and out; they print on A5 paper, into files of their names.
+struct Office {
+    SystemPrinters Printers() {
+        return {.names = [this] { return names; },
+                .standard = [this] { return standard; },
+                .open = [this](const std::string& name) -> std::unique_ptr<QPagedPaintDevice> {
+                    const std::string file = (folder.Path() / (name + ".pdf")).string();
+                    auto device = std::make_unique<QPdfWriter>(QString::fromStdString(file));
+                    device->setPageSize(QPageSize(QPageSize::A5));
+                    return device;
+                }};
+    }
+    std::string Printed(const std::string& name) const { return Content(folder.Path() / (name + ".pdf")); }
+
+    TemporaryFolder folder;
+    std::vector<std::string> names{"First", "Second", "Third"};
+    std::string standard = "Second";
+};
+
+TEST(QtPrinterTest, StandardPrinterIsTheCurrentOneUntilAnotherIsChosen) {
+    Office office;
+    QtPrinter printer(office.folder.Path(), office.Printers());
+    EXPECT_EQ(printer.DeviceNames(), office.names);
+    EXPECT_EQ(printer.DeviceName(), "Second");
+    printer.SelectPrinter("Fourth");
+    EXPECT_EQ(printer.DeviceName(), "Second");
+    printer.SelectPrinter("Third");
+    EXPECT_EQ(printer.DeviceName(), "Third");
+    printer.Box(0, 0, 100, 100, black);
+    EXPECT_EQ(office.folder.Count(), 0);
+    printer.EndDoc();
+    EXPECT_EQ(Sheets(office.Printed("Third")), 1);
+    EXPECT_EQ(office.folder.Count(), 1);
+    office.standard.clear();
+    EXPECT_EQ(QtPrinter(office.folder.Path(), office.Printers()).DeviceName(), "First");
+}
+
+TEST(QtPrinterTest, PaperOfAPrinterIsItsOwn) {
+    Office office;
+    QtPrinter printer(office.folder.Path(), office.Printers());
+    printer.SetOrientation(PageOrientation::Landscape);
+    printer.Box(0, 0, 100, 100, black);
+    printer.NewPage();
+    printer.Box(0, 0, 100, 100, black);
+    printer.EndDoc();
+    EXPECT_EQ(Sheets(office.Printed("Second")), 2);
+    // A5 is 420 by 595 points.
+    EXPECT_NE(office.Printed("Second").find("/MediaBox [0 0 595"), std::string::npos);
+}
+
+TEST(QtPrinterTest, PrinterThatHasGoneAwayPrintsNothingAnywhere) {
+    Office office;
+    QtPrinter printer(office.folder.Path(), office.Printers());
+    printer.SelectPrinter("Third");
+    const auto names = std::exchange(office.names, {});
+    // As it was listed last.
+    EXPECT_EQ(printer.DeviceName(), "Third");
+    printer.Box(0, 0, 100, 100, black);
+    printer.EndDoc();
+    EXPECT_EQ(office.folder.Count(), 0);
+    // The last one gone while the job is under way.
+    office.names = names;
+    printer.Box(0, 0, 100, 100, black);
+    office.names = {"First"};
+    printer.EndDoc();
+    EXPECT_EQ(office.folder.Count(), 0);
+}
+
+TEST(QtPrinterTest, ListIsReadAnewEachTime) {
+    Office office;
+    QtPrinter printer(office.folder.Path(), office.Printers());
+    printer.SelectPrinter("Third");
+    office.names = {"First", "Fourth"};
+    office.standard = "Fourth";
+    EXPECT_EQ(printer.DeviceNames(), office.names);
+    EXPECT_EQ(printer.DeviceName(), "Fourth");
+    office.names.clear();
+    EXPECT_EQ(printer.DeviceNames(), std::vector<std::string>{"PDF"});
+    EXPECT_EQ(printer.DeviceName(), "PDF");
+    printer.FeedPage();
+    printer.EndDoc();
+    EXPECT_EQ(Sheets(office.Printed("Coinlet")), 1);
+    // Plugged in again it is the chosen one.
+    office.names = {"First", "Third"};
+    EXPECT_EQ(printer.DeviceNames(), office.names);
+    EXPECT_EQ(printer.DeviceName(), "Third");
 }
 
 TEST(QtPrinterTest, LandscapeTurnsTheSheet) {

@@ -63,6 +63,7 @@ public:
     void Box(double, double, double, double, Colour) override {}
     void NewPage() override {}
     void EndDoc() override {}
+    void KillDoc() override {}
 };
 
 class NoScreenGrab : public ScreenGrab {

@@ -63,6 +63,23 @@ TEST(Answers, OkTakesTheStandardTextAndCancelNone) {
     EXPECT_FALSE(answers.TakeForQuestion()) << "OK is no answer to a question";
 }
 
+TEST(PrinterRecord, ForgetsAJobThatIsGivenUp) {
+    PrinterRecord printer;
+    printer.KillDoc();
+    printer.Box(1, 2, 3, 4, white);
+    printer.EndDoc();
+    const auto printed = printer.lines.All();
+    printer.Box(5, 6, 7, 8, white);
+    printer.NewPage();
+    printer.FeedPage();
+    printer.KillDoc();
+    EXPECT_EQ(printer.lines.All(), printed);
+    printer.EndDoc();
+    EXPECT_EQ(printer.lines.All(), printed);
+    printer.Box(5, 6, 7, 8, white);
+    EXPECT_EQ(printer.lines.All().size(), printed.size() + 3);
+}
+
 TEST(PrinterRecord, StartsJobsAndPagesWhenSomethingIsDrawn) {
     PrinterRecord printer;
     FontProperties font;

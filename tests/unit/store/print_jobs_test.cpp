@@ -32,7 +32,7 @@ public:
         int boxes = 0;
     };
     std::vector<Sheet> sheets;
-    int jobs = 0;
+    int jobs = 0, killed = 0;
 
     void SetOrientation(PageOrientation orientation) override { orientation_ = orientation; }
     void FeedPage() override { Page(); }
@@ -45,6 +45,7 @@ public:
     void Box(double, double, double, double, Colour) override { ++Page().boxes; }
     void NewPage() override { fed_ = false; }
     void EndDoc() override { fed_ = false, ++jobs; }
+    void KillDoc() override { fed_ = false, ++killed; }
 
 private:
     Sheet& Page() {
@@ -106,6 +107,20 @@ TEST_F(PrintJobs, CopiesAreWholeAndNotTooMany) {
         PrintDesign(there, copies, true);
         EXPECT_EQ(paper.sheets.size(), expected) << copies;
     }
+}
+
+TEST_F(PrintJobs, JobThatTheProgramsEndCutsShortIsGivenUp) {
+    for (const char* file : {"a.art", "b.art", "c.art"})
+        StorePicture(std::string("Cliparts/") + file, black);
+    platform.answers = {Answer::Yes};
+    platform.whenServing = [this] {
+        if (platform.served == 2) platform.End();
+    };
+    EXPECT_FALSE(platform.Do([this] { PrintAllCliparts(there, form.File1, form.Picture2.surface); }));
+    EXPECT_EQ(paper.killed, 1);
+    EXPECT_EQ(paper.jobs, 0);
+    EXPECT_EQ(paper.sheets.size(), 1U);
+    EXPECT_EQ(paper.sheets[0].pictures.size(), 2U);
 }
 
 TEST_F(PrintJobs, InfoTextRunsOffTheSheet) {
