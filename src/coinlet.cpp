@@ -36,6 +36,8 @@ int main(int argc, char** argv) {
     const auto arguments = ReadArguments(argc, argv);
     if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
     const auto* line = std::get_if<CommandLine>(&arguments);
+    // Exports and printed files go there.
+    MakePictureFolder(std::getenv);
 
     QtFontEngine fonts;
     const MediaCodecs codecs;

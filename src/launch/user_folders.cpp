@@ -1,5 +1,13 @@
 #include "launch/user_folders.h"
 
+#include "base/files.h"
+#include "base/text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <system_error>
+
 namespace coinlet {
 
 namespace {
@@ -17,6 +25,16 @@ std::filesystem::path BaseFolder(const Environment& environment, const char* var
     return home.empty() ? home : home / beneathHome;
 }
 
+/// True if a text of lines `NAME="VALUE"` names a picture folder.
+bool NamesPictureFolder(std::string_view userDirs) {
+    constexpr std::string_view name = "XDG_PICTURES_DIR=";
+    return std::ranges::any_of(Lines(userDirs), [name](std::string_view line) {
+        line = TrimBlanks(line);
+        if (!line.starts_with(name)) return false;
+        return line.substr(name.size()).find_first_not_of("\" ") != std::string_view::npos;
+    });
+}
+
 }  // namespace
 
 std::filesystem::path UserDataFolder(const Environment& environment) {
@@ -25,6 +43,18 @@ std::filesystem::path UserDataFolder(const Environment& environment) {
 
 std::filesystem::path UserStateFolder(const Environment& environment) {
     return BaseFolder(environment, "XDG_STATE_HOME", ".local/state");
+}
+
+void MakePictureFolder(const Environment& environment) {
+    const auto home = AbsolutePath(environment("HOME"));
+    if (home.empty()) return;
+    constexpr std::size_t largestUserDirs = 1 << 20;
+    const auto settings = BaseFolder(environment, "XDG_CONFIG_HOME", ".config");
+    const auto userDirs = ReadFile(settings / "user-dirs.dirs", largestUserDirs);
+    if (userDirs && NamesPictureFolder({reinterpret_cast<const char*>(userDirs->data()), userDirs->size()}))
+        return;
+    std::error_code failed;
+    std::filesystem::create_directory(home / "Pictures", failed);
 }
 
 }  // namespace coinlet

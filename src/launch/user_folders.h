@@ -17,4 +17,9 @@ std::filesystem::path UserDataFolder(const Environment& environment);
 /// else `.local/state` in the home folder, by the same rules.
 std::filesystem::path UserStateFolder(const Environment& environment);
 
+/// Makes a picture folder for a user who has none: `Pictures` in the home folder. Where the desktop names
+/// one, as `XDG_PICTURES_DIR` in the file `user-dirs.dirs` of his settings, that is the one, be it there or
+/// not. Whether the folder could be made isn't told.
+void MakePictureFolder(const Environment& environment);
+
 }  // namespace coinlet
