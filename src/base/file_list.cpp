@@ -74,6 +74,18 @@ std::vector<std::string> ListFiles(const fs::path& folder, std::string_view patt
     });
 }
 
+std::optional<fs::path> FindFile(const fs::path& folder, std::string_view name) {
+    if (!IsFileName(name)) return {};
+    if (fs::path file = folder / name; FileExists(file)) return file;
+    const std::string lower = LowerCase(name);
+    const auto alike = Entries(folder, [&lower](const fs::directory_entry& entry, const std::string& other) {
+        std::error_code error;
+        return LowerCase(other) == lower && entry.is_regular_file(error);
+    });
+    if (alike.empty()) return {};
+    return folder / alike.front();
+}
+
 std::vector<std::string> ListFolders(const fs::path& folder) {
     return Entries(folder, [](const fs::directory_entry& entry, const std::string& name) {
         std::error_code error;

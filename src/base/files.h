@@ -89,6 +89,11 @@ fs::path Beneath(const fs::path& folder, std::string_view literal);
 /// without regard to case, sorted by name without regard to case. A folder that can't be read gives no names.
 std::vector<std::string> ListFiles(const fs::path& folder, std::string_view patterns);
 
+/// The file of that name in `folder`: the very name first, else the first in order that differs from it in
+/// case only. Nothing where there is neither, or `name` is none of a file. Stores that come from a system
+/// without regard to case hold ".PAT" and ".TXT".
+std::optional<fs::path> FindFile(const fs::path& folder, std::string_view name);
+
 /// The names of the folders in `folder`, sorted likewise, without "." and "..", hidden ones (".name") left
 /// out.
 std::vector<std::string> ListFolders(const fs::path& folder);

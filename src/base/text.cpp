@@ -127,6 +127,14 @@ char32_t LowerCodePoint(char32_t c) {
     return c;
 }
 
+bool IsAscii(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char LowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
 // The letters that a small letter consists of, accents aside.
 std::u32string_view BaseOf(const char32_t& small) {
     struct Family {
@@ -242,6 +250,12 @@ std::string LowerCase(std::string_view utf8) {
 }
 
 bool ComesBefore(std::string_view a, std::string_view b) {
+    if (IsAscii(a) && IsAscii(b)) {
+        const auto letterBefore = [](char x, char y) { return LowerAscii(x) < LowerAscii(y); };
+        if (std::ranges::lexicographical_compare(a, b, letterBefore)) return true;
+        if (std::ranges::lexicographical_compare(b, a, letterBefore)) return false;
+        return a < b;
+    }
     const std::u32string baseA = BaseLetters(a), baseB = BaseLetters(b);
     if (baseA != baseB) return baseA < baseB;
     const std::string lowerA = LowerCase(a), lowerB = LowerCase(b);

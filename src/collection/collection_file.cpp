@@ -10,7 +10,8 @@ namespace {
 
 constexpr char quote = '"';
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t largestCollection = 1'000'000;
+/// Far beyond what anybody types; what is larger is another kind of file.
+constexpr std::size_t largestCollection = 64'000'000;
 
 /// Reads values one after the other, as they are parted by commas and line ends.
 class ValueReader {

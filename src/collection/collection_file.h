@@ -16,8 +16,8 @@ std::vector<std::string> ParseCollection(std::string_view text);
 /// The text of a catalogue: each number without blanks at its ends, in quotes, on a line that ends in CR LF.
 std::string FormatCollection(const std::vector<std::string>& numbers);
 
-/// A catalogue as it was read. One that is there but can't be read, or is larger than a million characters,
-/// is empty and not `readable`.
+/// A catalogue as it was read. One that is there but can't be read, or is larger than 64 million bytes, is
+/// empty and not `readable`.
 struct Collection {
     std::vector<std::string> numbers;
     bool readable = true;

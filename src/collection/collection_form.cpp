@@ -10,6 +10,7 @@
 #include "core/text_keys.h"
 #include "surface/codecs.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace coinlet {
@@ -20,11 +21,9 @@ fs::path CatalogueFile(const Context& context) {
     return Beneath(context.services.applicationFolder, "\\Collection\\Collection.col");
 }
 
-/// Where the picture of a number lies; nothing for a number that can't be a name there.
+/// The picture of a number, in whatever case its name is written; nothing if there is none.
 std::optional<fs::path> PictureFile(const Context& context, const std::string& number) {
-    const std::string name = number + ".jpg";
-    if (!IsFileName(name)) return {};
-    return Beneath(context.services.applicationFolder, "\\Collection") / name;
+    return FindFile(Beneath(context.services.applicationFolder, "\\Collection"), number + ".jpg");
 }
 
 }  // namespace
@@ -58,15 +57,15 @@ void CollectionForm::Form_Unload(bool& cancel) {
 
 void CollectionForm::LoadCollection() {
     List1.Clear();
-    const Collection collection = ReadCollection(CatalogueFile(context_));
+    Collection collection = ReadCollection(CatalogueFile(context_));
     readable_ = collection.readable;
+    // The list sorts them too, but row by row.
+    std::ranges::stable_sort(collection.numbers, ComesBefore);
     for (const std::string& number : collection.numbers)
         List1.AddItem(number);
 }
 
 void CollectionForm::SaveCollection() {
-    // What the user never saw isn't replaced by what he saw instead.
-    if (!readable_) return;
     std::vector<std::string> numbers;
     numbers.reserve(static_cast<std::size_t>(List1.ListCount()));
     for (int i = 0; i < List1.ListCount(); ++i)
@@ -85,7 +84,7 @@ void CollectionForm::List1_Click() {
 
 void CollectionForm::ShowPictureOf(const std::string& number) {
     const auto file = PictureFile(context_, number);
-    if (!file || !FileExists(*file)) return ShowNoPicture();
+    if (!file) return ShowNoPicture();
     // A file that holds no picture leaves the one before it.
     if (const auto picture = LoadPicture(*file, context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
@@ -134,9 +133,17 @@ void CollectionForm::DelKnop_Click() {
     List1.RemoveItem(row);
     ShowCount();
     // Without a choice nothing is meant, also no file that is called ".jpg".
-    const auto picture = row < 0 ? std::nullopt : PictureFile(context_, name);
-    if (picture) static_cast<void>(DeleteFile(*picture));
+    if (row >= 0) DeletePictureOf(name);
     ShowNoPicture();
+}
+
+void CollectionForm::DeletePictureOf(const std::string& number) {
+    const auto picture = PictureFile(context_, number);
+    if (!picture) return;
+    // A picture whose name differs in case may be that of another number.
+    const std::string itsNumber = picture->stem().string();
+    if (itsNumber != number && List1.Rows().Find(itsNumber) >= 0) return;
+    static_cast<void>(DeleteFile(*picture));
 }
 
 void CollectionForm::HelpKnop_Click() {
@@ -149,6 +156,14 @@ void CollectionForm::HelpKnop_Click() {
 }
 
 void CollectionForm::OkKnop_Click() {
+    if (!readable_) {
+        // What the user never saw isn't replaced by what he typed, and what he typed isn't dropped in
+        // silence.
+        context_.services.platform.ShowMessage({.prompt = LookupInfoText(context_, key::collectionUnreadable),
+                                                .title = "My Collection",
+                                                .icon = MessageIcon::Stop});
+        return;
+    }
     SaveCollection();
     CloseDialog(context_, *this);
 }

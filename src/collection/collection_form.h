@@ -52,6 +52,7 @@ private:
     bool HasNumber();
     void ShowPictureOf(const std::string& number);
     void ShowNoPicture();
+    void DeletePictureOf(const std::string& number);
     void ShowCount();
 
     Context& context_;

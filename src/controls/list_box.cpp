@@ -14,6 +14,8 @@ const std::string& RowList::Row(int index) const {
 }
 
 int RowList::PlaceOf(const std::string& row) const {
+    // Long lists come sorted.
+    if (rows_.empty() || !ComesBefore(row, rows_.back())) return Count();
     return static_cast<int>(std::ranges::upper_bound(rows_, row, ComesBefore) - rows_.begin());
 }
 

@@ -61,5 +61,6 @@ constexpr std::string_view screenMayNotFit = "046";
 constexpr std::string_view screenCanBeChanged = "047";
 constexpr std::string_view screenHelpEntry = "048";
 constexpr std::string_view confirmOverwrite = "070";
+constexpr std::string_view collectionUnreadable = "410";
 
 }  // namespace coinlet::key

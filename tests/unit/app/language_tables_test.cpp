@@ -76,6 +76,10 @@ TEST_P(LanguageTable, HasAHelpTextThatFitsItsPanel) {
               box.PixelHeight() - 2 * (textBoxFrame + textBoxMargin));
 }
 
+TEST_P(LanguageTable, HasItsOwnMessages) {
+    EXPECT_FALSE(TrimBlanks(LookupInfoText(context, "410")).empty());
+}
+
 TEST_P(LanguageTable, HasEachKeyOnceInOrder) {
     std::string before;
     for (int i = 0; i < main.InfoList.ListCount(); ++i) {

@@ -91,6 +91,44 @@ TEST(ListFiles, GivesNothingForAFolderThatCannotBeRead) {
     EXPECT_EQ(ListFiles({}, "*"), Names{});
 }
 
+TEST(FindFile, TakesTheVeryNameFirst) {
+    const TemporaryFolder folder;
+    for (const char* name : {"a.PAT", "A.pat", "a.pat", "b.Pat", "B.PAT"})
+        folder.Write(name, "");
+    EXPECT_EQ(FindFile(folder.Path(), "a.pat"), folder / "a.pat");
+    EXPECT_EQ(FindFile(folder.Path(), "a.PAT"), folder / "a.PAT");
+    EXPECT_EQ(FindFile(folder.Path(), "A.PAT"), folder / "A.pat");
+    EXPECT_EQ(FindFile(folder.Path(), "b.pat"), folder / "B.PAT");
+    EXPECT_EQ(FindFile(folder.Path(), "c.pat"), std::nullopt);
+}
+
+TEST(FindFile, TakesNoPatterns) {
+    const TemporaryFolder folder;
+    folder.Write("ab.pat", "");
+    EXPECT_EQ(FindFile(folder.Path(), "a?.pat"), std::nullopt);
+    EXPECT_EQ(FindFile(folder.Path(), "*"), std::nullopt);
+}
+
+TEST(FindFile, KnowsLettersWithAccents) {
+    const TemporaryFolder folder;
+    folder.Write("\u00C9\u00C9n.PAT", "");
+    EXPECT_EQ(FindFile(folder.Path(), "\u00E9\u00E9n.pat"), folder / "\u00C9\u00C9n.PAT");
+    EXPECT_EQ(FindFile(folder.Path(), "een.pat"), std::nullopt);
+}
+
+TEST(FindFile, FindsRegularFilesByPlainNames) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "a.pat");
+    fs::create_directory(folder / "folder");
+    folder.Write("folder/b", "");
+    EXPECT_EQ(FindFile(folder.Path(), "a.pat"), std::nullopt);
+    folder.Write("A.PAT", "");
+    EXPECT_EQ(FindFile(folder.Path(), "a.pat"), folder / "A.PAT");
+    for (const char* name : {"", ".", "folder/b", "folder\\b"})
+        EXPECT_EQ(FindFile(folder.Path(), name), std::nullopt) << name;
+    EXPECT_EQ(FindFile(folder / "gone", "a.pat"), std::nullopt);
+}
+
 TEST(ListFolders, LeavesFilesAndHiddenFoldersOut) {
     const TemporaryFolder folder;
     for (const char* name : {"b", "A", ".hidden", "c"})

@@ -93,10 +93,20 @@ TEST_F(CollectionFile, ThatIsNoFileIsNotReadable) {
 }
 
 TEST_F(CollectionFile, ThatIsHugeIsNotReadable) {
-    EXPECT_EQ(ReadWith(std::string(1'000'000, '7')).numbers.size(), 1U);
-    const Collection huge = ReadWith(std::string(1'000'001, '7'));
+    EXPECT_EQ(ReadWith(std::string(64'000'000, '7')).numbers.size(), 1U);
+    const Collection huge = ReadWith(std::string(64'000'001, '7'));
     EXPECT_FALSE(huge.readable);
     EXPECT_TRUE(huge.numbers.empty());
+}
+
+TEST_F(CollectionFile, ThatWasWrittenIsRead) {
+    Numbers numbers;
+    for (int i = 0; i < 200'000; ++i)
+        numbers.push_back("number " + std::to_string(1'000'000 + i));
+    WriteCollection(file, numbers);
+    const Collection collection = ReadCollection(file);
+    EXPECT_TRUE(collection.readable);
+    EXPECT_EQ(collection.numbers, numbers);
 }
 
 TEST_F(CollectionFile, OfAnyBytesIsReadInPeace) {
