@@ -17,14 +17,21 @@ constexpr std::string_view designInfoText = ".txt";
 /// may be none.
 bool IsDesignName(std::string_view name);
 
-/// Where a file of the design `name` is written: the folder is put before the name as the user typed it, so
-/// that only an `IsDesignName` leads to a file.
+/// Where a file of the design `name` is written at first: the folder is put before the name as the user typed it,
+/// so that only an `IsDesignName` leads to a file.
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension);
 
-/// The file that holds this part of a stored design: `DesignFile`, or, where that isn't there, one with the
-/// extension in other letters. Stores that come from a system without regard to case hold ".PAT" and ".TXT".
-std::string StoredDesignFile(const fs::path& applicationFolder, std::string_view name,
-                             std::string_view extension);
+/// The picture of the design `name`: the file that opening finds and saving replaces, in whatever case its
+/// name is written, or the one that saving makes anew. Nothing for a name that leads to no file in the folder
+/// of designs.
+std::optional<fs::path> DesignPicture(const fs::path& applicationFolder, std::string_view name);
+
+/// The info text that belongs to the design with this picture, likewise. Nothing where there is none, and
+/// where it is another design's whose name is nearer to its own.
+std::optional<fs::path> FindInfoText(const fs::path& picture);
+
+/// Where the info text of that design stands or would be made.
+fs::path InfoTextPath(const fs::path& picture);
 
 /// The name of a stored thing from that of its file, such as "coin" from "coin.pat": all but the last four
 /// characters, which are the extension. A shorter name leaves an empty one.

@@ -30,7 +30,8 @@ std::string_view AfterItem(std::string_view text) {
 }  // namespace
 
 void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls) {
-    if (!IsDesignName(name)) return;
+    const auto picture = DesignPicture(context.services.applicationFolder, name);
+    if (!picture) return;
     std::string text;
     const auto addLine = [&](std::string_view line) { text.append(line).append(lineEnd); };
     addLine(banner);
@@ -38,16 +39,23 @@ void WriteDesignInfoText(const Context& context, std::string_view name, FileCall
     const ListBox& rows = context.main.List2;
     for (int i = 0; i < rows.ListCount(); ++i)
         addLine(rows.List(i));
-    const fs::path path = DesignFile(context.services.applicationFolder, name, designInfoText);
-    static_cast<void>(ReplaceFile(path, AsBytes(ToCodePage(text)), calls));
+    static_cast<void>(ReplaceFile(InfoTextPath(*picture), AsBytes(ToCodePage(text)), calls));
 }
 
 void ReadDesignInfoText(const Context& context, std::string_view name) {
+    if (const auto picture = DesignPicture(context.services.applicationFolder, name)) {
+        ReadInfoTextOf(context, *picture);
+    } else {
+        context.main.List2.Clear();
+    }
+}
+
+void ReadInfoTextOf(const Context& context, const fs::path& picture) {
     ListBox& rows = context.main.List2;
     rows.Clear();
-    if (!IsDesignName(name)) return;
-    const auto bytes =
-        ReadFile(StoredDesignFile(context.services.applicationFolder, name, designInfoText), largestInfoText);
+    const auto file = FindInfoText(picture);
+    if (!file) return;
+    const auto bytes = ReadFile(*file, largestInfoText);
     if (!bytes) return;
     std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
     for (int item = 0; item < headerItems; ++item)

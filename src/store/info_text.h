@@ -16,4 +16,7 @@ void WriteDesignInfoText(const Context& context, std::string_view name, FileCall
 /// has no rows.
 void ReadDesignInfoText(const Context& context, std::string_view name);
 
+/// The same for the design with this picture.
+void ReadInfoTextOf(const Context& context, const fs::path& picture);
+
 }  // namespace coinlet

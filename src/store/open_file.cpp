@@ -32,16 +32,23 @@ void OpenFile::Form_Load() {
     Label2.Caption = LookupInfoText(context_, key::openFileHelp);
     File1.SetPattern("*" + std::string(designPicture));
     File1.SetPath(Beneath(context_.services.applicationFolder, designFolder).string());
-    for (int i = 0; i < File1.ListCount(); ++i)
+    for (int i = 0; i < File1.ListCount(); ++i) {
         List1.AddItem(WithoutExtension(File1.List(i)));
+        files_.push_back(fs::path(File1.Path()) / File1.List(i));
+    }
     List1.SetFocus();
+}
+
+fs::path OpenFile::ChosenFile() const {
+    const int row = List1.ListIndex();
+    // Without a choice the name is empty.
+    if (row < 0) return DesignFile(context_.services.applicationFolder, {}, designPicture);
+    return files_.at(static_cast<std::size_t>(row));
 }
 
 void OpenFile::List1_Click() {
     DelKnop.SetEnabled(true);
-    const std::string file =
-        StoredDesignFile(context_.services.applicationFolder, List1.Text(), designPicture);
-    if (const auto picture = LoadPicture(file, context_.services.codecs))
+    if (const auto picture = LoadPicture(ChosenFile(), context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
     const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - sidePanelWidth, BackPic.surface.ScaleHeight()};
@@ -51,10 +58,10 @@ void OpenFile::List1_Click() {
 
 void OpenFile::OpenChosen() {
     const std::string name = List1.Text();
-    const std::string file = StoredDesignFile(context_.services.applicationFolder, name, designPicture);
+    const fs::path file = ChosenFile();
     Session& session = context_.session;
-    session.DesignFile = file;
-    // Without a choice the name is empty, and a file called ".pat" isn't meant.
+    session.DesignFile = file.string();
+    // A file called ".pat" isn't meant.
     if (List1.ListIndex() < 0) return;
     const auto picture = LoadPicture(file, context_.services.codecs);
     if (!picture) return;
@@ -67,7 +74,7 @@ void OpenFile::OpenChosen() {
     session.DesignChanged = false;
     ShowHint(context_, key::ready);
     TakeSidePanel(BackPic.surface.Image(), main.InfoPic.surface);
-    ReadDesignInfoText(context_, name);
+    ReadInfoTextOf(context_, file);
 }
 
 void OpenFile::OkKnop_Click() {
@@ -81,6 +88,7 @@ void OpenFile::DelKnop_Click() {
     const std::string name = List1.Text();
     if (name.empty()) return;
     const int row = List1.ListIndex();
+    const fs::path file = ChosenFile();
     // The question is Dutch in every language.
     const Answer answer =
         context_.services.platform.ShowMessage({.prompt = "Wilt u het ontwerp '" + name + "' verwijderen?",
@@ -90,11 +98,12 @@ void OpenFile::DelKnop_Click() {
                                                 .standard = Answer::No});
     if (answer != Answer::Yes) return;
     // A file that can't be deleted, or is gone already, is passed over: the row goes all the same.
-    const fs::path& folder = context_.services.applicationFolder;
-    static_cast<void>(DeleteFile(StoredDesignFile(folder, name, designPicture)));
+    const auto text = FindInfoText(file);
+    static_cast<void>(DeleteFile(file));
     List1.RemoveItem(row);
+    files_.erase(files_.begin() + row);
     Image1.surface.Cls();
-    static_cast<void>(DeleteFile(StoredDesignFile(folder, name, designInfoText)));
+    if (text) static_cast<void>(DeleteFile(*text));
 }
 
 }  // namespace coinlet

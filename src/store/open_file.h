@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/files.h"
 #include "controls/file_boxes.h"
 #include "controls/form.h"
 #include "controls/label.h"
@@ -7,8 +8,7 @@
 #include "controls/picture_box.h"
 #include "controls/vista_button.h"
 
-#include <string>
-#include <string_view>
+#include <vector>
 
 namespace coinlet {
 
@@ -36,10 +36,13 @@ public:
     void DelKnop_Click();
 
 private:
+    /// The file of the chosen row.
+    fs::path ChosenFile() const;
     /// Puts the chosen design on the canvas, or leaves the present one if it can't be read.
     void OpenChosen();
 
     Context& context_;
+    std::vector<fs::path> files_;  ///< By row.
 };
 
 }  // namespace coinlet

@@ -92,7 +92,9 @@ bool SaveForm::ExportJpeg() {
         return false;
     }
     const std::string fileName = Text1.Text() + ".jpg";
-    const std::string target = (services.desktop.PictureFolder() / "").string() + fileName;
+    const fs::path folder = services.desktop.PictureFolder();
+    const auto older = FindFile(folder, fileName);
+    const std::string target = older ? older->string() : (folder / "").string() + fileName;
     context_.session.DesignFile = target;
     if (!IsFileName(fileName)) return true;
     if (!MayWrite(target)) return false;
@@ -101,13 +103,14 @@ bool SaveForm::ExportJpeg() {
 }
 
 bool SaveForm::SaveDesign() {
+    const fs::path& folder = context_.services.applicationFolder;
     const std::string name = Text1.Text();
-    const std::string target = DesignFile(context_.services.applicationFolder, name, designPicture);
-    context_.session.DesignFile = target;
-    if (!IsDesignName(name)) return true;
-    if (!MayWrite(target)) return false;
+    const auto target = DesignPicture(folder, name);
+    context_.session.DesignFile = target ? target->string() : DesignFile(folder, name, designPicture);
+    if (!target) return true;
+    if (!MayWrite(*target)) return false;
     // A user who isn't told of a failure finds the older design untouched.
-    static_cast<void>(SavePicture(BmpPic.surface.Image(), target));
+    static_cast<void>(SavePicture(BmpPic.surface.Image(), *target));
     if (context_.main.List2.ListCount() > 0) WriteDesignInfoText(context_, name);
     return true;
 }
