@@ -2,6 +2,8 @@
 
 #include "started_program.h"
 
+#include <filesystem>
+
 namespace coinlet::test {
 namespace {
 
@@ -46,6 +48,12 @@ TEST_F(ProgramLife, FreshFolderStartsInDutchAndSaysSoInTheSettings) {
     Start();
     EXPECT_EQ(Title(), "Coinlet Designer (Nederlands)");
     EXPECT_EQ(folder.Read("Coinlet.ini"), SettingsWith("Nederlands"));
+}
+
+TEST_F(ProgramLife, UserWithoutAPictureFolderGetsOne) {
+    std::filesystem::create_directory(home);
+    Start();
+    EXPECT_TRUE(std::filesystem::is_directory(home / "Pictures"));
 }
 
 TEST_F(ProgramLife, CloseBoxEndsAtOnceWhereNothingChanged) {
