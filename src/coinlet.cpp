@@ -53,7 +53,8 @@ int main(int argc, char** argv) {
         .desktop = shell.GetDesktop(),
         .clipboard = shell.GetClipboard(),
         .printer = shell.GetPrinter(),
-        .screenGrab = shell.GetScreenGrab()};
+        .screenGrab = shell.GetScreenGrab(),
+        .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
     Application application(services);
     return shell.Run([&] { application.Start(); });
 }

@@ -10,6 +10,7 @@
 #include "filters/filter_core.h"
 #include "filters/filter_menu.h"
 #include "store/clipboard_copy.h"
+#include "store/recovery.h"
 #include "tools/copy_tool.h"
 #include "tools/fill_tools.h"
 #include "tools/flip_menu.h"
@@ -44,7 +45,11 @@ struct Application::House {
         gestures.Add(EmptyBandTools(flipMenuTool, flipMenuTool));
         gestures.Add(EmptyBandTools(aboutTool, firstShapeTool - 1));
         BindDialogs(context, strip);
-        main.Load = [this] { StartUp(context); };
+        main.Load = [this] {
+            StartUp(context);
+            recovery.PutBackLostWork();
+        };
+        gestures.strokeFinished = [this] { recovery.StrokeFinished(); };
     }
 
     Services services;
@@ -52,6 +57,7 @@ struct Application::House {
     MainForm main;
     PlaatjesForm plaatjes;
     Context context;
+    Recovery recovery{context, services.recoveryFolder};
     FilterCore filterCore{context};
     // Each binds itself to the controls that it serves.
     MainLife life{context};

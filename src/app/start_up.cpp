@@ -101,6 +101,7 @@ constexpr void (*steps[])(Context&) = {
 void StartUp(Context& context) {
     for (const auto step : steps)
         step(context);
+    context.session.StoredDesign = RevisionOf(context.main);
 }
 
 }  // namespace coinlet

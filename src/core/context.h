@@ -28,6 +28,8 @@ struct Services {
     Clipboard& clipboard;
     Printer& printer;
     ScreenGrab& screenGrab;
+    /// Where work that isn't stored is kept for the next start; with an empty one it isn't.
+    std::filesystem::path recoveryFolder = {};
 
     FormServices ForForms() const { return {platform, fonts}; }
 };

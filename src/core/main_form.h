@@ -129,7 +129,8 @@ public:
     Label InfoLabel{Frame7, "InfoLabel"};      ///< What to do next.
     Label NummerLabel{Frame7, "NummerLabel"};  ///< Number of the text on InfoLabel.
 
-    Timer Timer1{*this, "Timer1"};  ///< The clock.
+    Timer Timer1{*this, "Timer1"};                ///< The clock.
+    Timer RecoveryTimer{*this, "RecoveryTimer"};  ///< Work that isn't stored; at rest where none is kept.
 
     // --- Menus -----------------------------------------------------------------------------------------
     MenuItem File{*this, "File", "File"};

@@ -86,6 +86,7 @@ void MainLife::FileNew_Click() {
     session.ToolCode = nothingArmed;
     ShowHint(context_, key::ready);
     session.DesignChanged = false;
+    session.StoredDesign = RevisionOf(main);
 }
 
 void MainLife::ViewKruis_Click() {

@@ -2,6 +2,7 @@
 
 #include "controls/house_colours.h"
 #include "controls/property.h"
+#include "core/design_revision.h"
 #include "core/materials.h"
 #include "core/tool_codes.h"
 #include "core/tool_sliders.h"
@@ -30,6 +31,8 @@ struct Session {
     bool TextPlacing = false;
     /// Name of the design in the store; empty for a new one.
     std::string DesignName;
+    /// The design as it was when it was last stored, opened or made new.
+    DesignRevision StoredDesign;
     /// The path that the last save, export or opening worked on.
     std::string DesignFile;
     /// The folder that the image browser lists.

@@ -63,4 +63,8 @@ constexpr std::string_view screenHelpEntry = "048";
 constexpr std::string_view confirmOverwrite = "070";
 constexpr std::string_view collectionUnreadable = "410";
 
+// Work that a killed program left behind.
+constexpr std::string_view recovered = "420";      ///< How the name of its design begins.
+constexpr std::string_view workRecovered = "421";  ///< The hint that tells of it; the name follows.
+
 }  // namespace coinlet::key

@@ -57,4 +57,8 @@ void MakePictureFolder(const Environment& environment) {
     std::filesystem::create_directory(home / "Pictures", failed);
 }
 
+std::filesystem::path RecoveryFolder(const std::filesystem::path& userStateFolder) {
+    return userStateFolder.empty() ? userStateFolder : userStateFolder / "coinlet-designer";
+}
+
 }  // namespace coinlet

@@ -22,4 +22,7 @@ std::filesystem::path UserStateFolder(const Environment& environment);
 /// not. Whether the folder could be made isn't told.
 void MakePictureFolder(const Environment& environment);
 
+/// The program's own in it, which it makes when it needs it; empty if the user has none.
+std::filesystem::path RecoveryFolder(const std::filesystem::path& userStateFolder);
+
 }  // namespace coinlet

@@ -29,17 +29,22 @@ std::string_view AfterItem(std::string_view text) {
 
 }  // namespace
 
-void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls) {
-    const auto picture = DesignPicture(context.services.applicationFolder, name);
-    if (!picture) return;
+Bytes InfoTextFile(const ListBox& rows) {
     std::string text;
     const auto addLine = [&](std::string_view line) { text.append(line).append(lineEnd); };
     addLine(banner);
     addLine(rule);
-    const ListBox& rows = context.main.List2;
     for (int i = 0; i < rows.ListCount(); ++i)
         addLine(rows.List(i));
-    static_cast<void>(ReplaceFile(InfoTextPath(*picture), AsBytes(ToCodePage(text)), calls));
+    const std::string page = ToCodePage(text);
+    const auto bytes = AsBytes(page);
+    return {bytes.begin(), bytes.end()};
+}
+
+std::error_code WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls) {
+    const auto picture = DesignPicture(context.services.applicationFolder, name);
+    if (!picture) return std::make_error_code(std::errc::invalid_argument);
+    return ReplaceFile(InfoTextPath(*picture), InfoTextFile(context.main.List2), calls);
 }
 
 void ReadDesignInfoText(const Context& context, std::string_view name) {

@@ -6,11 +6,16 @@
 
 namespace coinlet {
 
+class ListBox;
 struct Context;
 
+/// The bytes of the info text's file for these rows.
+Bytes InfoTextFile(const ListBox& rows);
+
 /// Writes the info text of the design `name` from the rows of `Main.List2`, over an older one. If that can't
-/// be done, or the name leads to no file, everything stays as it was; nobody is told.
-void WriteDesignInfoText(const Context& context, std::string_view name, FileCalls& calls = SystemFileCalls());
+/// be done, or the name leads to no file, everything stays as it was.
+std::error_code WriteDesignInfoText(const Context& context, std::string_view name,
+                                    FileCalls& calls = SystemFileCalls());
 
 /// Fills `Main.List2` from the info text of the design `name`, without its blank rows. A design without one
 /// has no rows.

@@ -75,6 +75,7 @@ void OpenFile::OpenChosen() {
     ShowHint(context_, key::ready);
     TakeSidePanel(BackPic.surface.Image(), main.InfoPic.surface);
     ReadInfoTextOf(context_, file);
+    session.StoredDesign = RevisionOf(main);
 }
 
 void OpenFile::OkKnop_Click() {

@@ -109,9 +109,10 @@ bool SaveForm::SaveDesign() {
     context_.session.DesignFile = target ? target->string() : DesignFile(folder, name, designPicture);
     if (!target) return true;
     if (!MayWrite(*target)) return false;
-    // A user who isn't told of a failure finds the older design untouched.
-    static_cast<void>(SavePicture(BmpPic.surface.Image(), *target));
-    if (context_.main.List2.ListCount() > 0) WriteDesignInfoText(context_, name);
+    // A user who isn't told of a failure finds the older design untouched, and his work at the next start.
+    bool isStored = !SavePicture(BmpPic.surface.Image(), *target);
+    if (context_.main.List2.ListCount() > 0) isStored = !WriteDesignInfoText(context_, name) && isStored;
+    if (isStored) context_.session.StoredDesign = RevisionOf(context_.main);
     return true;
 }
 

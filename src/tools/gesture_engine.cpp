@@ -33,7 +33,10 @@ GestureEngine::GestureEngine(Context& context) : context_(context) {
     canvas.MouseMove = [this](int button, int shift, float x, float y) {
         Pic_MouseMove(button, shift, x, y);
     };
-    canvas.MouseUp = [this](int button, int shift, float x, float y) { Pic_MouseUp(button, shift, x, y); };
+    canvas.MouseUp = [this](int button, int shift, float x, float y) {
+        Pic_MouseUp(button, shift, x, y);
+        if (strokeFinished) strokeFinished();
+    };
 }
 
 void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {

@@ -47,6 +47,8 @@ public:
     void Add(ToolFamily family) { families_.push_back(std::move(family)); }
     /// What a release does while a text hangs on the pointer; no other step runs then.
     std::function<void(GesturePoint)> placeText;
+    /// Runs at the end of each release, whatever it did.
+    std::function<void()> strokeFinished;
 
 private:
     void Pic_MouseDown(int button, int shift, float x, float y);

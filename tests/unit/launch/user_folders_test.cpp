@@ -41,6 +41,8 @@ TEST(UserFolders, VariableThatIsEmptyOrRelativeIsNotSet) {
 TEST(UserFolders, WithoutAHomeThereAreNone) {
     EXPECT_EQ(UserDataFolder(Of({})), "");
     EXPECT_EQ(UserStateFolder(Of({{"HOME", "relative"}})), "");
+    EXPECT_EQ(RecoveryFolder(""), "");
+    EXPECT_EQ(RecoveryFolder("/home/ann/.local/state"), "/home/ann/.local/state/coinlet-designer");
 }
 
 class PictureFolder : public testing::Test {

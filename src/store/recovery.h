@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/design_revision.h"
+#include "store/snapshots.h"
+
+#include <optional>
+
+namespace coinlet {
+
+struct Context;
+
+/// Sees to it that nothing is lost when the program is killed or the machine dies. While the design holds
+/// work that isn't in the store, a snapshot of it, just what a save would write, is kept outside the
+/// application folder: written when the user pauses for a second, and at the latest with the first stroke
+/// that is finished ten seconds after the last one. It goes when the design is saved, made new or replaced by
+/// another, and when the user leaves the program, who was asked about unsaved work. The next start puts what
+/// it finds into the store.
+class Recovery {
+public:
+    /// Snapshots are kept in `folder`; with an empty one there are none.
+    Recovery(Context& context, fs::path folder);
+
+    /// Puts the designs that a killed program left behind into the store, each under a name with its time,
+    /// and tells the user. A design that the store can't take waits for a later start.
+    void PutBackLostWork();
+    /// Looks once a second whether there is something to keep.
+    void SecondPassed();
+    void StrokeFinished();
+    /// For an end that the user didn't choose, such as that of his session: what isn't stored is kept as it
+    /// is at this moment for the next start.
+    void KeepForNextStart();
+
+private:
+    bool HoldsUnsavedWork(const DesignRevision& now) const;
+    void WriteSnapshot(const DesignRevision& now);
+    bool PutIntoStore(const DesignFiles& design, std::int64_t written);
+
+    Context& context_;
+    fs::path folder_;
+    OwnSnapshot snapshot_;
+    DesignRevision lastSeen_;
+    std::optional<DesignRevision> kept_;  ///< What the snapshot shows, if there is one.
+    int secondsSinceWriting_ = 0;
+};
+
+}  // namespace coinlet
