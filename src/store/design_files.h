@@ -17,8 +17,8 @@ constexpr std::string_view designInfoText = ".txt";
 /// may be none.
 bool IsDesignName(std::string_view name);
 
-/// Where a file of the design `name` is written at first: the folder is put before the name as the user typed it,
-/// so that only an `IsDesignName` leads to a file.
+/// Where a file of the design `name` is written at first: the folder is put before the name as the user typed
+/// it, so that only an `IsDesignName` leads to a file.
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension);
 
 /// The picture of the design `name`: the file that opening finds and saving replaces, in whatever case its

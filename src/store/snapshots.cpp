@@ -28,6 +28,7 @@ public:
     int Close(int file) override { return real_.Close(file); }
     int Rename(const char* from, const char* to) override { return real_.Rename(from, to); }
     int Unlink(const char* path) override { return real_.Unlink(path); }
+    int FlushFolder(const char*) override { return 0; }
 
 private:
     FileCalls& real_ = SystemFileCalls();
