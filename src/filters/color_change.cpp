@@ -90,8 +90,8 @@ int ColorChange::ChosenPalette() const {
     if (Combo1.ListIndex() >= 0) return Combo1.ListIndex();
     const std::string typed = LowerCase(Combo1.Text());
     const auto* const found = std::ranges::find_if(
-        colorPalettes, [&typed](const ColorPalette& palette) { return LowerCase(palette.name) == typed; });
-    return found == std::end(colorPalettes) ? -1 : static_cast<int>(found - std::begin(colorPalettes));
+        colourPalettes, [&typed](const ColourPalette& palette) { return LowerCase(palette.name) == typed; });
+    return found == std::end(colourPalettes) ? -1 : static_cast<int>(found - std::begin(colourPalettes));
 }
 
 void ColorChange::Box_Click(PictureBox& box) {
