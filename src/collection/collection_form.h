@@ -19,14 +19,14 @@ class CollectionForm : public Form {
 public:
     explicit CollectionForm(Context& context);
 
-    ListBox List1{*this, "List1"};  ///< The numbers.
-    Label Label6{*this, "Label6"};  ///< The ground of the help text, in the place of the list.
-    TextBox Text4{*this, "Text4"};  ///< The help text.
-    Label Label1{*this, "Label1"};  ///< What shows where there is no picture.
-    PictureBox Image1{*this, "Image1"};
+    ListBox List1{*this, "List1"};         ///< The numbers.
+    Label Label6{*this, "Label6"};         ///< The ground of the help text, in the place of the list.
+    TextBox Text4{*this, "Text4"};         ///< The help text.
+    Label Label1{*this, "Label1"};         ///< What shows where there is no picture.
+    PictureBox Image1{*this, "Image1"};    ///< The picture of the chosen number.
     PictureBox BackPic{*this, "BackPic"};  ///< The picture in its own size; hidden.
-    Label Label2{*this, "Label2"};
-    TextBox Text1{*this, "Text1"};  ///< The number being edited.
+    Label Label2{*this, "Label2"};         ///< What Text1 is for.
+    TextBox Text1{*this, "Text1"};         ///< The number being edited.
     VistaButton AddKnop{*this, "AddKnop"};
     VistaButton ChangeKnop{*this, "ChangeKnop"};
     VistaButton DelKnop{*this, "DelKnop"};

@@ -19,12 +19,12 @@ class GlitterForm : public Form {
 public:
     explicit GlitterForm(Context& context);
 
-    Label Label1{*this, "Label1"};         ///< What to do here.
-    Shape Shape1{*this, "Shape1"};         ///< The edge of the frame.
-    PictureBox PicCont{*this, "PicCont"};  ///< The frame, which clips the chart.
-    PictureBox SlidePic{PicCont, "SlidePic"};
-    ScrollBar VScroll{*this, "VScroll", Orientation::Vertical};
-    ScrollBar HScroll{*this, "HScroll", Orientation::Horizontal};
+    Label Label1{*this, "Label1"};                                 ///< What to do here.
+    Shape Shape1{*this, "Shape1"};                                 ///< The edge of the frame.
+    PictureBox PicCont{*this, "PicCont"};                          ///< The frame, which clips the chart.
+    PictureBox SlidePic{PicCont, "SlidePic"};                      ///< The chart.
+    ScrollBar VScroll{*this, "VScroll", Orientation::Vertical};    ///< How far the chart is moved up.
+    ScrollBar HScroll{*this, "HScroll", Orientation::Horizontal};  ///< How far it is moved to the left.
     VistaButton ExitKnop{*this, "ExitKnop"};
 
     void Form_Load() override;

@@ -33,10 +33,11 @@ public:
     Label Label11{*this, "Label11"};
     Label Label12{*this, "Label12"};
     Label Label1{*this, "Label1"};  ///< Number of the colour.
-    ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};
-    Label Label13{*this, "Label13"};  ///< What Combo1 is for.
-    ComboBox Combo1{*this, "Combo1"};
-    PictureBox Pic{*this, "Pic"};  ///< The palette.
+    ScrollBar HScroll1{*this, "HScroll1",
+                       Orientation::Horizontal};  ///< The colours of the table, by their place.
+    Label Label13{*this, "Label13"};              ///< What Combo1 is for.
+    ComboBox Combo1{*this, "Combo1"};             ///< The codes of the table.
+    PictureBox Pic{*this, "Pic"};                 ///< The palette.
     VistaButton OkKnop{*this, "OkKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -34,46 +34,46 @@ public:
 
     // --- Image browser ---------------------------------------------------------------------------------
     Frame Frame1{*this, "Frame1"};
-    FileListBox File1{Frame1, "File1"};  ///< Reads the folder; hidden.
-    VistaButton ImgKnop{Frame1, "ImgKnop"};
-    VistaButton MapKnop{Frame1, "MapKnop"};
-    PictureBox Bar{Frame1, "Bar"};  ///< Progress of flips and filters, in the place of ImgKnop.
-    ListBox List1{Frame1, "List1"};
-    Label Label8{Frame1, "Label8"};
-    PictureBox Pic2{Frame1, "Pic2"};
-    Frame Frame3{*this, "Frame3"};
+    FileListBox File1{Frame1, "File1"};      ///< Reads the folder; hidden.
+    VistaButton ImgKnop{Frame1, "ImgKnop"};  ///< Lists the pictures of the program.
+    VistaButton MapKnop{Frame1, "MapKnop"};  ///< Lists those of the user's folder.
+    PictureBox Bar{Frame1, "Bar"};           ///< Progress of flips and filters, in the place of ImgKnop.
+    ListBox List1{Frame1, "List1"};          ///< The pictures of the folder.
+    Label Label8{Frame1, "Label8"};          ///< How many there are, or how large the chosen one is.
+    PictureBox Pic2{Frame1, "Pic2"};         ///< The chosen one, small.
+    Frame Frame3{*this, "Frame3"};           ///< Turns and pastes it.
     VistaButton HorKnop{Frame3, "HorKnop"};
     VistaButton VerKnop{Frame3, "VerKnop"};
     VistaButton RotatieKnop{Frame3, "RotatieKnop"};
-    VistaButton OkKnop{Frame3, "OkKnop"};
+    VistaButton OkKnop{Frame3, "OkKnop"};  ///< Has it float over the canvas.
 
     // --- Canvas, rulers, side panel --------------------------------------------------------------------
     Frame Frame2{*this, "Frame2"};
     PictureBox LabelPic{Frame2, "LabelPic"};  ///< The board behind the canvas.
-    PictureBox LeftPic{Frame2, "LeftPic"};
+    PictureBox LeftPic{Frame2, "LeftPic"};    ///< The rulers, and the marks of the pointer on them.
     LineShape Line1{LeftPic, "Line1"};
     PictureBox TopPic{Frame2, "TopPic"};
     LineShape Line2{TopPic, "Line2"};
-    PictureBox HoekPic{Frame2, "HoekPic"};
-    VistaButton HoekKnop{HoekPic, "HoekKnop"};
-    PictureBox Pic{Frame2, "Pic"};  ///< The canvas: the design.
-    LineShape Line3{Pic, "Line3"};
+    PictureBox HoekPic{Frame2, "HoekPic"};      ///< The corner between the rulers.
+    VistaButton HoekKnop{HoekPic, "HoekKnop"};  ///< Ways of pasting what floats.
+    PictureBox Pic{Frame2, "Pic"};              ///< The canvas: the design.
+    LineShape Line3{Pic, "Line3"};              ///< The cross lines.
     LineShape Line4{Pic, "Line4"};
-    Shape Gom{Pic, "Gom"};
-    Shape Layer{Pic, "Layer"};
-    Shape HoleShape{Pic, "HoleShape"};
-    PictureBox ClipPic{Pic, "ClipPic"};  ///< The image that floats over the canvas.
-    Label XYcor{Pic, "XYcor"};
-    Label TextLabel{Pic, "TextLabel"};
-    PictureBox TopInfoPic{Frame2, "TopInfoPic"};
-    PictureBox InfoPic{Frame2, "InfoPic"};  ///< Metal, colours and back of the design.
-    Label Label16{Frame2, "Label16"};       ///< The longer help on picking colours.
+    Shape Gom{Pic, "Gom"};                        ///< The eraser under the pointer.
+    Shape Layer{Pic, "Layer"};                    ///< The rubber band of the gesture.
+    Shape HoleShape{Pic, "HoleShape"};            ///< The hole under the pointer.
+    PictureBox ClipPic{Pic, "ClipPic"};           ///< The image that floats over the canvas.
+    Label XYcor{Pic, "XYcor"};                    ///< Size or place while drawing.
+    Label TextLabel{Pic, "TextLabel"};            ///< The text that hangs on the pointer.
+    PictureBox TopInfoPic{Frame2, "TopInfoPic"};  ///< The head of InfoPic.
+    PictureBox InfoPic{Frame2, "InfoPic"};        ///< Metal, colours and back of the design.
+    Label Label16{Frame2, "Label16"};             ///< The longer help on picking colours.
 
     // --- Hidden pictures and lists ---------------------------------------------------------------------
-    PictureBox UndoPic{Frame2, "UndoPic"};
-    PictureBox IconPic{Frame2, "IconPic"};
-    PictureBox VertPic{Frame2, "VertPic"};
-    PictureBox BackPic{Frame2, "BackPic"};
+    PictureBox UndoPic{Frame2, "UndoPic"};  ///< The canvas before the last step.
+    PictureBox IconPic{Frame2, "IconPic"};  ///< The picture to be pasted, in its own size.
+    PictureBox VertPic{Frame2, "VertPic"};  ///< The text to be placed, before it is turned.
+    PictureBox BackPic{Frame2, "BackPic"};  ///< Empty: the libraries keep their own pictures.
     PictureBox BorderPic{Frame2, "BorderPic"};
     ListBox InfoList{Frame2, "InfoList"};  ///< The language table.
     ListBox PMSlist{Frame2, "PMSlist"};    ///< The PMS colour table.
@@ -81,48 +81,48 @@ public:
 
     // --- Pointer coordinates ---------------------------------------------------------------------------
     Frame Frame5{*this, "Frame5"};
-    Label CoorLabel{Frame5, "CoorLabel"};
+    Label CoorLabel{Frame5, "CoorLabel"};  ///< Where the pointer is on the canvas.
 
     // --- Tools -----------------------------------------------------------------------------------------
     Frame Frame4{*this, "Frame4"};
-    ControlArray<VistaButton> Knop{Frame4, "Knop", 0, 16};
-    Label Label6{Frame4, "Label6"};
-    Label ColorLabel{Frame4, "ColorLabel"};
-    Label Label7{Frame4, "Label7"};
+    ControlArray<VistaButton> Knop{Frame4, "Knop", 0, 16};  ///< The tools, by their codes.
+    Label Label6{Frame4, "Label6"};                         ///< What ColorLabel is.
+    Label ColorLabel{Frame4, "ColorLabel"};                 ///< The fill colour.
+    Label Label7{Frame4, "Label7"};                         ///< The width of the pen.
     ScrollBar HScroll1{Frame4, "HScroll1", Orientation::Horizontal};
     // The panels behind the sliders of single tools; three of them share one place.
-    Label Label9{Frame4, "Label9"};
+    Label Label9{Frame4, "Label9"};  ///< Of rounded corners.
     Label Label10{Frame4, "Label10"};
     ScrollBar HScroll2{Frame4, "HScroll2", Orientation::Horizontal};
-    Label Label11{Frame4, "Label11"};
+    Label Label11{Frame4, "Label11"};  ///< Of the eraser.
     Label Label12{Frame4, "Label12"};
     ScrollBar HScroll3{Frame4, "HScroll3", Orientation::Horizontal};
-    CheckBox Check1{Frame4, "Check1"};
-    Label Label20{Frame4, "Label20"};
+    CheckBox Check1{Frame4, "Check1"};  ///< It erases in the fill colour.
+    Label Label20{Frame4, "Label20"};   ///< Of the raster.
     Label Label21{Frame4, "Label21"};
     ScrollBar HScroll4{Frame4, "HScroll4", Orientation::Horizontal};
-    Label Label5{Frame4, "Label5"};
+    Label Label5{Frame4, "Label5"};  ///< Of the board: slides the canvas aside.
     Label Label22{Frame4, "Label22"};
     ScrollBar HScroll5{Frame4, "HScroll5", Orientation::Horizontal};
 
     // --- Text panel, in the place of the tools ---------------------------------------------------------
     Frame Frame6{*this, "Frame6"};
-    Label Label13{Frame6, "Label13"};
+    Label Label13{Frame6, "Label13"};  ///< What Text1 is for.
     TextBox Text1{Frame6, "Text1"};
-    Label Label14{Frame6, "Label14"};
-    ComboBox Combo2{Frame6, "Combo2"};
-    Label FontLabel{Frame6, "FontLabel"};
-    Label Label15{Frame6, "Label15"};
-    ComboBox Combo3{Frame6, "Combo3"};
+    Label Label14{Frame6, "Label14"};      ///< What Combo2 is for.
+    ComboBox Combo2{Frame6, "Combo2"};     ///< The fonts.
+    Label FontLabel{Frame6, "FontLabel"};  ///< A sample of the font.
+    Label Label15{Frame6, "Label15"};      ///< What Combo3 is for.
+    ComboBox Combo3{Frame6, "Combo3"};     ///< Sizes in points.
     CheckBox BoldCheck{Frame6, "BoldCheck"};
     CheckBox ItalicCheck{Frame6, "ItalicCheck"};
     CheckBox UnderlineCheck{Frame6, "UnderlineCheck"};
-    CheckBox OpenCheck{Frame6, "OpenCheck"};
-    CheckBox SchaduwCheck{Frame6, "SchaduwCheck"};
-    CheckBox VertCheck{Frame6, "VertCheck"};
-    Label Label17{Frame6, "Label17"};
-    VistaButton PlaatsKnop{Frame6, "PlaatsKnop"};
-    VistaButton ExitKnop{Frame6, "ExitKnop"};
+    CheckBox OpenCheck{Frame6, "OpenCheck"};        ///< Letters are outlines.
+    CheckBox SchaduwCheck{Frame6, "SchaduwCheck"};  ///< Letters have a shadow.
+    CheckBox VertCheck{Frame6, "VertCheck"};        ///< The text runs upwards.
+    Label Label17{Frame6, "Label17"};               ///< What PlaatsKnop does.
+    VistaButton PlaatsKnop{Frame6, "PlaatsKnop"};   ///< Hangs the text on the pointer.
+    VistaButton ExitKnop{Frame6, "ExitKnop"};       ///< Back to the tools.
 
     // --- Foot ------------------------------------------------------------------------------------------
     Frame Frame7{*this, "Frame7"};
@@ -184,11 +184,11 @@ public:
 
     // Popped up by buttons; not in the menu bar.
     MenuItem Shapes{*this, "Shapes", "Shapes"};
-    ControlArray<MenuItem> Vormen{Shapes, "Vormen", 1, 16};
+    ControlArray<MenuItem> Vormen{Shapes, "Vormen", 1, 16};  ///< The shapes.
     MenuItem FlipImage{*this, "FlipImage", "FlipImage"};
     ControlArray<MenuItem> FlipPic{FlipImage, "FlipPic", 1, 6};
     MenuItem PasteImage{*this, "PasteImage", "PasteImage"};
-    ControlArray<MenuItem> Paste{PasteImage, "Paste", 1, 5};
+    ControlArray<MenuItem> Paste{PasteImage, "Paste", 1, 5};  ///< The ways of pasting.
 
     // --- Life ------------------------------------------------------------------------------------------
     // The three moments of the form's life; the application fills them.

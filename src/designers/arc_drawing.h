@@ -18,7 +18,7 @@ public:
 
     Frame Frame7;
     VistaButton ClearKnop;
-    Label Label18;
+    Label Label18;  ///< What ClearKnop does.
 
     Frame& Panel() override { return Frame7; }
     void Press(int button, float x, float y) override;

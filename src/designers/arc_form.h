@@ -30,18 +30,18 @@ public:
     PictureBox TMPres{*this, "TMPres"};   ///< The background that was painted last.
     Label InfoLabel{*this, "InfoLabel"};  ///< What to do here.
     Label CorLabel{*this, "CorLabel"};    ///< Where the pointer is.
-    Label Label1{*this, "Label1"};
+    Label Label1{*this, "Label1"};        ///< What Option1 is for.
     ControlArray<OptionButton> Option1{*this, "Option1", 0, 5};  ///< The ways of drawing.
     ArcDrawing Arcs{*this, Pic.surface};
     TriangleDrawing Triangles{*this, Pic.surface};
     SegmentDrawing Segments;
     CurveDrawing Curves;
     PolygonDrawing Polygons{*this, Pic.surface, Layer};
-    Frame Frame5{*this, "Frame5"};
-    Label Label3{Frame5, "Label3"};
+    Frame Frame5{*this, "Frame5"};                                    ///< Pen and way back.
+    Label Label3{Frame5, "Label3"};                                   ///< Pen width in words.
     ScrollBar HScroll1{Frame5, "HScroll1", Orientation::Horizontal};  ///< Pen width in pixels.
-    VistaButton ResetKnop{Frame5, "ResetKnop"};
-    Label Label7{Frame5, "Label7"};
+    VistaButton ResetKnop{Frame5, "ResetKnop"};                       ///< Goes back to the canvas.
+    Label Label7{Frame5, "Label7"};                                   ///< What ResetKnop does.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -38,12 +38,6 @@ void Fill(ComboBox& combo, const NumberList& list) {
     combo.SetListIndex((list.standard - list.first) / list.step);
 }
 
-/// Points. What a surface can't hold is the largest that it can.
-float FontSizeOf(const std::string& text) {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(Val(text), -most, most));
-}
-
 double Radians(double degrees) {
     return degrees / halfTurn * pi;
 }
@@ -74,16 +68,21 @@ void CircelText::Form_Load() {
     Text1.SetFocus();
 }
 
+float CircelText::LetterSize() const {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(Val(Combo3.Text()), -most, most));
+}
+
 Colour CircelText::InkColour() const {
-    return Check1.Value() ? context_.main.ColorLabel.BackColor : black;
+    return TextIsInFillColour() ? context_.main.ColorLabel.BackColor : black;
 }
 
 void CircelText::Check1_Click() {
-    Label9.Visible = Check1.Value();
+    Label9.Visible = TextIsInFillColour();
 }
 
 void CircelText::DrawKnop_Click() {
-    DrawCurvedText(Check2.Value());
+    DrawCurvedText(TextIsOnTop());
 }
 
 // The angle grows clockwise from 3 o'clock. A text on top starts with its first letter at 9 o'clock, since
@@ -93,7 +92,7 @@ void CircelText::DrawCurvedText(bool onTop) {
     Surface& picture = Pic.surface;
     picture.Cls();
     picture.FontName = Combo4.Text();
-    picture.FontSize = FontSizeOf(Combo3.Text());
+    picture.FontSize = LetterSize();
     picture.ForeColor = InkColour();
     picture.FontBold = Check3.Value();
     picture.FontItalic = Check4.Value();
@@ -101,8 +100,8 @@ void CircelText::DrawCurvedText(bool onTop) {
 
     const std::vector<std::string> letters = Graphemes(Text1.Text());
     const std::size_t count = letters.size();
-    const double step = Val(Combo1.Text()) * (picture.FontSize / 10) + 2;  // degrees
-    const double radius = onTop ? -Val(Combo2.Text()) : Val(Combo2.Text());
+    const double step = ExtraSpacing() * (picture.FontSize / 10) + 2;  // degrees
+    const double radius = onTop ? -Radius() : Radius();
     for (std::size_t i = 0; i < count; ++i) {
         const std::string& letter = onTop ? letters[i] : letters[count - 1 - i];
         const double height = picture.TextHeight(letter), halfWidth = picture.TextWidth(letter) / 2;
@@ -123,7 +122,7 @@ void CircelText::DrawGlyph(std::string_view glyph, double rotation, double x, do
         DrawRotatedText(glyph, degrees, RoundHalfEven(atX), RoundHalfEven(atY), picture);
     };
     picture.ForeColor = InkColour();
-    if (Check5.Value()) {
+    if (LettersAreOpen()) {
         for (const LetterOffset& offset : letterOutline)
             draw(x + offset.x, y + offset.y);
         picture.ForeColor = white;

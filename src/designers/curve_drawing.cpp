@@ -53,7 +53,7 @@ void CurveDrawing::Press(int button, float x, float y) {
         const std::string number = std::to_string(hit + 1);
         Label8.Caption = "Moving Point:  " + number;
         Label9.Caption = "Selected Point:  " + number;
-    } else if (!Check5.Value()) {
+    } else if (TakesPoints()) {
         AddPoint(column, row);
     }
 }
@@ -85,7 +85,7 @@ void CurveDrawing::Move(int, float x, float y) {
 void CurveDrawing::Release() {
     if (!std::exchange(Dragging, false)) return;
     YenidenCIZ();
-    Label8.Caption = Check5.Value() ? "No Control Points can be added.." : "Control Point Information";
+    Label8.Caption = TakesPoints() ? "Control Point Information" : "No Control Points can be added..";
 }
 
 /// A thicker pen draws the curve alone: lines from point to point would hide it.
@@ -104,11 +104,11 @@ void CurveDrawing::Style_Click() {
 void CurveDrawing::YenidenCIZ() {
     picture_->Cls();
     wiped_();
-    if (!Check6.Value() && !Check7.Value()) {
+    if (ShowsPoints()) {
         for (int number = 1; number <= points_.PointCount(); ++number)
             MarkPoint(number);
     }
-    if (!Check6.Value() && !Check4.Value()) DrawJoiningLines();
+    if (ShowsJoiningLines()) DrawJoiningLines();
     DrawBezier();
 }
 
@@ -116,15 +116,16 @@ void CurveDrawing::YenidenCIZ() {
 void CurveDrawing::MarkPoint(int number) {
     constexpr double markRadius = 2;
     const auto point = static_cast<std::size_t>(number - 1);
-    if (!Check2.Value()) picture_->Circle(points_.PointX()[point], points_.PointY()[point], markRadius, red);
-    if (!Check3.Value()) picture_->Print(std::to_string(number));
+    const bool circled = !Check2.Value(), numbered = !Check3.Value();
+    if (circled) picture_->Circle(points_.PointX()[point], points_.PointY()[point], markRadius, red);
+    if (numbered) picture_->Print(std::to_string(number));
 }
 
 void CurveDrawing::DrawJoiningLines() {
-    picture_->DrawStyle = Option2.Value() ? dottedLine : solidLine;
+    picture_->DrawStyle = IsCurve() ? dottedLine : solidLine;
     const auto x = points_.PointX(), y = points_.PointY();
     for (std::size_t i = 0; i + 1 < x.size(); ++i)
-        picture_->Line(x[i], y[i], x[i + 1], y[i + 1], Option3.Value() ? CurveColour : black);
+        picture_->Line(x[i], y[i], x[i + 1], y[i + 1], IsStraight() ? CurveColour : black);
     picture_->DrawStyle = solidLine;
 }
 
@@ -143,7 +144,7 @@ void CurveDrawing::DrawBezier() {
 }
 
 void CurveDrawing::DrawKnop_Click() {
-    CheckBox& onlyTheChosen = Option2.Value() ? Check6 : Check7;
+    CheckBox& onlyTheChosen = IsCurve() ? Check6 : Check7;
     onlyTheChosen.SetValue(true);
     YenidenCIZ();
     baked_->SetPicture(picture_->Image());

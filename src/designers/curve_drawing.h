@@ -50,7 +50,12 @@ private:
     void MarkPoint(int number);
     void DrawJoiningLines();
     void DrawBezier();
-    bool ShowsCurve() const { return Option2.Value() && !Check7.Value(); }
+    bool IsCurve() const { return Option2.Value(); }
+    bool IsStraight() const { return Option3.Value(); }
+    bool ShowsCurve() const { return IsCurve() && !Check7.Value(); }
+    bool ShowsPoints() const { return !Check6.Value() && !Check7.Value(); }
+    bool ShowsJoiningLines() const { return !Check6.Value() && !Check4.Value(); }
+    bool TakesPoints() const { return !Check5.Value(); }
 
     Form* form_;
     Surface* picture_;

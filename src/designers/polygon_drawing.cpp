@@ -42,9 +42,9 @@ void FillWithTurns(ComboBox& combo) {
 }
 
 /// What a number of single precision can't hold is the largest that it can.
-float SingleOf(const ComboBox& combo) {
+float Single(double number) {
     constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(Val(combo.Text()), -most, most));
+    return static_cast<float>(std::clamp(number, -most, most));
 }
 
 }  // namespace
@@ -83,14 +83,26 @@ void PolygonDrawing::Chosen() {
     layer_->Visible = true;
 }
 
+int PolygonDrawing::Sides() const {
+    return RoundHalfEven(Val(Combo1.Text()));
+}
+
+double PolygonDrawing::Size() const {
+    return Val(Combo2.Text());
+}
+
+double PolygonDrawing::Rotation() const {
+    return Val(Combo3.Text());
+}
+
 void PolygonDrawing::Move(int, float x, float y) {
-    const double side = 2 * Val(Combo2.Text());
+    const double side = 2 * Size();
     layer_->Move(x - side / 2, y - side / 2, side, side);
 }
 
 void PolygonDrawing::DrawAt(float x, float y, Colour colour) {
-    DrawPolygon(*picture_, SingleOf(Combo3), 1, {x, y}, SingleOf(Combo2), RoundHalfEven(Val(Combo1.Text())),
-                colour);
+    constexpr float aspect = 1;
+    DrawPolygon(*picture_, Single(Rotation()), aspect, {x, y}, Single(Size()), Sides(), colour);
 }
 
 // The fill goes from the centre to its own colour as the border, so it runs out where the polygon was drawn
@@ -98,7 +110,7 @@ void PolygonDrawing::DrawAt(float x, float y, Colour colour) {
 void PolygonDrawing::Press(int button, float x, float y) {
     const bool fills = button == rightButton;
     if (!fills && button != leftButton) return;
-    if (RoundHalfEven(Val(Combo1.Text())) < 1) return;
+    if (Sides() < 1) return;
     if (!fills) {
         picture_->FillStyle = transparentFill;
         DrawAt(x, y, black);

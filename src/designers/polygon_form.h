@@ -27,7 +27,7 @@ public:
 
     Label Label8{*this, "Label8"};           ///< The board that the picture lies on.
     PictureBox Picture1{*this, "Picture1"};  ///< The drawing.
-    Label Label1{*this, "Label1"};
+    Label Label1{*this, "Label1"};           ///< What the field behind it is for, as are the labels below.
     TextBox txtNumberofSides{*this, "txtNumberofSides"};
     ScrollBar vsbNumberofSides{*this, "vsbNumberofSides", Orientation::Vertical};
     Label Label6{*this, "Label6"};
@@ -48,13 +48,13 @@ public:
     TextBox txtLengthofSide{*this, "txtLengthofSide"};
     Label Label3{*this, "Label3"};
     TextBox txtPerimeter{*this, "txtPerimeter"};
-    Label Label15{*this, "Label15"};
+    Label Label15{*this, "Label15"};         ///< What Combo1 is for.
     ComboBox Combo1{*this, "Combo1"};        ///< Width of the pen in pixels.
     CheckBox Check1{*this, "Check1"};        ///< The picture is half as high as it is wide.
     CheckBox chkCircle{*this, "chkCircle"};  ///< The corners go half a turn only.
-    Label Label13{*this, "Label13"};
+    Label Label13{*this, "Label13"};         ///< What HScroll1 is for.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< In steps of 20 pixels.
-    Label Label14{*this, "Label14"};
+    Label Label14{*this, "Label14"};                                 ///< The number of steps.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -19,9 +19,9 @@ public:
     SegmentDrawing(Form& form, Surface& picture, Shape& layer, const ScrollBar& penWidth);
 
     Frame Frame3;
-    ControlArray<Label> ScrolLabel;
+    ControlArray<Label> ScrolLabel;    ///< What the sliders say.
     ControlArray<ScrollBar> HScroll2;  ///< Left, top, and diameter of the circle, in pixels.
-    Label Label6;
+    Label Label6;                      ///< What SegmentKnop is for.
     /// Upper left, upper right, lower left, lower right.
     ControlArray<VistaButton> SegmentKnop;
 

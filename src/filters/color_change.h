@@ -23,20 +23,21 @@ public:
 
     ControlArray<Shape> Shape1{*this, "Shape1", 0, 1 + 2 * paletteSize};  ///< Edges of the pictures.
     ControlArray<LineShape> Line1{*this, "Line1", 0, 4};  ///< The bracket that joins the boxes.
-    PictureBox Pic{*this, "Pic"};
-    PictureBox BackPic{*this, "BackPic"};  ///< What a run reads.
-    Label InfoLabel{*this, "InfoLabel"};
-    Label Label5{*this, "Label5"};  ///< What Combo1 is for.
-    ComboBox Combo1{*this, "Combo1"};
-    Label Label2{*this, "Label2"};
+    PictureBox Pic{*this, "Pic"};                         ///< The working copy.
+    PictureBox BackPic{*this, "BackPic"};                 ///< What a run reads.
+    Label InfoLabel{*this, "InfoLabel"};                  ///< What to do here.
+    Label Label5{*this, "Label5"};                        ///< What Combo1 is for.
+    ComboBox Combo1{*this, "Combo1"};                     ///< The palettes.
+    Label Label2{*this, "Label2"};                        ///< Heads of the two columns of boxes.
     Label Label3{*this, "Label3"};
-    ControlArray<PictureBox> picTarget{*this, "picTarget", 0, paletteSize};
-    ControlArray<PictureBox> picResult{*this, "picResult", 0, paletteSize};
-    Label ColorLabel{*this, "ColorLabel"};  ///< The sliders' colour.
-    ControlArray<Label> Label6{*this, "Label6", 0, 3};
-    ControlArray<ScrollBar> HScroll1{*this, "HScroll1", 0, 3, Orientation::Horizontal};
-    VistaButton StartKnop{*this, "StartKnop"};
-    VistaButton ResetKnop{*this, "ResetKnop"};
+    ControlArray<PictureBox> picTarget{*this, "picTarget", 0, paletteSize};  ///< The colours to be replaced.
+    ControlArray<PictureBox> picResult{*this, "picResult", 0, paletteSize};  ///< What they become.
+    Label ColorLabel{*this, "ColorLabel"};                                   ///< The sliders' colour.
+    ControlArray<Label> Label6{*this, "Label6", 0, 3};                       ///< The values of the sliders.
+    ControlArray<ScrollBar> HScroll1{*this, "HScroll1", 0, 3,
+                                     Orientation::Horizontal};  ///< Red, green, blue.
+    VistaButton StartKnop{*this, "StartKnop"};                  ///< Replaces the colours.
+    VistaButton ResetKnop{*this, "ResetKnop"};                  ///< Goes back to the canvas.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

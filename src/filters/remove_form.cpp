@@ -63,7 +63,7 @@ void RemoveForm::Pic_MouseMove(float x, float y) {
 
 void RemoveForm::RemoveColor(Colour colour) {
     const Hourglass hourglass(GetPlatform());
-    const auto wipe = Check1.Value() ? WipeOtherColours : WipeColour;
+    const auto wipe = WipesTheOthers() ? WipeOtherColours : WipeColour;
     ChangeRows(Pic.surface, [=](std::span<Pixel> row) { wipe(row, colour); });
 }
 

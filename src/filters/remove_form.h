@@ -23,21 +23,21 @@ public:
     PictureBox Pic{*this, "Pic"};                       ///< The working copy.
     Label Label2{*this, "Label2"};                      ///< What to do here.
     Label ColorLabel{*this, "ColorLabel"};              ///< The colour under the pointer.
-    Label Label3{*this, "Label3"};
-    Label Label4{*this, "Label4"};  ///< Its channels.
-    CheckBox Check1{*this, "Check1"};
-    VistaButton BWKnop{*this, "BWKnop"};
+    Label Label3{*this, "Label3"};                      ///< What ColorLabel is.
+    Label Label4{*this, "Label4"};                      ///< Its channels.
+    CheckBox Check1{*this, "Check1"};                   ///< A click leaves its colour and wipes the others.
+    VistaButton BWKnop{*this, "BWKnop"};                ///< Wipes all but black; Label5 says so.
     Label Label5{*this, "Label5"};
-    VistaButton GrayKnop{*this, "GrayKnop"};
+    VistaButton GrayKnop{*this, "GrayKnop"};  ///< Wipes all but gray; Label6 says so.
     Label Label6{*this, "Label6"};
-    ControlArray<VistaButton> RGBKnop{*this, "RGBKnop", 0, 3};
-    ControlArray<Label> RGBLabel{*this, "RGBLabel", 0, 3};
-    CheckBox Check2{*this, "Check2"};
-    PictureBox Picture1{*this, "Picture1"};  ///< The lens.
-    VistaButton ResetKnop{*this, "ResetKnop"};
+    ControlArray<VistaButton> RGBKnop{*this, "RGBKnop", 0, 3};  ///< Take out red, green, blue.
+    ControlArray<Label> RGBLabel{*this, "RGBLabel", 0, 3};      ///< What they do.
+    CheckBox Check2{*this, "Check2"};                           ///< Switches the magnifying glass.
+    PictureBox Picture1{*this, "Picture1"};                     ///< The lens.
+    VistaButton ResetKnop{*this, "ResetKnop"};                  ///< Goes back to the canvas.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
-    Timer LoepTimer{*this, "LoepTimer"};
+    Timer LoepTimer{*this, "LoepTimer"};  ///< Keeps the lens up to date.
 
     void Form_Load() override;
 
@@ -50,6 +50,7 @@ private:
     void Check2_Click();
     void LoepTimer_Timer();
 
+    bool WipesTheOthers() const { return Check1.Value(); }
     void RemoveColor(Colour colour);
 
     Context& context_;

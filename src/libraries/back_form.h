@@ -24,12 +24,12 @@ public:
     ListBox List1{*this, "List1"};         ///< The names of the collection's backs; hidden.
     PictureBox BackPic{*this, "BackPic"};  ///< The collection's picture; hidden.
     Label Label4{*this, "Label4"};         ///< What to do here.
-    ControlArray<OptionButton> Option1{*this, "Option1", 1, 2};
-    ControlArray<Shape> Shape1{*this, "Shape1", 0, 2};  ///< Edges of the pictures.
-    PictureBox Pic{*this, "Pic"};                       ///< One row of four backs.
-    ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};
-    PictureBox Orgineel{*this, "Orgineel"};  ///< The chosen back.
-    Label Label5{*this, "Label5"};           ///< Its name.
+    ControlArray<OptionButton> Option1{*this, "Option1", 1, 2};      ///< Which collection.
+    ControlArray<Shape> Shape1{*this, "Shape1", 0, 2};               ///< Edges of the pictures.
+    PictureBox Pic{*this, "Pic"};                                    ///< One row of four backs.
+    ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< Which row of it.
+    PictureBox Orgineel{*this, "Orgineel"};                          ///< The chosen back.
+    Label Label5{*this, "Label5"};                                   ///< Its name.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

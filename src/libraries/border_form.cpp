@@ -123,7 +123,7 @@ void BorderForm::HScroll1_Change() {
 
 void BorderForm::Check1_Click() {
     for (Control* control : std::initializer_list<Control*>{&Label2, &HScroll1, &Label3})
-        control->Visible = Check1.Value();
+        control->Visible = HasHole();
     DrawBorderPreview();
 }
 
@@ -137,7 +137,7 @@ void BorderForm::DrawBorderPreview() {
     Pic.surface.Cls();
     Pic.surface.PaintPicture(strip, previewSize, frame);
     Pic.surface.PaintPicture(Image1[static_cast<int>(borderMetal_)].Picture, previewMiddle, tagSize);
-    if (!Check1.Value()) return;
+    if (!HasHole()) return;
     StampHole(Pic.surface, 1, HoleColumn());
     // Not the stamp's own column: beyond the first metal there is nothing to stamp here, and only the export
     // stamps the border.
@@ -157,9 +157,10 @@ void BorderForm::ExportKnop_Click() {
     Surface& canvas = main.Pic.surface;
     KeepForUndo(main);
     CutOutTag(canvas);
-    canvas.DrawWidth = main.HScroll1.Value();
-    if (Check1.Value()) StampHole(Orgineel.surface, 2, HoleColumn());
-    canvas.PaintPicture(Orgineel.surface.Image(), fullSize, fullSize, Check2.Value() ? SRCAND : SRCCOPY);
+    const int lineWidth = main.HScroll1.Value();
+    canvas.DrawWidth = lineWidth;
+    if (HasHole()) StampHole(Orgineel.surface, 2, HoleColumn());
+    canvas.PaintPicture(Orgineel.surface.Image(), fullSize, fullSize, Merges() ? SRCAND : SRCCOPY);
     CloseDialog(context_, *this);
     PrintMetal(main.InfoPic.surface, context_.session.MaterialName);
 }

@@ -29,15 +29,15 @@ public:
     ControlArray<StockPicture> Image1{*this, "Image1", 0, 4};  ///< A blank tag of each metal.
     StockPicture HolePic{*this, "HolePic"};  ///< The rings of holes in the four metals, side by side.
 
-    ListBox List1{*this, "List1"};
-    Shape Shape1{*this, "Shape1"};  ///< The edge of the preview.
-    PictureBox Pic{*this, "Pic"};   ///< The border at half its size.
-    ControlArray<OptionButton> Option1{*this, "Option1", 0, 4};
-    CheckBox Check2{*this, "Check2"};
-    CheckBox Check1{*this, "Check1"};
-    Label Label2{*this, "Label2"};  ///< The panel behind the slider of the hole.
-    Label Label3{*this, "Label3"};
-    ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};
+    ListBox List1{*this, "List1"};                               ///< The names of the borders.
+    Shape Shape1{*this, "Shape1"};                               ///< The edge of the preview.
+    PictureBox Pic{*this, "Pic"};                                ///< The border at half its size.
+    ControlArray<OptionButton> Option1{*this, "Option1", 0, 4};  ///< The metal.
+    CheckBox Check2{*this, "Check2"};  ///< The border darkens the design instead of covering it.
+    CheckBox Check1{*this, "Check1"};  ///< With a hole.
+    Label Label2{*this, "Label2"};     ///< The panel behind the slider of the hole.
+    Label Label3{*this, "Label3"};     ///< Where the hole is.
+    ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< The places that it can have.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 
@@ -51,6 +51,8 @@ private:
     void ExportKnop_Click();
     void CancelKnop_Click();
 
+    bool HasHole() const { return Check1.Value(); }
+    bool Merges() const { return Check2.Value(); }
     void SetMaterial(int index);
     /// Shows the border in the metal, with the hole if there is one, at both sizes.
     void DrawBorderPreview();

@@ -78,13 +78,17 @@ void Afdrukken::PrintKnop_Click() {
     CloseDialog(context_, *this);
 }
 
+double Afdrukken::Copies() const {
+    return Val(Combo1.Text());
+}
+
 void Afdrukken::RunJob() {
     if (Option1[allDesigns].Value()) {
         PrintAllDesigns(context_, File1, Picture2.surface);
     } else if (Option1[allCliparts].Value()) {
         PrintAllCliparts(context_, File1, Picture2.surface);
     } else {
-        PrintDesign(context_, Val(Combo1.Text()), Check1.Value());
+        PrintDesign(context_, Copies(), WithInfoText());
     }
 }
 

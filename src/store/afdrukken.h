@@ -23,11 +23,11 @@ public:
     Label Label2{*this, "Label2"};                               ///< The frame around the preview.
     PictureBox Picture1{*this, "Picture1"};                      ///< The preview.
     ControlArray<OptionButton> Option1{*this, "Option1", 0, 3};  ///< The jobs, by `Job`.
-    Label Label5{*this, "Label5"};
-    ComboBox Combo1{*this, "Combo1"};  ///< The number of copies.
-    CheckBox Check1{*this, "Check1"};
-    Label Label1{*this, "Label1"};
-    ComboBox Combo2{*this, "Combo2"};  ///< The printer.
+    Label Label5{*this, "Label5"};                               ///< What Combo1 is for.
+    ComboBox Combo1{*this, "Combo1"};                            ///< The number of copies.
+    CheckBox Check1{*this, "Check1"};                            ///< The info text comes with the design.
+    Label Label1{*this, "Label1"};                               ///< What Combo2 is for.
+    ComboBox Combo2{*this, "Combo2"};                            ///< The printer.
     VistaButton PrintKnop{*this, "PrintKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
     // For the jobs that print what lies in a folder.
@@ -44,6 +44,8 @@ private:
     void ShowPrinterInTitle();
     void ShowCanvas();
     void RunJob();
+    double Copies() const;
+    bool WithInfoText() const { return Check1.Value(); }
 
     Context& context_;
 };

@@ -20,8 +20,8 @@ class OpenFile : public Form {
 public:
     explicit OpenFile(Context& context);
 
-    FileListBox File1{*this, "File1"};  ///< Reads the store; hidden.
-    Label Label2{*this, "Label2"};
+    FileListBox File1{*this, "File1"};     ///< Reads the store; hidden.
+    Label Label2{*this, "Label2"};         ///< What to do here.
     ListBox List1{*this, "List1"};         ///< The names of the designs.
     PictureBox BackPic{*this, "BackPic"};  ///< The whole picture of the design shown; hidden.
     Label Label1{*this, "Label1"};         ///< The frame around the preview.

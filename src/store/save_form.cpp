@@ -86,7 +86,7 @@ void SaveForm::SaveKnop_Click() {
 bool SaveForm::ExportJpeg() {
     const Services& services = context_.services;
     const ScratchBitmap scratch(services.applicationFolder,
-                                (Check1.Value() ? Orgineel : context_.main.Pic).surface.Image());
+                                (WithSidePanel() ? Orgineel : context_.main.Pic).surface.Image());
     if (!scratch.Written()) {
         services.platform.ShowMessage({.prompt = "File save not as JPG!"});
         return false;

@@ -19,10 +19,10 @@ class SaveForm : public Form {
 public:
     explicit SaveForm(Context& context);
 
-    TextBox Text1{*this, "Text1"};  ///< The name.
-    PictureBox Bar{*this, "Bar"};   ///< Progress, in the place of the name.
-    Label Label1{*this, "Label1"};  ///< Its percentage.
-    CheckBox Check1{*this, "Check1"};
+    TextBox Text1{*this, "Text1"};     ///< The name.
+    PictureBox Bar{*this, "Bar"};      ///< Progress, in the place of the name.
+    Label Label1{*this, "Label1"};     ///< Its percentage.
+    CheckBox Check1{*this, "Check1"};  ///< An export shows the side panel too.
     VistaButton SaveKnop{*this, "SaveKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
     // The composed picture: what an export and what a save writes.
@@ -40,6 +40,8 @@ private:
     bool MayWrite(const std::filesystem::path& path);
     void ShowProgress();
     bool Exports() const;
+    /// An export shows the side panel too.
+    bool WithSidePanel() const { return Check1.Value(); }
 
     Context& context_;
 };

@@ -15,10 +15,10 @@ class TekstForm : public Form {
 public:
     explicit TekstForm(Context& context);
 
-    Label Label1{*this, "Label1"};  ///< The dark panel behind the text.
-    PictureBox Image1{*this, "Image1"};
-    Label Label2{*this, "Label2"};  ///< What the text is for.
-    TextBox Text1{*this, "Text1"};
+    Label Label1{*this, "Label1"};       ///< The dark panel behind the text.
+    PictureBox Image1{*this, "Image1"};  ///< A sheet of paper.
+    Label Label2{*this, "Label2"};       ///< What the text is for.
+    TextBox Text1{*this, "Text1"};       ///< The info text.
     VistaButton OkKnop{*this, "OkKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -28,7 +28,8 @@ void Dab(MainForm& main, int eraserSize, GesturePoint at) {
     // The dab falls inside the marker, whose bottom right corner is at the pointer.
     constexpr double withinMarker = 2;
     Surface& canvas = main.Pic.surface;
-    const Colour colour = main.Check1.Value() ? main.ColorLabel.BackColor : white;
+    const bool inFillColour = main.Check1.Value();
+    const Colour colour = inFillColour ? main.ColorLabel.BackColor : white;
     const double half = eraserSize / 2.0;
     canvas.FillColor = colour;
     canvas.FillStyle = solidFill;
