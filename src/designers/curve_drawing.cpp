@@ -108,7 +108,9 @@ void CurveDrawing::YenidenCIZ() {
         for (int number = 1; number <= points_.PointCount(); ++number)
             MarkPoint(number);
     }
+    picture_->DrawStyle = IsCurve() ? dottedLine : solidLine;
     if (ShowsJoiningLines()) DrawJoiningLines();
+    picture_->DrawStyle = solidLine;
     DrawBezier();
 }
 
@@ -122,11 +124,9 @@ void CurveDrawing::MarkPoint(int number) {
 }
 
 void CurveDrawing::DrawJoiningLines() {
-    picture_->DrawStyle = IsCurve() ? dottedLine : solidLine;
     const auto x = points_.PointX(), y = points_.PointY();
     for (std::size_t i = 0; i + 1 < x.size(); ++i)
         picture_->Line(x[i], y[i], x[i + 1], y[i + 1], IsStraight() ? CurveColour : black);
-    picture_->DrawStyle = solidLine;
 }
 
 /// The curve ends a little before its last point. The rest is a red line from wherever the cursor is: also
