@@ -76,6 +76,14 @@ class Window:
         run("xdotool", "mousemove", self.left + x, self.top + y)
 
 
+def width_of(number):
+    """The width of a window; 0 for one that has gone meanwhile, as menus do."""
+    try:
+        return Window(number).width
+    except subprocess.CalledProcessError:
+        return 0
+
+
 class Program:
     """The running program; its main window is the one that was there first."""
 
@@ -101,7 +109,7 @@ class Program:
         """The numbers of the visible windows, the front one last."""
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "coinlet"],
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout.split()
-        return [number for number in found if Window(number).width > 20]
+        return [number for number in found if width_of(number) > 20]
 
     def front(self, others):
         """A window that was not among the others; none if nothing opens."""
