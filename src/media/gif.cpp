@@ -1,5 +1,7 @@
 #include "media/gif.h"
 
+#include "surface/codecs.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
@@ -13,19 +15,32 @@ namespace {
 
 Bitmap OnWhite(const QImage& picture) {
     Bitmap bitmap(picture.width(), picture.height());
+    const bool hasHoles = picture.hasAlphaChannel();
     for (int y = 0; y < bitmap.Height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        std::transform(from, from + bitmap.Width(), bitmap.Row(y), [](QRgb pixel) {
+        std::transform(from, from + bitmap.Width(), bitmap.Row(y), [hasHoles](QRgb pixel) {
             // A GIF's pixel is there or not.
-            return qAlpha(pixel) == 0 ? ToPixel(white) : spareByte | (pixel & ~spareByte);
+            return hasHoles && qAlpha(pixel) == 0 ? ToPixel(white) : spareByte | (pixel & ~spareByte);
         });
     }
     return bitmap;
 }
 
+/// The size of the logical screen, on which the reader draws the frame: it tells the frame's own size alone.
+QSize ScreenSize(std::span<const std::uint8_t> bytes) {
+    constexpr std::size_t widthAt = 6, heightAt = 8, headerSize = 10;
+    if (bytes.size() < headerSize) return {};
+    return {bytes[widthAt] | bytes[widthAt + 1] << 8, bytes[heightAt] | bytes[heightAt + 1] << 8};
+}
+
+bool IsWorthDecoding(const QSize& size, std::size_t fileSize) {
+    return coinlet::IsWorthDecoding(size.width(), size.height(), fileSize);
+}
+
 }  // namespace
 
 std::optional<Image> DecodeGifBytes(std::span<const std::uint8_t> bytes) {
+    if (!IsWorthDecoding(ScreenSize(bytes), bytes.size())) return std::nullopt;
     // The reader's own limit is told in whole megabytes, above which it reads nothing.
     constexpr int limit = static_cast<int>(maximumPictureBytes >> 20);
     if (QImageReader::allocationLimit() < limit) QImageReader::setAllocationLimit(limit);
@@ -37,9 +52,12 @@ std::optional<Image> DecodeGifBytes(std::span<const std::uint8_t> bytes) {
     QImageReader reader(&buffer, "gif");
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    if (size.isEmpty() || !IsPictureSize(size.width(), size.height())) return std::nullopt;
+    if (size.isEmpty() || !IsWorthDecoding(size, bytes.size())) return std::nullopt;
 
-    const QImage picture = reader.read().convertToFormat(QImage::Format_ARGB32);
+    QImage picture = reader.read();
+    // Of both kinds of 32 bits the pixels are taken as they are; a copy of a large picture is dear.
+    if (picture.format() != QImage::Format_RGB32 && picture.format() != QImage::Format_ARGB32)
+        picture.convertTo(QImage::Format_ARGB32);
     if (picture.isNull() || !IsPictureSize(picture.width(), picture.height())) return std::nullopt;
     return Image(OnWhite(picture));
 }

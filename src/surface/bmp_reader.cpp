@@ -139,7 +139,7 @@ void DrawPixels(const Header& header, Bitmap& bitmap) {
 
 std::optional<Image> DecodeBmp(std::span<const std::uint8_t> bytes) {
     const auto header = bmp::ReadHeader(bytes);
-    if (!header) return std::nullopt;
+    if (!header || !IsWorthDecoding(header->width, header->height, bytes.size())) return std::nullopt;
     if (header->compression == Compression::RunLength4 || header->compression == Compression::RunLength8) {
         Bitmap bitmap(header->width, header->height, ToPixel(black));
         bmp::DrawRunLengths(*header, bitmap);

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "surface/image.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -11,12 +12,17 @@
 
 namespace coinlet {
 
+/// A picture is decoded if it can be made at all and if its file isn't far too small for it: no file below a
+/// megabyte has more than 24 million pixels but to cost time and memory. `width` and `height` are what its
+/// header says, `fileSize` is in bytes. To be asked before anything is decoded.
+bool IsWorthDecoding(long long width, long long height, std::size_t fileSize);
+
 /// Decodes and encodes the picture formats that libraries serve.
 class PictureCodecs {
 public:
     virtual ~PictureCodecs() = default;
-    /// A JPEG, or nothing if its header is broken or it is larger than IsPictureSize allows. One that is cut
-    /// short loads as far as it goes.
+    /// A JPEG, or nothing if its header is broken, if it isn't worth decoding, or if it goes over its pixels
+    /// more often than a file of its size has reason to. One that is cut short loads as far as it goes.
     virtual std::optional<Image> DecodeJpeg(std::span<const std::uint8_t> bytes) const = 0;
     /// The first frame of a GIF on its logical screen, transparent pixels white; under the same rules.
     virtual std::optional<Image> DecodeGif(std::span<const std::uint8_t> bytes) const = 0;
@@ -27,7 +33,7 @@ public:
 /// A Windows bitmap in memory: 1, 4, 8, 16, 24 or 32 bits a pixel, plain, run-length (RLE4, RLE8) or with bit
 /// fields, either row order, any of the headers from 12 to 124 bytes. The fourth byte of 32 bits is ignored.
 /// Missing pixels at the end of a file that is cut short are black, pixels that run-lengths skip too. Nothing
-/// for a broken header, a size of 0 or one that IsPictureSize refuses.
+/// for a broken header, a size of 0, or a picture that isn't worth decoding.
 std::optional<Image> DecodeBmp(std::span<const std::uint8_t> bytes);
 /// A Windows bitmap of 24 bits a pixel, uncompressed, bottom row first. Nothing for the empty picture.
 std::optional<Bytes> EncodeBmp(const Image& image);

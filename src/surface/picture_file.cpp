@@ -33,6 +33,12 @@ bool StartsWith(std::span<const std::uint8_t> bytes, std::string_view start) {
 
 }  // namespace
 
+bool IsWorthDecoding(long long width, long long height, std::size_t fileSize) {
+    constexpr std::size_t smallFile = 1'000'000;
+    constexpr long long mostPixelsOfSmallFile = 24'000'000;
+    return IsPictureSize(width, height) && (fileSize >= smallFile || width * height <= mostPixelsOfSmallFile);
+}
+
 std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {
     const auto* format = std::find_if(formats.begin(), formats.end(), [&](const Format& candidate) {
         return StartsWith(bytes, candidate.firstBytes);

@@ -92,9 +92,8 @@ void Surface::SetBackColor(Colour colour) {
 
 void Surface::SetPicture(const coinlet::Image& picture) {
     picture_ = picture;
-    if (AutoSize && !picture.Empty()) {
-        Resize(picture.Width(), picture.Height());
-    }
+    // Its pixels are shared at once; a bitmap of the new size would be made and filled for nothing.
+    if (AutoSize && !picture.Empty()) bitmap_ = std::const_pointer_cast<Bitmap>(picture.Shared());
     ShowBackground();
 }
 

@@ -4,6 +4,7 @@
 #include "support/gif_bytes.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace coinlet {
 namespace {
@@ -117,7 +118,9 @@ TEST(DecodeGif, RefusesSizesAboveTheLimit) {
 
 TEST(DecodeGif, ReadsAPictureAsLargeAsTheLimit) {
     const GifBytes gif{.width = 8192, .height = 8192, .frames = {{8191, 8191, 1, 1, {1}}}};
-    const auto image = DecodeGifBytes(gif.File());
+    Bytes file = gif.File();
+    file.resize(1'000'000);  // what follows the end is passed over
+    const auto image = DecodeGifBytes(file);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->At(8191, 8191), RGB(255, 0, 0));
     EXPECT_EQ(image->At(0, 0), black);
@@ -130,6 +133,20 @@ TEST(DecodeGif, ReadsAPictureAsWideAsGifsAre) {
     EXPECT_EQ(image->Width(), 65535);
     EXPECT_EQ(image->At(65534, 1), RGB(255, 0, 0));
     EXPECT_EQ(image->At(40000, 1), black);
+}
+
+TEST(DecodeGif, RefusesWhatIsFarLargerThanItsFile) {
+    for (const auto& [width, height] : {std::pair{8192, 8192}, {6000, 4001}, {16384, 1465}}) {
+        // The frame may be small, or as large as the screen.
+        const GifBytes gif{.width = width, .height = height, .frames = {{0, 0, 1, 1, {1}}}};
+        EXPECT_FALSE(DecodeGifBytes(gif.File())) << width << ' ' << height;
+        const GifBytes whole{.width = width, .height = height, .frames = {{0, 0, width, height, {1}}}};
+        EXPECT_FALSE(DecodeGifBytes(whole.File())) << width << ' ' << height;
+    }
+    const GifBytes most{.width = 6000, .height = 4000, .frames = {{5999, 3999, 1, 1, {1}}}};
+    const auto image = DecodeGifBytes(most.File());
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->At(5999, 3999), RGB(255, 0, 0));
 }
 
 TEST(DecodeGif, GivesNothingForWhatIsNoGif) {

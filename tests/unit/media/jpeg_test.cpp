@@ -65,12 +65,13 @@ Bytes SamplingFactors(const Bytes& file) {
 }
 
 /// A JPEG by the library itself, for the kinds of pixels that the program never writes.
-Bytes Compressed(const Bytes& pixels, int width, int height, TJPF format, TJSAMP sampling) {
+Bytes Compressed(const Bytes& pixels, int width, int height, TJPF format, TJSAMP sampling,
+                 int flags = TJFLAG_ACCURATEDCT) {
     const tjhandle codec = tjInitCompress();
     unsigned char* buffer = nullptr;
     unsigned long size = 0;
-    const int result = tjCompress2(codec, pixels.data(), width, 0, height, format, &buffer, &size, sampling,
-                                   100, TJFLAG_ACCURATEDCT);
+    const int result =
+        tjCompress2(codec, pixels.data(), width, 0, height, format, &buffer, &size, sampling, 100, flags);
     Bytes bytes;
     if (result == 0) bytes.assign(buffer, buffer + size);
     tjFree(buffer);
@@ -218,6 +219,64 @@ TEST(Jpeg, RefusesSizesAboveTheLimit) {
         frame[6] = frame[8] = static_cast<std::uint8_t>(low);
         EXPECT_FALSE(DecodeJpegBytes(*bytes)) << high << " " << low;
     }
+}
+
+/// The same file with its last scan so many times more.
+Bytes WithFurtherScans(const Bytes& file, int count) {
+    const Bytes scan{0xFF, 0xDA}, end{0xFF, 0xD9};
+    const auto lastScan = std::find_end(file.begin(), file.end(), scan.begin(), scan.end());
+    const auto lastEnd = std::find_end(file.begin(), file.end(), end.begin(), end.end());
+    Bytes more(file.begin(), lastEnd);
+    for (int i = 0; i < count; ++i)
+        more.insert(more.end(), lastScan, lastEnd);
+    more.insert(more.end(), end.begin(), end.end());
+    return more;
+}
+
+// A million pixels in one colour: a file of some kilobytes, in ten scans at first.
+TEST(Jpeg, RefusesMoreScansThanAFileOfItsSizeHasReasonFor) {
+    constexpr int side = 1000, usualScans = 10, mostScans = 250;
+    const Bytes pixels(std::size_t{3} * side * side, 200);
+    const Bytes file = Compressed(pixels, side, side, TJPF_RGB, TJSAMP_420, TJFLAG_PROGRESSIVE);
+    ASSERT_LT(file.size(), 100'000U);
+    const auto image = DecodeJpegBytes(file);
+    ASSERT_TRUE(image);
+    const auto most = DecodeJpegBytes(WithFurtherScans(file, mostScans - usualScans));
+    ASSERT_TRUE(most);
+    EXPECT_EQ(*most, *image);
+    EXPECT_FALSE(DecodeJpegBytes(WithFurtherScans(file, mostScans - usualScans + 1)));
+    EXPECT_FALSE(DecodeJpegBytes(WithFurtherScans(file, 480)));
+}
+
+TEST(Jpeg, CountsNoScansInTextsAndPreviews) {
+    // A preview inside the file has markers of its own; it is stepped over as a whole.
+    Bytes file = EncodeJpegBytes(Gradient(64, 64), 90).value();
+    Bytes preview{0xFF, 0xE1, 0xFF, 0x00};
+    for (int i = 0; i < 0xFF00 / 2 - 1; ++i)
+        preview.insert(preview.end(), {0xFF, 0xDA});
+    file.insert(file.begin() + 2, preview.begin(), preview.end());
+    EXPECT_TRUE(DecodeJpegBytes(file));
+}
+
+TEST(Jpeg, RefusesWhatIsFarLargerThanItsFile) {
+    Bytes file = EncodeJpegBytes(Gradient(16, 16), 90).value();
+    const Bytes marker{0xFF, 0xC0};
+    const auto frame = std::search(file.begin(), file.end(), marker.begin(), marker.end());
+    ASSERT_NE(frame, file.end());
+    const auto setSize = [&](int width, int height) {
+        frame[5] = static_cast<std::uint8_t>(height >> 8);
+        frame[6] = static_cast<std::uint8_t>(height);
+        frame[7] = static_cast<std::uint8_t>(width >> 8);
+        frame[8] = static_cast<std::uint8_t>(width);
+    };
+    setSize(6000, 4001);
+    EXPECT_FALSE(DecodeJpegBytes(file));
+    setSize(6000, 4000);
+    EXPECT_TRUE(DecodeJpegBytes(file));
+    setSize(8192, 6144);  // 50 million pixels, as cameras have them
+    EXPECT_FALSE(DecodeJpegBytes(file));
+    file.resize(1'000'000);
+    EXPECT_TRUE(DecodeJpegBytes(file));
 }
 
 TEST(Jpeg, GivesNothingForWhatIsNoJpeg) {

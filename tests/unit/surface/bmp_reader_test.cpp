@@ -257,6 +257,24 @@ TEST(DecodeBmp, RefusesSizesThatCannotBe) {
     EXPECT_FALSE(DecodeBmp(BmpBytes{.headerSize = 12, .width = 65535, .height = 65535}.File()));
 }
 
+TEST(DecodeBmp, RefusesWhatIsFarLargerThanItsFile) {
+    for (const auto& [width, height] : {std::pair{8192, 8192}, {6000, -4001}, {16384, 1465}}) {
+        EXPECT_FALSE(DecodeBmp(BmpBytes{.width = width, .height = height}.File())) << width;
+        EXPECT_FALSE(
+            DecodeBmp(BmpBytes{.width = width, .height = height, .bits = 8, .compression = 1}.File()))
+            << width;
+    }
+    const auto most = DecodeBmp(BmpBytes{.width = 6000, .height = 4000}.File());
+    ASSERT_TRUE(most);
+    EXPECT_EQ(most->At(5999, 3999), black);
+    // From a megabyte on a file may hold as much as can be made.
+    Bytes large = BmpBytes{.width = 8192, .height = 8192, .bits = 1}.File();
+    large.resize(999'999);
+    EXPECT_FALSE(DecodeBmp(large));
+    large.resize(1'000'000);
+    EXPECT_TRUE(DecodeBmp(large));
+}
+
 TEST(DecodeBmp, RefusesCodingsThatCannotBe) {
     for (const std::uint16_t bits : std::initializer_list<std::uint16_t>{0, 2, 3, 5, 15, 31, 33, 64, 65535})
         EXPECT_FALSE(DecodeBmp(BmpBytes{.bits = bits, .pixels = Bytes(64)}.File())) << bits;
