@@ -5,6 +5,8 @@
 #include "player/record.h"
 #include "surface/clipboard.h"
 
+#include <utility>
+
 namespace coinlet::player {
 
 /// A desktop that only writes down what it is asked to open. The user is called "user".
@@ -23,14 +25,17 @@ private:
     const Places& places_;
 };
 
-/// A clipboard that no other program sees.
+/// A clipboard that no other program sees; a script puts there what one would.
 class OwnClipboard : public Clipboard {
 public:
-    void SetImage(const Image& image) override { image_ = image; }
-    Image GetImage() const override { return image_; }
+    void SetImage(const Image& image) override { offer_ = {.files = {}, .encoded = {}, .image = image}; }
+    Image GetImage() const override { return offer_.image; }
+    Offer GetOffer() const override { return offer_; }
+
+    void Put(Offer offer) { offer_ = std::move(offer); }
 
 private:
-    Image image_;
+    Offer offer_;
 };
 
 }  // namespace coinlet::player

@@ -85,8 +85,7 @@ void WriteFile(ScriptRun& run, const Arguments& arguments) {
 
 void CopyFile(ScriptRun& run, const Arguments& arguments) {
     const std::string from = arguments.Text(0);
-    const fs::path inFolder = run.ThePlaces().Resolve(from);
-    const auto content = ReadFile(FileExists(inFolder) ? inFolder : run.ThePlaces().BesideScript(from));
+    const auto content = ReadFile(run.ThePlaces().Found(from));
     if (!content) Fail("expected the file " + from + ", found none");
     Replace(ReadPath(run, arguments, 1), *content, arguments.Text(1));
 }

@@ -2,8 +2,10 @@
 
 #include "player/commands.h"
 #include "player/failure.h"
+#include "player/lookup.h"
 #include "player/script_run.h"
 #include "player/values.h"
+#include "surface/codecs.h"
 
 #include <algorithm>
 #include <ostream>
@@ -90,7 +92,34 @@ void ExpectDocument(ScriptRun& run, const Arguments& arguments) {
     ExpectOldest(run, run.TheLife().desktop.documents, arguments.Text(0), "document");
 }
 
+// --- What other programs hand over ------------------------------------------------------------------------
+
+void Drop(ScriptRun& run, const Arguments& arguments) {
+    Form& form = FindForm(run.TheLife(), arguments.Text(0));
+    if (!form.TakesDrops()) Fail(arguments.Text(0) + " takes nothing that is dropped");
+    Offer offer;
+    for (std::size_t i = 1; i < arguments.Count(); ++i)
+        offer.files.push_back(run.ThePlaces().Found(arguments.Text(i)));
+    form.Form_Drop(offer);
+}
+
+/// The bytes of a file as the other program holds them, and what the address `Clipboard` shows of them.
+void PutPicture(ScriptRun& run, const Arguments& arguments) {
+    auto bytes = ReadFile(run.ThePlaces().Found(arguments.Text(0)));
+    if (!bytes) Fail("expected the file " + arguments.Text(0) + ", found none");
+    const Image picture = DecodeOfferedPicture(*bytes, run.Codecs()).value_or(Image());
+    run.TheWorld().clipboard.Put({.files = {}, .encoded = *std::move(bytes), .image = picture});
+}
+
+void PutPath(ScriptRun& run, const Arguments& arguments) {
+    run.TheWorld().clipboard.Put(
+        {.files = {run.ThePlaces().Found(arguments.Text(0))}, .encoded = {}, .image = {}});
+}
+
 constexpr Command commands[] = {
+    {"drop", "FORM FILE...", Needs::RunningProgram, Drop},
+    {"clipboard", "FILE", Needs::RunningProgram, PutPicture},
+    {"clipboard-path", "FILE", Needs::RunningProgram, PutPath},
     {"answer", "yes|no|ok|cancel", Needs::RunningProgram, QueueAnswer},
     {"answer-text", "TEXT", Needs::RunningProgram, QueueText},
     {"answer-folder", "PATH", Needs::RunningProgram, QueueFolder},

@@ -1,5 +1,7 @@
 #include "player/places.h"
 
+#include "base/files.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -42,6 +44,11 @@ fs::path Places::Beneath(const fs::path& folder, const std::string& text) const 
     const auto inOut = Behind(outMark, text);
     const fs::path path = (inOut ? out_ / *inOut : folder / text).lexically_normal();
     return path.has_filename() ? path : path.parent_path();
+}
+
+fs::path Places::Found(const std::string& text) const {
+    const fs::path inFolder = Resolve(text), beside = BesideScript(text);
+    return !FileExists(inFolder) && FileExists(beside) ? beside : inFolder;
 }
 
 std::string Places::Shown(const std::string& text) const {

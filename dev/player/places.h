@@ -23,6 +23,9 @@ public:
     /// an absolute one as it is.
     std::filesystem::path Resolve(const std::string& text) const { return Beneath(application_, text); }
     std::filesystem::path InOut(const std::string& text) const { return Beneath(out_, text); }
+    /// A file of the application folder if it is there, else one beside the script if that is there, else
+    /// what it would be in the application folder.
+    std::filesystem::path Found(const std::string& text) const;
     std::filesystem::path BesideScript(const std::string& text) const { return Beneath(script_, text); }
 
     /// A text as a script shows and compares it: a path in the application folder as the part behind that,

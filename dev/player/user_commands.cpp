@@ -12,9 +12,12 @@
 #include "player/lookup.h"
 #include "player/reach.h"
 #include "player/script_run.h"
+#include "player/values.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <sstream>
 #include <string>
 
 namespace coinlet::player {
@@ -22,6 +25,24 @@ namespace coinlet::player {
 namespace {
 
 constexpr int noShift = 0;
+
+/// The keys that are held down meanwhile, joined by "+", as the word at that place; none if there is none.
+int ReadModifiers(const Arguments& arguments, std::size_t place) {
+    if (arguments.Count() <= place) return noShift;
+    struct Modifier {
+        std::string_view name;
+        int state;
+    };
+    constexpr Modifier modifiers[] = {{"shift", shiftHeld}, {"ctrl", controlHeld}, {"alt", altHeld}};
+    int state = noShift;
+    std::istringstream names(arguments.Text(place));
+    for (std::string name; std::getline(names, name, '+');) {
+        const auto* const found = std::ranges::find(modifiers, name, &Modifier::name);
+        if (found == std::end(modifiers)) Fail("expected shift, ctrl or alt, found " + Quoted(name));
+        state |= found->state;
+    }
+    return state;
+}
 
 // --- Pointer ----------------------------------------------------------------------------------------------
 
@@ -60,34 +81,36 @@ int ReadButton(const Arguments& arguments) {
 /// A step of a gesture: the control, and the place to which the pointer is put.
 struct PointerStep {
     Control& control;
-    int button;
+    int button, shift;
     float x, y;
 };
 
-/// Reads "ADDR BUTTON X Y". The place may lie outside the control: windows hand on the moves and the release
-/// of a drag from wherever it got to, and scripts set in where a drag begins elsewhere.
+/// Reads "ADDR BUTTON X Y [MODIFIERS]". The place may lie outside the control: windows hand on the moves and
+/// the release of a drag from wherever it got to, and scripts set in where a drag begins elsewhere.
 PointerStep ReadPointerStep(ScriptRun& run, const Arguments& arguments) {
     Life& life = run.TheLife();
     Control& control = ReachControl(life, arguments.Address(0));
     const double x = arguments.Number(2), y = arguments.Number(3);
     const int button = ReadButton(arguments);
     life.platform.pointer.PutOn(control, x, y);
-    return {control, button, static_cast<float>(x), static_cast<float>(y)};
+    constexpr std::size_t modifiersPlace = 4;
+    return {control, button, ReadModifiers(arguments, modifiersPlace), static_cast<float>(x),
+            static_cast<float>(y)};
 }
 
 void Press(ScriptRun& run, const Arguments& arguments) {
     const PointerStep step = ReadPointerStep(run, arguments);
-    step.control.PointerPressed(step.button, noShift, step.x, step.y);
+    step.control.PointerPressed(step.button, step.shift, step.x, step.y);
 }
 
 void Move(ScriptRun& run, const Arguments& arguments) {
     const PointerStep step = ReadPointerStep(run, arguments);
-    step.control.PointerMoved(step.button, noShift, step.x, step.y);
+    step.control.PointerMoved(step.button, step.shift, step.x, step.y);
 }
 
 void Release(ScriptRun& run, const Arguments& arguments) {
     const PointerStep step = ReadPointerStep(run, arguments);
-    step.control.PointerReleased(step.button, noShift, step.x, step.y);
+    step.control.PointerReleased(step.button, step.shift, step.x, step.y);
 }
 
 void Drag(ScriptRun& run, const Arguments& arguments) {
@@ -95,12 +118,14 @@ void Drag(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(life, arguments.Address(0));
     const double x1 = arguments.Number(1), y1 = arguments.Number(2);
     const double x2 = arguments.Number(3), y2 = arguments.Number(4);
+    constexpr std::size_t modifiersPlace = 5;
+    const int shift = ReadModifiers(arguments, modifiersPlace);
     const auto endX = static_cast<float>(x2), endY = static_cast<float>(y2);
     life.platform.pointer.PutOn(control, x1, y1);
-    control.PointerPressed(leftButton, noShift, static_cast<float>(x1), static_cast<float>(y1));
+    control.PointerPressed(leftButton, shift, static_cast<float>(x1), static_cast<float>(y1));
     life.platform.pointer.PutOn(control, x2, y2);
-    control.PointerMoved(leftButton, noShift, endX, endY);
-    control.PointerReleased(leftButton, noShift, endX, endY);
+    control.PointerMoved(leftButton, shift, endX, endY);
+    control.PointerReleased(leftButton, shift, endX, endY);
 }
 
 void PutPointer(ScriptRun& run, const Arguments& arguments) {
@@ -121,7 +146,7 @@ void PutPointer(ScriptRun& run, const Arguments& arguments) {
 struct KeyTarget {
     Form& form;
     Control* control;
-    int code;
+    int code, shift;
 
     /// What a key did may have closed the form; the rest of the keystroke is lost then.
     bool IsThere(const Life& life) const { return life.platform.FrontForm() == &form; }
@@ -129,16 +154,18 @@ struct KeyTarget {
 
 KeyTarget ReadKeyTarget(Life& life, const Arguments& arguments) {
     const Address address = arguments.Address(0);
-    const int code = arguments.Whole(1);
+    const int code = arguments.Whole(1), shift = ReadModifiers(arguments, 2);
     const Target target = FindTarget(life, address);
     RequireFront(life, *target.form);
-    if (!target.element) return {*target.form, nullptr, code};
-    return {*target.form, &ReachControl(life, address), code};
+    if (!target.element) return {*target.form, nullptr, code, shift};
+    return {*target.form, &ReachControl(life, address), code, shift};
 }
 
 void SendKeyDown(const Life& life, const KeyTarget& key) {
-    key.form.KeyDown(key.control, key.code, noShift);
-    const auto character = CharacterOfKey(key.code);
+    key.form.KeyDown(key.control, key.code, key.shift);
+    // With Ctrl or Alt a key is a command, and no letter.
+    const bool types = (key.shift & (controlHeld | altHeld)) == 0;
+    const auto character = types ? CharacterOfKey(key.code) : std::nullopt;
     if (character && key.IsThere(life)) key.form.KeyTyped(key.control, *character);
 }
 
@@ -149,14 +176,14 @@ void KeyDown(ScriptRun& run, const Arguments& arguments) {
 
 void KeyUp(ScriptRun& run, const Arguments& arguments) {
     const KeyTarget key = ReadKeyTarget(run.TheLife(), arguments);
-    key.form.KeyUp(key.control, key.code, noShift);
+    key.form.KeyUp(key.control, key.code, key.shift);
 }
 
 void Key(ScriptRun& run, const Arguments& arguments) {
     Life& life = run.TheLife();
     const KeyTarget key = ReadKeyTarget(life, arguments);
     SendKeyDown(life, key);
-    if (key.IsThere(life)) key.form.KeyUp(key.control, key.code, noShift);
+    if (key.IsThere(life)) key.form.KeyUp(key.control, key.code, key.shift);
 }
 
 /// Types each character of a text into a box, which has the focus meanwhile.
@@ -228,14 +255,14 @@ void Close(ScriptRun& run, const Arguments& arguments) {
 
 constexpr Command commands[] = {
     {"click", "ADDR", Needs::RunningProgram, Click},
-    {"press", "ADDR BUTTON X Y", Needs::RunningProgram, Press},
-    {"move", "ADDR BUTTON X Y", Needs::RunningProgram, Move},
-    {"release", "ADDR BUTTON X Y", Needs::RunningProgram, Release},
-    {"drag", "ADDR X1 Y1 X2 Y2", Needs::RunningProgram, Drag},
+    {"press", "ADDR BUTTON X Y [MODIFIERS]", Needs::RunningProgram, Press},
+    {"move", "ADDR BUTTON X Y [MODIFIERS]", Needs::RunningProgram, Move},
+    {"release", "ADDR BUTTON X Y [MODIFIERS]", Needs::RunningProgram, Release},
+    {"drag", "ADDR X1 Y1 X2 Y2 [MODIFIERS]", Needs::RunningProgram, Drag},
     {"pointer", "ADDR [X] [Y]", Needs::RunningProgram, PutPointer},
-    {"key", "ADDR CODE", Needs::RunningProgram, Key},
-    {"keydown", "ADDR CODE", Needs::RunningProgram, KeyDown},
-    {"keyup", "ADDR CODE", Needs::RunningProgram, KeyUp},
+    {"key", "ADDR CODE [MODIFIERS]", Needs::RunningProgram, Key},
+    {"keydown", "ADDR CODE [MODIFIERS]", Needs::RunningProgram, KeyDown},
+    {"keyup", "ADDR CODE [MODIFIERS]", Needs::RunningProgram, KeyUp},
     {"type", "ADDR TEXT", Needs::RunningProgram, Type},
     {"focus", "ADDR", Needs::RunningProgram, Focus},
     {"pick", "ADDR ROW", Needs::RunningProgram, Pick},

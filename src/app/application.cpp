@@ -18,6 +18,7 @@
 #include "tools/gesture_engine.h"
 #include "tools/hole_tool.h"
 #include "tools/image_browser.h"
+#include "tools/incoming_pictures.h"
 #include "tools/line_tools.h"
 #include "tools/shape_tools.h"
 #include "tools/side_panel_rows.h"
@@ -45,6 +46,9 @@ struct Application::House {
         gestures.Add(EmptyBandTools(flipMenuTool, flipMenuTool));
         gestures.Add(EmptyBandTools(aboutTool, firstShapeTool - 1));
         BindDialogs(context, strip);
+        main.SpareKey = [this](int code, int shift) {
+            return clip.TakesKey(code, shift) || incoming.TakesKey(code, shift);
+        };
         main.Load = [this] {
             StartUp(context);
             recovery.PutBackLostWork();
@@ -68,6 +72,7 @@ struct Application::House {
     ImageBrowser browser{context};
     GestureEngine gestures{context};
     FloatingClip clip{context};
+    IncomingPictures incoming{context};
     FlipMenu flips{context};
     SidePanelRows panelRows{context};
     FilterMenu filters{context, filterCore};

@@ -41,6 +41,7 @@ public:
     void UserEdits(const std::string& text);
     /// Up and down step through the rows.
     void KeyPressed(int code, int shift) override;
+    bool WantsKey(int, int) const override { return true; }
     bool PassesEnterOn() const override { return true; }
 
     const RowList& Rows() const { return rows_; }

@@ -62,19 +62,23 @@ bool Control::EndPress(int button) {
 
 void Control::PointerPressed(int button, int shift, float x, float y) {
     if (!Answers()) return;
+    OwnerForm().heldButtons_ |= button;
     if (button == leftButton) {
         leftPressed_ = true;
-        SetFocus();
+        if (TakesFocusByPress()) SetFocus();
         if (!Answers()) return;
     }
     MouseDown(button, shift, x, y);
 }
 
 void Control::PointerMoved(int button, int shift, float x, float y) {
+    // A release can be lost, to a menu that pops up for example; nothing is held then all the same.
+    if (button == noButton) OwnerForm().heldButtons_ = 0;
     if (Answers()) MouseMove(button, shift, x, y);
 }
 
 void Control::PointerReleased(int button, int shift, float x, float y) {
+    OwnerForm().heldButtons_ &= ~button;
     const bool clicks = EndPress(button) && ContainsPoint(x, y);
     if (!Answers()) return;
     MouseUp(button, shift, x, y);

@@ -114,10 +114,15 @@ public:
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 
+    /// True for keys that mean something to the control itself, such as the arrows to a list; others may mean
+    /// something to its form. A field that is typed in wants them all.
+    virtual bool WantsKey(int /*code*/, int /*shift*/) const { return false; }
     /// True if the Enter key, while this has the focus, is the form's default button's.
     virtual bool PassesEnterOn() const { return false; }
 
 protected:
+    /// True if a press of the left button gives it the focus, if it can have it.
+    virtual bool TakesFocusByPress() const { return true; }
     void MakeFocusable() { takesFocus_ = TabStop = true; }
     /// What a finished click does.
     virtual void Clicked() { Click(); }

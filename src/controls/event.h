@@ -51,6 +51,12 @@ constexpr int keySpace = 32;
 constexpr int keyPageUp = 33, keyPageDown = 34, keyEnd = 35, keyHome = 36;
 constexpr int keyLeft = 37, keyUp = 38, keyRight = 39, keyDown = 40;
 
+constexpr bool IsStepKey(int code) {
+    return code >= keyPageUp && code <= keyDown;
+}
+/// The shift state of a key or pointer event, added up.
+constexpr int shiftHeld = 1, controlHeld = 2, altHeld = 4;
+
 /// An event by its name, to be raised from outside: `raise` takes `arguments` numbers (missing ones are 0).
 struct NamedEvent {
     std::string_view name;

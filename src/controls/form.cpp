@@ -69,8 +69,10 @@ void Form::MoveFocusByTab(bool backward) {
 void Form::KeyDown(Control* target, int code, int shift) {
     if (!loaded_) return;
     Control* const control = target ? target : Focus();
+    const bool spare = !control || !control->WantsKey(code, shift);
     if (control) control->KeyPressed(code, shift);
     if (!loaded_) return;
+    if (spare && Form_SpareKey(code, shift)) return;
     if (code == keyEscape) PressCancel();
     if (code == keyReturn) PressDefault(control);
 }

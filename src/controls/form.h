@@ -16,6 +16,7 @@ class FontEngine;
 class MenuItem;
 class Platform;
 class Timer;
+struct Offer;
 
 /// What every form is handed: the platform that shows it, and the fonts that its surfaces print with.
 struct FormServices {
@@ -48,6 +49,16 @@ public:
     /// Unloads the form: `Form_Unload` may refuse. A modal dialog's call of `ShowModal` then returns. The
     /// form itself lives on until its handlers have returned. Does nothing on a form that isn't loaded.
     void Unload();
+
+    /// True while the user holds a button of the pointer that went down over a control of the form.
+    bool PointerHeld() const { return heldButtons_ != 0; }
+
+    /// A key that the control with the focus doesn't want. True if the form has used it up; else Escape and
+    /// Enter press their buttons.
+    virtual bool Form_SpareKey(int /*code*/, int /*shift*/) { return false; }
+    /// True if the form takes what is dropped on it; Form_Drop then gets it.
+    virtual bool TakesDrops() const { return false; }
+    virtual void Form_Drop(const Offer& /*offer*/) {}
 
     /// What the three moments of a form's life do; a form overrides those it has something to do at.
     virtual void Form_Load() {}
@@ -111,6 +122,7 @@ private:
     std::uint64_t elementRevision_ = 0;
     Control* focus_ = nullptr;
     int controlsMade_ = 0;
+    int heldButtons_ = 0;  ///< Their numbers added up.
     bool loaded_ = false;
     bool unloading_ = false;
     bool announced_ = false;  ///< The platform shows it.

@@ -144,6 +144,10 @@ void ListBox::KeyPressed(int code, int shift) {
     if (row != ListIndex()) UserPicks(row);
 }
 
+bool ListBox::WantsKey(int code, int) const {
+    return IsStepKey(code) || (code == keyReturn && !PassesEnterOn());
+}
+
 void ListBox::VisitProperties(PropertyVisitor& visitor) {
     Control::VisitProperties(visitor);
     VisitColour(visitor, "ForeColor", ForeColor);

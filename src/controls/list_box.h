@@ -86,6 +86,7 @@ public:
     virtual void UserActivates();
     /// Arrows, page keys, Home and End move the choice; Enter activates it.
     void KeyPressed(int code, int shift) override;
+    bool WantsKey(int code, int shift) const override;
     /// A list that does something on Enter keeps the key.
     bool PassesEnterOn() const override { return !DblClick; }
 

@@ -10,6 +10,11 @@ namespace coinlet {
 PictureBox::PictureBox(Container& container, std::string_view name, int index)
     : Control(container, name, index, ControlKind::PictureBox), surface(OwnerForm().Fonts(), 0, 0) {}
 
+void PictureBox::LetHaveFocus() {
+    MakeFocusable();
+    TabStop = false;
+}
+
 double PictureBox::SizeToTell(double assigned, int pixels) const {
     const double units = Parent().ChildUnitsPerPixel();
     return FixedBitmap || RoundHalfEven(assigned / units) == pixels ? assigned : pixels * units;

@@ -40,6 +40,9 @@ public:
     /// Gives the surface a picture.
     virtual void SetPicture(const coinlet::Image& picture) { surface.SetPicture(picture); }
 
+    /// Lets code give it the focus. No press gives it, and no tab key while `TabStop` is false, as it is.
+    void LetHaveFocus();
+
     float PointerUnitsPerPixel() const override;
     void VisitProperties(PropertyVisitor& visitor) override;
 
@@ -47,6 +50,9 @@ public:
     bool ContainerShown() const override { return Shown(); }
     bool ContainerEnabled() const override { return Reachable(); }
     double ChildUnitsPerPixel() const override;
+
+protected:
+    bool TakesFocusByPress() const override { return false; }
 
 private:
     double SizeToTell(double assigned, int pixels) const;

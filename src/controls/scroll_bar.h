@@ -42,6 +42,7 @@ public:
     void UserReleases();
 
     void KeyPressed(int code, int shift) override;
+    bool WantsKey(int code, int) const override { return IsStepKey(code); }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
 

@@ -38,6 +38,7 @@ public:
     /// is taken.
     void UserEdits(const std::string& text);
 
+    bool WantsKey(int, int) const override { return true; }
     bool PassesEnterOn() const override { return !MultiLine; }
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;

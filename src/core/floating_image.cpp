@@ -26,6 +26,8 @@ void FloatImage(Context& context, const Image& image, FloatingHint hint) {
     }
     WidenCorner(main);
     main.HoekKnop.Visible = true;
+    // The arrow keys now move the image.
+    main.Pic.SetFocus();
 }
 
 void HideFloatingImage(Context& context) {

@@ -14,7 +14,7 @@ enum class FloatingHint {
 
 /// Lays an image over the canvas at its top left corner, where the user drags it to its place and then picks
 /// the way of pasting. It replaces one that floats there already; no tool stays armed. An image of no pixels
-/// floats unseen.
+/// floats unseen. The canvas gets the focus.
 void FloatImage(Context& context, const Image& image, FloatingHint hint = FloatingHint::Shown);
 
 /// Takes the floating image away, with the button that pastes it.

@@ -16,6 +16,8 @@
 #include "controls/timer.h"
 #include "controls/vista_button.h"
 
+#include <functional>
+
 namespace coinlet {
 
 constexpr int canvasSide = 500;
@@ -195,6 +197,14 @@ public:
     Event<> Load, Activate;
     Event<bool&> Unloading;
 
+    /// A key that the control with the focus doesn't want; true if it is used up.
+    std::function<bool(int code, int shift)> SpareKey;
+    /// Something was dropped on the window.
+    Event<const Offer&> Dropped;
+
+    bool Form_SpareKey(int code, int shift) override { return SpareKey && SpareKey(code, shift); }
+    bool TakesDrops() const override { return true; }
+    void Form_Drop(const Offer& offer) override { Dropped(offer); }
     void Form_Load() override { Load(); }
     void Form_Activate() override { Activate(); }
     void Form_Unload(bool& cancel) override { Unloading(cancel); }

@@ -95,6 +95,7 @@ void LayOutCanvas(MainForm& main) {
     main.Pic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
     main.Pic.FixedBitmap = true;
     main.Pic.MousePointer = toolPointer;
+    main.Pic.LetHaveFocus();
     main.UndoPic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
 
     main.Line1.X2 = rulerWidth;

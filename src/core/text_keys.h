@@ -61,6 +61,7 @@ constexpr std::string_view screenMayNotFit = "046";
 constexpr std::string_view screenCanBeChanged = "047";
 constexpr std::string_view screenHelpEntry = "048";
 constexpr std::string_view confirmOverwrite = "070";
+constexpr std::string_view noPictureOffered = "400";
 constexpr std::string_view collectionUnreadable = "410";
 
 // Work that a killed program left behind.

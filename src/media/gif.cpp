@@ -1,10 +1,9 @@
 #include "media/gif.h"
 
+#include "media/toolkit_reader.h"
 #include "surface/codecs.h"
 
-#include <QBuffer>
 #include <QImage>
-#include <QImageReader>
 
 #include <algorithm>
 #include <utility>
@@ -33,32 +32,17 @@ QSize ScreenSize(std::span<const std::uint8_t> bytes) {
     return {bytes[widthAt] | bytes[widthAt + 1] << 8, bytes[heightAt] | bytes[heightAt + 1] << 8};
 }
 
-bool IsWorthDecoding(const QSize& size, std::size_t fileSize) {
-    return coinlet::IsWorthDecoding(size.width(), size.height(), fileSize);
-}
-
 }  // namespace
 
 std::optional<Image> DecodeGifBytes(std::span<const std::uint8_t> bytes) {
-    if (!IsWorthDecoding(ScreenSize(bytes), bytes.size())) return std::nullopt;
-    // The reader's own limit is told in whole megabytes, above which it reads nothing.
-    constexpr int limit = static_cast<int>(maximumPictureBytes >> 20);
-    if (QImageReader::allocationLimit() < limit) QImageReader::setAllocationLimit(limit);
-
-    QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                              static_cast<qsizetype>(bytes.size()));
-    QBuffer buffer(&data);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, "gif");
-    reader.setAutoDetectImageFormat(false);
-    const QSize size = reader.size();
-    if (size.isEmpty() || !IsWorthDecoding(size, bytes.size())) return std::nullopt;
-
-    QImage picture = reader.read();
+    const QSize screen = ScreenSize(bytes);
+    if (!IsWorthDecoding(screen.width(), screen.height(), bytes.size())) return std::nullopt;
+    QImage picture = ReadByToolkit(bytes, "gif");
+    if (picture.isNull()) return std::nullopt;
     // Of both kinds of 32 bits the pixels are taken as they are; a copy of a large picture is dear.
     if (picture.format() != QImage::Format_RGB32 && picture.format() != QImage::Format_ARGB32)
         picture.convertTo(QImage::Format_ARGB32);
-    if (picture.isNull() || !IsPictureSize(picture.width(), picture.height())) return std::nullopt;
+    if (picture.isNull()) return std::nullopt;
     return Image(OnWhite(picture));
 }
 

@@ -7,11 +7,14 @@
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
+#include "shell/offered.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -54,6 +57,7 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
     // The keyboard rests here while no control has the focus.
     setFocusPolicy(Qt::NoFocus);
     if (behind) setWindowModality(Qt::ApplicationModal);
+    setAcceptDrops(form.TakesDrops());
     face_->setAttribute(Qt::WA_OpaquePaintEvent);
     face_->Paint = [this](QPainter& painter, const QRect& dirty) {
         painter.fillRect(dirty, ToQColor(backColor_));
@@ -194,6 +198,20 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::keyReleaseEvent(QKeyEvent* event) {
     if (form_) ReleaseKey(*form_, gate_, *event);
+}
+
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!MayHoldPicture(*event->mimeData())) return;
+    // The other program keeps what it hands over.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void FormWindow::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    const Offer offer = OfferOf(*event->mimeData());
+    if (form_) gate_.Enter([&] { form_->Form_Drop(offer); });
 }
 
 }  // namespace coinlet

@@ -9,6 +9,7 @@ class QtClipboard : public Clipboard {
 public:
     void SetImage(const Image& image) override;
     Image GetImage() const override;
+    Offer GetOffer() const override;
 };
 
 }  // namespace coinlet

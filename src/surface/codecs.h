@@ -26,6 +26,9 @@ public:
     virtual std::optional<Image> DecodeJpeg(std::span<const std::uint8_t> bytes) const = 0;
     /// The first frame of a GIF on its logical screen, transparent pixels white; under the same rules.
     virtual std::optional<Image> DecodeGif(std::span<const std::uint8_t> bytes) const = 0;
+    /// A PNG, or a WebP, under the same rules, on white. Codecs that don't know them read none.
+    virtual std::optional<Image> DecodePng(std::span<const std::uint8_t>) const { return {}; }
+    virtual std::optional<Image> DecodeWebp(std::span<const std::uint8_t>) const { return {}; }
     /// A JPEG of that quality (1 to 100) with full colour resolution; nothing for the empty picture.
     virtual std::optional<Bytes> EncodeJpeg(const Image& image, int quality) const = 0;
 };
@@ -41,8 +44,11 @@ std::optional<Bytes> EncodeBmp(const Image& image);
 /// A picture from the bytes of a file: what its first bytes say it is, BMP, GIF or JPEG, whatever it is
 /// called.
 std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs);
+/// The same for what comes from other programs, which like PNG and WebP as well.
+std::optional<Image> DecodeOfferedPicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs);
 /// A picture from a file. Nothing if it can't be read, is no regular file, or holds no picture.
 std::optional<Image> LoadPicture(const std::filesystem::path& path, const PictureCodecs& codecs);
+std::optional<Image> LoadOfferedPicture(const std::filesystem::path& path, const PictureCodecs& codecs);
 /// Writes an image as a 24-bit bitmap, replacing the file whole or not at all.
 [[nodiscard]] std::error_code SavePicture(const Image& image, const std::filesystem::path& path,
                                           FileCalls& calls = SystemFileCalls());

@@ -46,9 +46,23 @@ std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const Pi
     return format == formats.end() ? std::nullopt : format->decode(bytes, codecs);
 }
 
+std::optional<Image> DecodeOfferedPicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {
+    constexpr std::string_view png("\x89PNG\r\n\x1A\n"), riff("RIFF"), webp("WEBP");
+    constexpr std::size_t afterLength = 8;  // A RIFF file says its length before it says what it is.
+    if (StartsWith(bytes, png)) return codecs.DecodePng(bytes);
+    if (StartsWith(bytes, riff) && bytes.size() > afterLength && StartsWith(bytes.subspan(afterLength), webp))
+        return codecs.DecodeWebp(bytes);
+    return DecodePicture(bytes, codecs);
+}
+
 std::optional<Image> LoadPicture(const fs::path& path, const PictureCodecs& codecs) {
     const auto bytes = ReadFile(path, largestFile);
     return bytes ? DecodePicture(*bytes, codecs) : std::nullopt;
+}
+
+std::optional<Image> LoadOfferedPicture(const fs::path& path, const PictureCodecs& codecs) {
+    const auto bytes = ReadFile(path, largestFile);
+    return bytes ? DecodeOfferedPicture(*bytes, codecs) : std::nullopt;
 }
 
 std::error_code SavePicture(const Image& image, const fs::path& path, FileCalls& calls) {

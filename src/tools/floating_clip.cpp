@@ -20,7 +20,7 @@ namespace coinlet {
 namespace {
 
 /// Entries of the menu of ways of pasting.
-constexpr int pasteNormal = 1, pasteTransparent = 2, pasteWithoutBackground = 3;
+constexpr int pasteNormal = 1, pasteTransparent = 2, pasteWithoutBackground = 3, cancel = 5;
 
 /// A paste lands this far right of and below the place of the floating image, inside its frame.
 constexpr double pasteOffset = 1;
@@ -52,6 +52,8 @@ FloatingClip::FloatingClip(Context& context) : context_(context) {
 }
 
 void FloatingClip::ClipPic_MouseDown(float x, float y) {
+    // Who has dragged it near its place moves it on by the arrow keys.
+    context_.main.Pic.SetFocus();
     clipGrabX_ = x;
     if (const auto grabY = ToShort(y)) clipGrabY_ = *grabY;
 }
@@ -59,9 +61,46 @@ void FloatingClip::ClipPic_MouseDown(float x, float y) {
 void FloatingClip::ClipPic_MouseMove(int button, float x, float y) {
     if (button != leftButton) return;
     PictureBox& clip = context_.main.ClipPic;
-    const auto newLeft = static_cast<float>(clip.Left() + x - clipGrabX_);
+    MoveTo(static_cast<float>(clip.Left() + x - clipGrabX_), clip.Top() + y - clipGrabY_);
+}
+
+void FloatingClip::MoveTo(float left, double top) {
     // Farther away than the numbers reach it stays where it is.
-    if (const auto newTop = ToShort(clip.Top() + y - clipGrabY_)) clip.Move(newLeft, *newTop);
+    if (const auto newTop = ToShort(top)) context_.main.ClipPic.Move(left, *newTop);
+}
+
+bool FloatingClip::TakesKey(int code, int shift) {
+    MainForm& main = context_.main;
+    const bool floats = context_.session.ToolCode == imageFloats && main.ClipPic.Shown();
+    if (!floats || (shift & (controlHeld | altHeld)) != 0) return false;
+    constexpr int step = 1, longStep = 10;
+    const int pixels = (shift & shiftHeld) != 0 ? longStep : step;
+    const auto by = [&](int columns, int rows) {
+        MoveTo(static_cast<float>(main.ClipPic.Left() + columns * pixels),
+               main.ClipPic.Top() + rows * pixels);
+    };
+    switch (code) {
+        case keyLeft:
+            by(-1, 0);
+            return true;
+        case keyRight:
+            by(1, 0);
+            return true;
+        case keyUp:
+            by(0, -1);
+            return true;
+        case keyDown:
+            by(0, 1);
+            return true;
+        case keyReturn:
+            Paste_Click(pasteNormal);
+            return true;
+        case keyEscape:
+            Paste_Click(cancel);
+            return true;
+        default:
+            return false;
+    }
 }
 
 void FloatingClip::HoekKnop_Click() {

@@ -12,10 +12,16 @@ class FloatingClip {
 public:
     explicit FloatingClip(Context& context);
 
+    /// What a key does while an image floats: the arrows move it by a pixel, with Shift by ten, Enter pastes
+    /// as the first entry of the menu does, Escape is the last one. False for other keys, or without an
+    /// image.
+    bool TakesKey(int code, int shift);
+
 private:
     void ClipPic_MouseDown(float x, float y);
     void ClipPic_MouseMove(int button, float x, float y);
     void HoekKnop_Click();
+    void MoveTo(float left, double top);
     void Paste_Click(int index);
 
     /// All but the pixels of the background's colour, row by row before the user's eyes.

@@ -37,6 +37,33 @@ TEST(DecodePicture, ChoosesByTheFirstBytes) {
         EXPECT_FALSE(DecodePicture(AsBytes(text), codecs)) << text;
 }
 
+TEST(DecodePicture, KnowsMoreFormatsOfOtherPrograms) {
+    class WebCodecs final : public PictureCodecs {
+    public:
+        std::optional<Image> DecodeGif(std::span<const std::uint8_t>) const override { return {}; }
+        std::optional<Image> DecodeJpeg(std::span<const std::uint8_t>) const override { return {}; }
+        std::optional<Image> DecodePng(std::span<const std::uint8_t>) const override {
+            return Filled(3, white);
+        }
+        std::optional<Image> DecodeWebp(std::span<const std::uint8_t>) const override {
+            return Filled(4, white);
+        }
+        std::optional<Bytes> EncodeJpeg(const Image&, int) const override { return {}; }
+    };
+    using namespace std::string_view_literals;
+    const WebCodecs codecs;
+    const auto png = AsBytes("\x89PNG\r\n\x1A\n..."sv), webp = AsBytes("RIFF\x04\0\0\0WEBPVP8 "sv);
+    EXPECT_EQ(DecodeOfferedPicture(png, codecs), Filled(3, white));
+    EXPECT_EQ(DecodeOfferedPicture(webp, codecs), Filled(4, white));
+    EXPECT_EQ(DecodeOfferedPicture(AsBytes(FileOf(Filled(5, white))), codecs), Filled(5, white));
+    EXPECT_FALSE(DecodePicture(png, codecs));
+    for (const auto text : {"RIFF\x04\0\0\0WAVE"sv, "RIFF"sv, "RIFF\x04\0\0\0WEB"sv, "\x89PNG"sv, ""sv})
+        EXPECT_FALSE(DecodeOfferedPicture(AsBytes(text), codecs)) << text;
+    // Codecs that know neither.
+    EXPECT_FALSE(DecodeOfferedPicture(png, TellingCodecs()));
+    EXPECT_FALSE(DecodeOfferedPicture(webp, TellingCodecs()));
+}
+
 TEST(LoadPicture, DoesNotHeedTheExtension) {
     const TemporaryFolder folder;
     const TellingCodecs codecs;
