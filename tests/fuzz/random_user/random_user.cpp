@@ -42,6 +42,9 @@ std::vector<std::string> FirstLines() {
             WriteFileLine("Images/cut.bmp", Bytes(bitmap.begin(), bitmap.begin() + 99)),
             WriteFileLine("Images/small.gif",
                           GifBytes{.width = 3, .height = 3, .frames = {{0, 0, 3, 3, indices}}}.File()),
+            "copy-file Images/bitmap.bmp @out/Pictures/bitmap.bmp",
+            "copy-file Images/cut.bmp @out/Pictures/cut.bmp",
+            "copy-file Images/small.gif @out/Pictures/deeper/small.gif",
             "expect Program.Ended false"};
 }
 

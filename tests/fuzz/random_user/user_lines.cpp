@@ -147,7 +147,29 @@ std::string Key(const Chance& chance) {
     const std::string address = toForm ? std::string(chance.Front().Name()) : FullNameOf(*control);
     const std::string code =
         chance.dice.OneIn(16) ? AnyWhole(chance.dice) : std::to_string(chance.dice.Pick(keys));
-    return chance.dice.Pick(commands) + address + " " + code;
+    constexpr const char* modifiers[] = {" shift", " ctrl", " ctrl+shift", " alt"};
+    const std::string held = chance.dice.OneIn(4) ? chance.dice.Pick(modifiers) : "";
+    return chance.dice.Pick(commands) + address + " " + code + held;
+}
+
+/// The pictures that the user has put in place, and what is none.
+constexpr const char* offeredFiles[] = {"Images/bitmap.bmp", "Images/cut.bmp", "Images/small.gif",
+                                        "Data/About.inf",    "Images",         "missing.png"};
+
+std::string DropFiles(const Chance& chance) {
+    std::string line = "drop Main";
+    for (std::size_t i = 0; i <= chance.dice.Below(3); ++i)
+        line += std::string(" ") + chance.dice.Pick(offeredFiles);
+    return line;
+}
+
+std::string FillClipboard(const Chance& chance) {
+    if (chance.dice.OneIn(2)) return std::string("clipboard-path ") + chance.dice.Pick(offeredFiles);
+    return chance.dice.OneIn(2) ? "clipboard Images/bitmap.bmp" : "clipboard Images/cut.bmp";
+}
+
+std::string PasteFromClipboard(const Chance& chance) {
+    return "key " + std::string(chance.Front().Name()) + " 86 ctrl";
 }
 
 std::string Type(const Chance& chance) {
@@ -203,9 +225,12 @@ std::string Close(const Chance& chance) {
 }
 
 constexpr WeightedMaker makers[] = {
-    {20, GoOn}, {12, ClickButton}, {10, ChooseEntry}, {8, Press}, {8, Drag},
-    {6, Hover}, {5, Key},          {4, Click},        {4, Slide}, {4, PickRow},
-    {3, Type},  {3, Tick},         {2, PutPointer},   {2, Focus}, {1, Close},
+    {20, GoOn},      {12, ClickButton},  {10, ChooseEntry},
+    {8, Press},      {8, Drag},          {6, Hover},
+    {5, Key},        {4, Click},         {4, Slide},
+    {4, PickRow},    {3, Type},          {3, Tick},
+    {2, PutPointer}, {2, Focus},         {1, Close},
+    {2, DropFiles},  {1, FillClipboard}, {2, PasteFromClipboard},
 };
 
 }  // namespace
