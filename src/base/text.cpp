@@ -1,5 +1,7 @@
 #include "base/text.h"
 
+#include "base/order_key.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -171,6 +173,16 @@ std::u32string BaseLetters(std::string_view utf8) {
     return letters;
 }
 
+/// Bytes that stand in the order of the numbers they are of, also where some take one and others three.
+void AppendInOrder(std::string& bytes, char32_t number) {
+    constexpr char32_t firstOfThree = 0x80;
+    if (number >= firstOfThree) {
+        bytes += static_cast<char>(firstOfThree | number >> 16);
+        bytes += static_cast<char>(number >> 8 & 0xFF);
+    }
+    bytes += static_cast<char>(number & 0xFF);
+}
+
 }  // namespace
 
 std::string FromCodePage(std::string_view bytes) {
@@ -249,17 +261,24 @@ std::string LowerCase(std::string_view utf8) {
     return lower;
 }
 
+std::string OrderKey(std::string_view utf8) {
+    // The base letters rule, then accents, then case: each is looked at where all before it are the same.
+    std::string key;
+    key.reserve(3 * utf8.size() + 2);
+    for (const char32_t letter : BaseLetters(utf8))
+        AppendInOrder(key, letter);
+    key += '\0';
+    key += LowerCase(utf8);
+    key += '\0';
+    return key.append(utf8);
+}
+
 bool ComesBefore(std::string_view a, std::string_view b) {
-    if (IsAscii(a) && IsAscii(b)) {
-        const auto letterBefore = [](char x, char y) { return LowerAscii(x) < LowerAscii(y); };
-        if (std::ranges::lexicographical_compare(a, b, letterBefore)) return true;
-        if (std::ranges::lexicographical_compare(b, a, letterBefore)) return false;
-        return a < b;
-    }
-    const std::u32string baseA = BaseLetters(a), baseB = BaseLetters(b);
-    if (baseA != baseB) return baseA < baseB;
-    const std::string lowerA = LowerCase(a), lowerB = LowerCase(b);
-    return lowerA != lowerB ? lowerA < lowerB : a < b;
+    if (!IsAscii(a) || !IsAscii(b)) return OrderKey(a) < OrderKey(b);
+    const auto letterBefore = [](char x, char y) { return LowerAscii(x) < LowerAscii(y); };
+    if (std::ranges::lexicographical_compare(a, b, letterBefore)) return true;
+    if (std::ranges::lexicographical_compare(b, a, letterBefore)) return false;
+    return a < b;
 }
 
 std::string_view FirstLine(std::string_view utf8) {
