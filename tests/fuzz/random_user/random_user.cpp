@@ -38,7 +38,8 @@ std::vector<std::string> FirstLines() {
     std::iota(pixels.begin(), pixels.end(), std::uint8_t{0});
     const Bytes bitmap = BmpBytes{.width = 48, .height = 31, .bits = 24, .pixels = pixels}.File();
     const std::vector<std::uint8_t> indices{0, 1, 2, 3, 3, 2, 1, 0, 1};
-    return {"delete-folder Images", WriteFileLine("Images/bitmap.bmp", bitmap),
+    return {"delete-folder Images",
+            WriteFileLine("Images/bitmap.bmp", bitmap),
             WriteFileLine("Images/cut.bmp", Bytes(bitmap.begin(), bitmap.begin() + 99)),
             WriteFileLine("Images/small.gif",
                           GifBytes{.width = 3, .height = 3, .frames = {{0, 0, 3, 3, indices}}}.File()),
