@@ -19,11 +19,11 @@ class ClipartForm : public Form {
 public:
     explicit ClipartForm(Context& context);
 
-    FileListBox File1{*this, "File1"};         ///< Reads the library; hidden.
-    PictureBox BackPic{*this, "BackPic"};      ///< The picture of the chosen file; hidden.
-    PictureBox ExportPic{*this, "ExportPic"};  ///< The chosen clipart, at full size; hidden.
-    Label Label6{*this, "Label6"};             ///< What to do here.
-    Label Label4{*this, "Label4"};
+    FileListBox File1{*this, "File1"};                  ///< Reads the library; hidden.
+    PictureBox BackPic{*this, "BackPic"};               ///< The picture of the chosen file; hidden.
+    PictureBox ExportPic{*this, "ExportPic"};           ///< The chosen clipart, at full size; hidden.
+    Label Label6{*this, "Label6"};                      ///< What to do here.
+    Label Label4{*this, "Label4"};                      ///< What Combo1 is for.
     ComboBox Combo1{*this, "Combo1"};                   ///< The sheets, by the names of their files.
     Label Label5{*this, "Label5"};                      ///< How many cliparts there are.
     ControlArray<Shape> Shape1{*this, "Shape1", 0, 2};  ///< Edges of the pictures.
@@ -31,10 +31,10 @@ public:
     PictureBox BigPic{*this, "BigPic"};                 ///< What will be handed over.
     ScrollBar VScroll2{*this, "VScroll2", Orientation::Vertical};  ///< Its width in pixels.
     Label Label9{*this, "Label9"};                                 ///< Its size.
-    VistaButton BWKnop{*this, "BWKnop"};
-    Label Label2{*this, "Label2"};
-    VistaButton HorKnop{*this, "HorKnop"};
-    Label Label7{*this, "Label7"};
+    VistaButton BWKnop{*this, "BWKnop"};                           ///< Wipes all but black.
+    Label Label2{*this, "Label2"};                                 ///< What BWKnop does.
+    VistaButton HorKnop{*this, "HorKnop"};                         ///< Left for right.
+    Label Label7{*this, "Label7"};                                 ///< What HorKnop does.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -37,11 +37,12 @@ public:
     PictureBox ClipPic{*this, "ClipPic"};     ///< What was cut out; hidden.
     PictureBox Pic{*this, "Pic"};             ///< The viewport: what is seen of it, and exported.
     Shape Layer{Pic, "Layer"};                ///< The box to be cut out.
+    // Where the viewport is on the picture.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};
     ScrollBar VScroll1{*this, "VScroll1", Orientation::Vertical};
-    Label Label4{*this, "Label4"};  ///< What to do here; then the picked file.
-    Label Label5{*this, "Label5"};  ///< Its sizes, or those of the box.
-    VistaButton HoekKnop{*this, "HoekKnop"};
+    Label Label4{*this, "Label4"};            ///< What to do here; then the picked file.
+    Label Label5{*this, "Label5"};            ///< Its sizes, or those of the box.
+    VistaButton HoekKnop{*this, "HoekKnop"};  ///< Stretches the picture over the viewport.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
 

@@ -28,13 +28,13 @@ public:
     PictureBox BackPic{*this, "BackPic"};  ///< The strip; hidden.
     Label Label3{*this, "Label3"};         ///< The panel behind the choice of the font.
     ComboBox Combo1{*this, "Combo1"};      ///< The fonts, by the names of their files.
-    VistaButton InstalKnop{*this, "InstalKnop"};
-    Label Label1{*this, "Label1"};
-    ComboBox Combo2{*this, "Combo2"};  ///< Size of the symbols in points.
-    Label Label4{*this, "Label4"};     ///< The panel behind the strip.
-    Shape Shape1{*this, "Shape1"};     ///< Edge of the picture.
-    PictureBox Pic{*this, "Pic"};      ///< The part of the strip that the slider is at.
-    Shape Layer{Pic, "Layer"};         ///< The box around what will be handed over.
+    VistaButton InstalKnop{*this, "InstalKnop"};  ///< Shows the chosen font.
+    Label Label1{*this, "Label1"};                ///< What Combo2 is for.
+    ComboBox Combo2{*this, "Combo2"};             ///< Size of the symbols in points.
+    Label Label4{*this, "Label4"};                ///< The panel behind the strip.
+    Shape Shape1{*this, "Shape1"};                ///< Edge of the picture.
+    PictureBox Pic{*this, "Pic"};                 ///< The part of the strip that the slider is at.
+    Shape Layer{Pic, "Layer"};                    ///< The box around what will be handed over.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< The strip's first column on show.
     VistaButton ExportKnop{*this, "ExportKnop"};
     VistaButton CancelKnop{*this, "CancelKnop"};
