@@ -27,7 +27,9 @@ constexpr int cliparts = 5;
 constexpr int clipartWidth = 330, clipartHeight = 360;
 constexpr int sheetWidth = cliparts * clipartWidth, sheetHeight = clipartHeight;
 constexpr Rectangle wholeSheet{0, 0, sheetWidth, sheetHeight};
-constexpr Rectangle thumbnails{0, 0, sheetWidth / 3.0, sheetHeight / 3.0};
+constexpr int thumbnailWidth = clipartWidth / 3, thumbnailHeight = clipartHeight / 3;
+constexpr int shownWidth = cliparts * thumbnailWidth, shownHeight = thumbnailHeight;
+constexpr Rectangle thumbnails{0, 0, shownWidth, shownHeight};
 constexpr Rectangle wholeClipart{0, 0, clipartWidth, clipartHeight};
 
 /// Height of a clipart for each pixel of its width.
@@ -35,11 +37,12 @@ constexpr double proportion = 1.09;
 
 /// The clipart of the sheet that a press on the thumbnails hits, from 0: the first one between them, too.
 int ClipartAt(float x, float y) {
-    constexpr float thumbnailWidth = clipartWidth / 3, thumbnailHeight = clipartHeight / 3, inset = 5;
+    constexpr int inset = 5;
     if (y > inset && y < thumbnailHeight - inset) {
         for (int i = 0; i < cliparts; ++i) {
-            const float left = static_cast<float>(i) * thumbnailWidth;
-            if (x > left + inset && x < left + thumbnailWidth - inset) return i;
+            const int left = i * thumbnailWidth;
+            if (x > static_cast<float>(left + inset) && x < static_cast<float>(left + thumbnailWidth - inset))
+                return i;
         }
     }
     return 0;
