@@ -5,7 +5,7 @@
     assets/make.py borders      one kind
     assets/make.py --sheets DIR borders    also overview pictures to look at, into DIR
 
-The tools that it needs are installed by `dev/setup.sh assets`. Run it after a change and commit what it
+The tools that it needs are installed by `dev/setup.sh assets`; the designs are drawn by the built program (release). Run it after a change and commit what it
 writes: the build takes the files as they are and needs none of these tools. The same sources give the same
 bytes.
 """
@@ -21,7 +21,8 @@ DATA = ASSETS.parent / "data"
 # Each is a module assets/<name>/make.py with
 #     make(data)              writes its files into the folder of the data
 #     sheets(data, folder)    renders what it wrote into overview pictures
-KINDS = ["backs", "borders", "cliparts", "fonts", "forms", "glitter", "help", "images"]
+# In this order: designs are made of the others, and the manuals show them.
+KINDS = ["backs", "borders", "cliparts", "fonts", "forms", "glitter", "images", "designs", "help"]
 
 
 def main():

@@ -8,6 +8,8 @@ player=$1 data=$2 script=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp -R "$data" "$work/application"
+# Scripts begin with an empty store, whatever is delivered in it.
+rm -rf "$work/application/Ontwerpen"
 mkdir -p "$work/application/Ontwerpen" "$work/application/Collection"
 
 status=0

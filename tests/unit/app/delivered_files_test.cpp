@@ -348,6 +348,32 @@ TEST(DeliveredHelp, HasADocumentForEveryEntryOfTheMenu) {
     EXPECT_EQ(page.find("http"), std::string::npos) << "it can be read without a network";
 }
 
+TEST(DeliveredDesigns, AreFinishedAndHaveNotes) {
+    constexpr int width = 700, rows = 10, firstRow = 70, rowHeight = 25, swatch = 30;
+    const auto files = ListFiles(data / "Ontwerpen", "*.pat");
+    EXPECT_GE(files.size(), 8U);
+    for (const std::string& file : files) {
+        SCOPED_TRACE(file);
+        const Image picture = Load(data / "Ontwerpen" / file);
+        ASSERT_EQ(picture.Width(), width);
+        ASSERT_EQ(picture.Height(), canvas);
+        // The corners lie outside the tag, its edge carries a border, and the middle is coloured.
+        EXPECT_EQ(picture.At(0, 0), white);
+        EXPECT_EQ(picture.At(canvas - 1, canvas - 1), white);
+        EXPECT_NE(picture.At(canvas / 2, 13), white);
+        EXPECT_NE(picture.At(canvas / 2, canvas - 13), white);
+        // At least three rows of the side panel have a colour; grey stands for none.
+        const Colour none = RGB(195, 195, 195);
+        int coloured = 0;
+        for (int row = 0; row < rows; ++row)
+            coloured += picture.At(canvas + swatch, firstRow + row * rowHeight) != none;
+        EXPECT_GE(coloured, 3);
+        const std::string notes = TextOf((data / "Ontwerpen" / file).replace_extension(".txt"));
+        EXPECT_GE(Lines(notes).size(), 4U);
+        EXPECT_TRUE(fs::exists(fs::path(COINLET_DESIGNS) / fs::path(file).replace_extension(".play")));
+    }
+}
+
 TEST(DeliveredData, IsLightEnoughToCarry) {
     constexpr std::uintmax_t most = 25'000'000;
     std::uintmax_t bytes = 0;
