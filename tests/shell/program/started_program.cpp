@@ -52,6 +52,9 @@ StartedProgram::StartedProgram() {
         if (entry.path().filename() == "Coinlet.ini") continue;
         fs::copy(entry.path(), folder / entry.path().filename(), fs::copy_options::recursive);
     }
+    // The store is empty at first, whatever is delivered in it.
+    fs::remove_all(folder / "Ontwerpen");
+    fs::create_directory(folder / "Ontwerpen");
     command = {folder / builtProgram.filename()};
 }
 
