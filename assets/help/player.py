@@ -15,8 +15,10 @@ SETTINGS = "Ivo Kestrell Software ® 2014\r\n" + "-" * 28 + "\r\n{language}\r\n"
 
 
 def fresh_application_folder(folder, language="English"):
-    """A copy of the built program, as it is at its first start but for the language."""
-    shutil.copytree(BUILT_FOLDER, folder, ignore=shutil.ignore_patterns("Coinlet.ini", "coinlet-designer"))
+    """A copy of the built program, as it is at its first start but for the language and an empty store."""
+    left_out = shutil.ignore_patterns("Coinlet.ini", "coinlet-designer", "Ontwerpen")
+    shutil.copytree(BUILT_FOLDER, folder, ignore=left_out)
+    (folder / "Ontwerpen").mkdir()
     (folder / "Coinlet.ini").write_bytes(SETTINGS.format(language=language).encode("cp1252"))
     return folder
 
