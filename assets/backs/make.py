@@ -8,6 +8,7 @@ from backs import give, standard
 from backs.struck import SIDE, struck
 
 COLUMNS = 4
+EXACT = 48  # colours of ivory and black, the ground of all backs
 COLLECTIONS = {1: [(*back, None) for back in standard.BACKS], 2: give.BACKS}
 
 
@@ -17,7 +18,7 @@ def make(data):
         picture = Image.new("RGB", (COLUMNS * SIDE, rows * SIDE), "white")
         for cell, (_, draw, words) in enumerate(backs):
             picture.paste(struck(draw, words), (cell % COLUMNS * SIDE, cell // COLUMNS * SIDE))
-        few_colours(picture).save(data / "Data" / f"Back-{number}.bak", "GIF", optimize=False)
+        few_colours(picture, EXACT).save(data / "Data" / f"Back-{number}.bak", "GIF", optimize=False)
         names = "".join(f"{name}\r\n" for name, *_ in backs)
         (data / "Data" / f"Back-{number}.txt").write_bytes(names.encode("cp1252"))
 

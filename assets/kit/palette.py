@@ -6,15 +6,18 @@ from PIL import Image
 WHITE, BLACK = 255, 254
 
 
-def few_colours(picture):
+def few_colours(picture, exact=0):
     """The picture (RGB) with 256 colours, exact black and white among them; nothing but white
     becomes white. A colour counts by the square root of its pixels, so that a red dot is not given up for one
-    more gray of the large faces."""
+    more gray of the large faces. So many of the most frequent colours stay `exact`, where large faces must keep
+    their hue."""
     colours, place, counts = numpy.unique(numpy.asarray(picture).reshape(-1, 3), axis=0, return_inverse=True,
                                           return_counts=True)
     sample = numpy.repeat(colours, numpy.ceil(numpy.sqrt(counts)).astype(int), axis=0)
     strip = Image.fromarray(sample[None].astype("uint8"))
-    chosen = strip.quantize(BLACK, method=Image.Quantize.MEDIANCUT, kmeans=4).getpalette()[: BLACK * 3]
+    kept = colours[numpy.argsort(-counts, kind="stable")[:exact]].flatten().tolist()
+    chosen = strip.quantize(BLACK - exact, method=Image.Quantize.MEDIANCUT, kmeans=4).getpalette()
+    chosen = kept + chosen[: (BLACK - exact) * 3]
     palette = numpy.array(chosen + [0] * (BLACK * 3 - len(chosen)) + [0, 0, 0, 255, 255, 255]).reshape(256, 3)
     distance = ((colours[:, None].astype(int) - palette[None]) ** 2).sum(axis=2)
     white = (colours == 255).all(axis=1)
