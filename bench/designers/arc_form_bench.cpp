@@ -3,7 +3,7 @@
 
 #include "designers/arc_form.h"
 #include "media/qt_font_engine.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <QGuiApplication>
 
@@ -23,7 +23,7 @@ void StartToolkit() {
     static const QGuiApplication application(count, arguments);
 }
 
-class OpenDesigner : public test::StoreWorld {
+class OpenDesigner : public test::World {
 public:
     explicit OpenDesigner(int mode) {
         StartToolkit();

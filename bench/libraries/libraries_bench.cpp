@@ -4,7 +4,7 @@
 #include "libraries/symbol_form.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <QGuiApplication>
 
@@ -18,7 +18,7 @@ namespace {
 const fs::path data = COINLET_DATA;
 
 /// The dialogs' world with real letters and pictures.
-class Libraries : public test::StoreWorld {
+class Libraries : public test::World {
 public:
     template <class Dialog>
     void Open(const std::function<void(Dialog&)>& doing) {

@@ -9,8 +9,8 @@
 #include "core/main_form.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
+#include "support/world.h"
 #include "unit/app/layout_check.h"
-#include "unit/store/store_world.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designers/arc_form.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -9,7 +9,7 @@
 namespace coinlet::test {
 
 /// The arc designer, open over a white canvas, with a pen of one pixel; and the user's doings in it.
-class ArcWorld : public testing::Test, protected StoreWorld {
+class ArcWorld : public testing::Test, protected World {
 protected:
     ArcWorld() {
         form.Form_Load();

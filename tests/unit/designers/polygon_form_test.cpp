@@ -2,7 +2,7 @@
 #include "designers/polygon_form.h"
 
 #include "designers/polygon_figure.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 namespace coinlet::test {
 namespace {
 
-class PolygonFormTest : public testing::Test, protected StoreWorld {
+class PolygonFormTest : public testing::Test, protected World {
 protected:
     /// Opens the dialog, has the user do that, and closes it if he hasn't.
     void Open(const std::function<void(PolygonForm&)>& doing) {

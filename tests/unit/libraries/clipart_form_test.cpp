@@ -1,7 +1,7 @@
 // Files that are no sheets, and places that can't be.
 #include "libraries/clipart_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ Colour ClipartColour(int clipart) {
     return RGB(50 * clipart, 10, 200);
 }
 
-class ClipartFormTest : public testing::Test, protected StoreWorld {
+class ClipartFormTest : public testing::Test, protected World {
 protected:
     ClipartFormTest() { fs::create_directories(folder / "app/Cliparts"); }
 

@@ -1,7 +1,7 @@
 // What scenarios can't see of the import of pictures: the date of a file, its size, and memory.
 #include "libraries/dialog_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <utime.h>
 
@@ -13,7 +13,7 @@
 namespace coinlet::test {
 namespace {
 
-class DialogFormTest : public testing::Test, protected StoreWorld {
+class DialogFormTest : public testing::Test, protected World {
 protected:
     fs::path InPictures(const std::string& name) const { return folder / "Pictures" / name; }
     void AddPicture(const std::string& name, int width, int height) const {

@@ -1,7 +1,7 @@
 // Places that can't be, and strips of all widths.
 #include "libraries/symbol_form.h"
 
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 constexpr float huge = std::numeric_limits<float>::infinity();
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
-class SymbolFormTest : public testing::Test, protected StoreWorld {
+class SymbolFormTest : public testing::Test, protected World {
 protected:
     /// Opens the dialog, has the user do that, and closes it if he hasn't.
     void Open(const std::function<void(SymbolForm&)>& doing) {

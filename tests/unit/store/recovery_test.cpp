@@ -4,8 +4,8 @@
 
 #include "core/language.h"
 #include "store/save_form.h"
+#include "support/world.h"
 #include "surface/codecs.h"
-#include "unit/store/store_world.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -57,7 +57,7 @@ protected:
     }
     std::vector<std::string> Designs() const { return ListFiles(world.folder / "app/Ontwerpen", "*"); }
 
-    test::StoreWorld world;
+    test::World world;
     fs::path folder = world.folder / "state";
     std::unique_ptr<Recovery> recovery = std::make_unique<Recovery>(world.context, folder);
 };

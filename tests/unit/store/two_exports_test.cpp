@@ -1,7 +1,7 @@
 // Two programs in one folder export at the same time, with one name for their scratch files: every export is
 // there with its own picture, or its user knows that it failed.
 #include "store/save_form.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <unistd.h>
 
@@ -12,7 +12,7 @@
 namespace coinlet::test {
 namespace {
 
-class TwoExports : public testing::Test, protected StoreWorld {
+class TwoExports : public testing::Test, protected World {
 protected:
     /// Exports canvases of that colour. The number of those that are neither there nor were told to have
     /// failed.

@@ -1,7 +1,0 @@
-#pragma once
-
-#include "support/world.h"
-
-namespace coinlet::test {
-using StoreWorld = World;
-}  // namespace coinlet::test
