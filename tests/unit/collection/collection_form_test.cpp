@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -46,16 +47,18 @@ protected:
 };
 
 TEST_F(CollectionFormTest, DoesNotReplaceACatalogueThatItCouldNotRead) {
-    const std::string huge(2'000'000, '7');
-    folder.Write(catalogue, huge);
+    constexpr std::uintmax_t tooLarge = 64'000'001;
+    folder.Write(catalogue, "\"7\"\r\n");
+    fs::resize_file(folder / catalogue, tooLarge);
     Add("new");
-    EXPECT_EQ(folder.Read(catalogue), huge);
+    EXPECT_EQ(fs::file_size(folder / catalogue), tooLarge);
+    EXPECT_EQ(platform.messages.size(), 1U);
 
     fs::remove(folder / catalogue);
     ASSERT_EQ(::mkfifo((folder / catalogue).c_str(), 0600), 0);
     Add("new");
     EXPECT_TRUE(fs::is_fifo(folder / catalogue));
-    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(platform.messages.size(), 2U);
 }
 
 TEST_F(CollectionFormTest, WritesThroughALink) {

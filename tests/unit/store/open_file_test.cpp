@@ -114,14 +114,17 @@ TEST_F(OpenFileTest, TellsNamesApartThatDifferInTheExtensionOnly) {
     StoreDesign("a.pat", red);
     Open([&](OpenFile& dialog) {
         ASSERT_EQ(dialog.List1.ListCount(), 2);
-        // The usual extension goes first, whichever row is chosen; the other follows once that is gone.
+        // Each row is a file of its own; capitals stand first.
         dialog.List1.UserPicks(0);
+        EXPECT_EQ(dialog.BackPic.surface.Point(0, 0), RGB(1, 2, 3));
+        dialog.List1.UserPicks(1);
         EXPECT_EQ(dialog.BackPic.surface.Point(0, 0), red);
         platform.answers.push_back(Answer::Yes);
         dialog.DelKnop.Click();
         EXPECT_FALSE(fs::exists(InStore("a.pat")));
         dialog.List1.UserPicks(0);
         EXPECT_EQ(dialog.BackPic.surface.Point(0, 0), RGB(1, 2, 3));
+        EXPECT_TRUE(fs::exists(InStore("a.PAT")));
     });
 }
 

@@ -215,15 +215,5 @@ TEST_F(PrintJobs, ClipartsThatAreNotWantedStartNoJob) {
     EXPECT_EQ(paper.jobs, 0);
 }
 
-TEST_F(PrintJobs, EndOfTheProgramEndsTheJob) {
-    for (int i = 0; i < 3; ++i)
-        StorePicture("Cliparts/" + Numbered(i) + ".art", black);
-    platform.answers = {Answer::Yes};
-    platform.whenServing = [this] { platform.End(); };
-    EXPECT_FALSE(platform.Do([this] { PrintAllCliparts(there, form.File1, form.Picture2.surface); }));
-    EXPECT_EQ(paper.jobs, 1);
-    EXPECT_EQ(paper.sheets.at(0).pictures.size(), 1U);
-}
-
 }  // namespace
 }  // namespace coinlet::test
