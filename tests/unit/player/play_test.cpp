@@ -269,7 +269,7 @@ TEST_F(Play, UnknownNamesAreToldApart) {
 TEST_F(Play, MisuseIsToldWithItsLine) {
     Fails("\n# a comment\nklick Main.Pic\n", "3: no such command: klick");
     Fails("click\n", "1: click takes ADDR, found 0 words");
-    Fails("press Main.Pic 1 2\n", "1: press takes ADDR BUTTON X Y, found 3 words");
+    Fails("press Main.Pic 1 2\n", "1: press takes ADDR BUTTON X Y [MODIFIERS], found 3 words");
     Fails("restart now\n", "1: restart takes no words, found 1 word");
     Fails("press Main.Pic 1 2 three\n", "1: no number: \"three\"");
     Fails("set Main.Caption \"open\n", "1: a quote isn't closed");
