@@ -3,7 +3,7 @@
 
 #include "libraries/dialog_form.h"
 #include "media/media_codecs.h"
-#include "unit/store/store_world.h"
+#include "support/world.h"
 
 #include <turbojpeg.h>
 
@@ -42,7 +42,7 @@ Bytes CameraPicture() {
 }
 
 /// The dialog over a folder of the user's.
-class Import : test::StoreWorld {
+class Import : test::World {
 public:
     explicit Import(const std::function<void(const fs::path&)>& fill) {
         fill(folder / "Pictures");

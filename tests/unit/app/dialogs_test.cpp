@@ -71,8 +71,10 @@ protected:
         // The program's own data; what it might write lies in folders of this test.
         fs::create_directories(folder_ / "app/Ontwerpen");
         fs::create_directories(folder_ / "app/Collection");
-        for (const auto& entry : fs::directory_iterator(COINLET_DATA))
-            fs::create_directory_symlink(entry.path(), folder_ / "app" / entry.path().filename());
+        for (const auto& entry : fs::directory_iterator(COINLET_DATA)) {
+            const fs::path link = folder_ / "app" / entry.path().filename();
+            if (!fs::exists(link)) fs::create_directory_symlink(entry.path(), link);
+        }
         program_.Start();
         LoadLanguage(program_.GetContext(), GetParam().language);
     }
