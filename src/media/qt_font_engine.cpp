@@ -179,7 +179,9 @@ TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) co
     if (const TextExtent* known = extents_.Find(key)) return *known;
     const FontFamily family = added_.Find(font.name);
     const QFontMetrics metrics(ToQFont(family, key.font, Edges::Crisp));
-    const TextExtent extent{metrics.horizontalAdvance(Printable(family, key.font, text)), metrics.height()};
+    // A damaged font may have letters that step back, and lines that end above their beginning.
+    const TextExtent extent{std::max(0, metrics.horizontalAdvance(Printable(family, key.font, text))),
+                            std::max(0, metrics.height())};
     extents_.Add(key, extent);
     return extent;
 }

@@ -373,6 +373,22 @@ TEST(QtFontEngine, AddingTheSameFontTakesNoMemory) {
     EXPECT_LT(::mallinfo2().uordblks, before + times * 50) << "bytes";
 }
 
+TEST(QtFontEngine, ALineIsNeverLessThanNothingHigh) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    Bytes file = test::SymbolFont("Coinlet Upside");
+    // The table with the measures of a line is said to begin a byte behind its beginning, so that others are
+    // read for them: the line ends far above its beginning.
+    const Bytes tag{'O', 'S', '/', '2'};
+    const auto entry = std::search(file.begin(), file.end(), tag.begin(), tag.end());
+    ASSERT_NE(entry, file.end());
+    ++entry[11];
+    ASSERT_EQ(fonts.AddFontFile(Write(folder, "f.ttf", file)), "Coinlet Upside");
+    const auto extent = fonts.Measure({.name = "Coinlet Upside", .size = 15}, "A");
+    EXPECT_EQ(extent.height, 0);
+    EXPECT_EQ(extent.width, 20);
+}
+
 TEST(QtFontEngine, AddsNothingThatIsNoFont) {
     const test::TemporaryFolder folder;
     QtFontEngine fonts;
