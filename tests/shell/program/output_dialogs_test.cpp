@@ -67,7 +67,7 @@ TEST_F(ProgramOutput, ClipartsArePrintedOnceTheUserHasAgreed) {
     EXPECT_EQ(screen.TitleOf(Front(1)), "Printing Cliparts");
     Key("Return");
     ASSERT_TRUE(MainIsInFront());
-    EXPECT_EQ(PrintedSheets(), 2);  // The 33 sheets of the library, 18 on a page.
+    EXPECT_EQ(PrintedSheets(), 3);  // The 46 sheets of the library, 18 on a page.
 }
 
 TEST_F(ProgramOutput, CatalogueKeepsWhatIsTyped) {
