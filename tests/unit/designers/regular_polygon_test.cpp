@@ -139,10 +139,10 @@ TEST_F(RegularPolygon, ManySidesAreACircle) {
             EXPECT_NEAR(std::hypot(x - 100, y - 100), 60, 1) << x << ", " << y;
         }
     }
-    for (const double angle : {0.0, 0.7, 2.0, 4.4})
-        EXPECT_EQ(
-            surface.Point(std::round(100 + 60 * std::cos(angle)), std::round(100 + 60 * std::sin(angle))),
-            black);
+    for (const double angle : {0.0, 0.7, 2.0, 4.4}) {
+        const double x = std::round(100 + 60 * std::cos(angle)), y = std::round(100 + 60 * std::sin(angle));
+        EXPECT_EQ(surface.Point(x, y), black) << angle;
+    }
 }
 
 TEST_F(RegularPolygon, MonstrousFiguresAreNoHarm) {
