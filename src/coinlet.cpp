@@ -1,4 +1,5 @@
 #include "app/application.h"
+#include "app/named_document.h"
 #include "launch/application_folder.h"
 #include "launch/command_line.h"
 #include "launch/user_folders.h"
@@ -9,6 +10,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 #include <variant>
 #include <vector>
@@ -55,6 +57,17 @@ int main(int argc, char** argv) {
         .printer = shell.GetPrinter(),
         .screenGrab = shell.GetScreenGrab(),
         .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
+    std::optional<NamedDocument> document;
+    if (line->document) {
+        document = ReadNamedDocument(*line->document, codecs);
+        if (!document) {
+            return Say(
+                {"coinlet-designer: can't read '" + line->document->string() + "'\n", documentUnreadable});
+        }
+    }
     Application application(services);
-    return shell.Run([&] { application.Start(); });
+    return shell.Run([&] {
+        application.Start();
+        if (document) application.Show(*document);
+    });
 }

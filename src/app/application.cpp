@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/dialogs.h"
+#include "app/named_document.h"
 #include "app/start_up.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
@@ -83,6 +84,10 @@ Application::~Application() = default;
 
 void Application::Start() {
     house_->services.platform.ShowMain(house_->main);
+}
+
+void Application::Show(const NamedDocument& document) {
+    ShowNamedDocument(house_->context, house_->incoming, document);
 }
 
 Context& Application::GetContext() {

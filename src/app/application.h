@@ -7,6 +7,7 @@
 namespace coinlet {
 
 class FilterCore;
+struct NamedDocument;
 
 /// The whole program without its windows: builds the forms and the subsystems and binds them to each other.
 class Application {
@@ -16,6 +17,9 @@ public:
 
     /// Starts the program: `Main` is loaded and activated. May throw ProgramEnded.
     void Start();
+
+    /// Begins with a document, once the program has started.
+    void Show(const NamedDocument& document);
 
     Context& GetContext();
     FilterCore& GetFilterCore();

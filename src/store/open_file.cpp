@@ -5,14 +5,11 @@
 #include "core/dialog.h"
 #include "core/language.h"
 #include "core/main_form.h"
-#include "core/main_life.h"
 #include "core/side_panel.h"
 #include "core/text_keys.h"
-#include "core/undo.h"
-#include "store/composed_picture.h"
 #include "store/design_files.h"
-#include "store/info_text.h"
 #include "store/open_file_layout.h"
+#include "store/shown_design.h"
 #include "surface/codecs.h"
 
 #include <string>
@@ -59,23 +56,12 @@ void OpenFile::List1_Click() {
 void OpenFile::OpenChosen() {
     const std::string name = List1.Text();
     const fs::path file = ChosenFile();
-    Session& session = context_.session;
-    session.DesignFile = file.string();
+    context_.session.DesignFile = file.string();
     // A file called ".pat" isn't meant.
     if (List1.ListIndex() < 0) return;
     const auto picture = LoadPicture(file, context_.services.codecs);
     if (!picture) return;
-
-    MainForm& main = context_.main;
-    main.Pic.surface.SetPicture(*picture);
-    KeepForUndo(main);
-    session.DesignName = name;
-    main.Label2.Caption = fileNameCaption + name;
-    session.DesignChanged = false;
-    ShowHint(context_, key::ready);
-    TakeSidePanel(BackPic.surface.Image(), main.InfoPic.surface);
-    ReadInfoTextOf(context_, file);
-    session.StoredDesign = RevisionOf(main);
+    ShowDesign(context_, name, file, *picture, BackPic.surface.Image());
 }
 
 void OpenFile::OkKnop_Click() {

@@ -59,9 +59,9 @@ TEST_F(InstalledProgram, DesignIsFoundAfterTheNextStart) {
     EXPECT_TRUE(IsThere("Ontwerpen"));
 
     Click(form.Knop[0], 20, 14);
-    MoveTo(PlaceOf(form.Pic, 100, 250));
+    MoveTo(PlaceOf(form.Pic, 100, 150));
     Press();
-    MoveTo(PlaceOf(form.Pic, 400, 250));
+    MoveTo(PlaceOf(form.Pic, 400, 150));
     Release();
     Key("ctrl+s");
     EXPECT_EQ(screen.TitleOf(Front()), "Save Coinlet");
@@ -77,6 +77,10 @@ TEST_F(InstalledProgram, DesignIsFoundAfterTheNextStart) {
     command.push_back(application_ / "Ontwerpen/owl.pat");
     Start();
     EXPECT_TRUE(IsThere("Ontwerpen/owl.pat"));
+    EXPECT_TRUE(Comes([&] { return ColourAt(PlaceOf(form.Pic, 250, 150)) == 0xFF000000; }));
+    // Nothing of it is unsaved.
+    CloseBox();
+    EXPECT_TRUE(EndsWell());
 }
 
 }  // namespace

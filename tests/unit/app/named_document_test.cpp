@@ -1,0 +1,58 @@
+// What the program begins with when a file was named: a design from anywhere, or a picture to be placed.
+
+#include "app/named_document.h"
+
+#include "support/world.h"
+#include "surface/codecs.h"
+#include "tools/incoming_pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace coinlet {
+namespace {
+
+constexpr Colour red = RGB(200, 30, 40);
+
+class NamedDocumentTest : public ::testing::Test {
+protected:
+    fs::path Picture(const std::string& name, int width, int height) const {
+        Surface surface(world.fonts, width, height);
+        surface.Line(0, 0, width - 1, height - 1, red, Box::Filled);
+        const fs::path path = world.folder / name;
+        EXPECT_FALSE(SavePicture(surface.Image(), path));
+        return path;
+    }
+    void Begin(const fs::path& file) {
+        const auto document = ReadNamedDocument(file, world.codecs);
+        ASSERT_TRUE(document);
+        ShowNamedDocument(world.context, pictures, *document);
+    }
+
+    test::World world;
+    IncomingPictures pictures{world.context};
+};
+
+TEST_F(NamedDocumentTest, DesignIsShownUnderItsNameAndNothingIsUnsaved) {
+    const fs::path file = Picture("Owl.PAT", 700, 500);
+    world.folder.Write("Owl.txt", "banner\r\nrule\r\na note\r\n");
+    world.session.DesignChanged = true;
+    Begin(file);
+    EXPECT_EQ(world.main.Pic.surface.Point(10, 10), red);
+    EXPECT_EQ(world.main.InfoPic.surface.Point(10, 10), red);
+    EXPECT_EQ(world.session.DesignName, "Owl");
+    EXPECT_EQ(world.main.Label2.Caption, "Filename : Owl");
+    EXPECT_EQ(world.Rows(), std::vector<std::string>{"a note"});
+    EXPECT_FALSE(world.session.DesignChanged);
+    EXPECT_EQ(world.session.StoredDesign, RevisionOf(world.main));
+    EXPECT_EQ(world.StoredFiles(), 0);
+}
+
+TEST_F(NamedDocumentTest, WhatHoldsNoPictureCannotBeRead) {
+    world.folder.Write("note.pat", "no picture");
+    EXPECT_FALSE(ReadNamedDocument(world.folder / "note.pat", world.codecs));
+    EXPECT_FALSE(ReadNamedDocument(world.folder / "nothing.bmp", world.codecs));
+    EXPECT_FALSE(ReadNamedDocument(world.folder.Path(), world.codecs));
+}
+
+}  // namespace
+}  // namespace coinlet
