@@ -13,6 +13,7 @@ installs. What the program can't do yet is told and left out; the manuals then h
 
 import contextlib
 import functools
+import os
 import pathlib
 import shutil
 import sys
@@ -56,7 +57,7 @@ DIALOGS = {
     "save": ("FileSave", []),
     "export": ("FileExport", []),
     "info_text": ("BewerkenInformation", []),
-    "import": ("FileImport", []),
+    "import": ("FileImport", [("key", "Return"), ("key", "Tab", "Down")]),
     "print": ("FilePrint", []),
     "collection": ("ViewMyCollection", [("click", "CollectionForm.List1", 40, 24)]),
     "borders": ("LibraryBorders", [("click", "BorderForm.Option1(3)", 8, 8), ("click", "BorderForm.Check1", 8, 8)]),
@@ -79,6 +80,8 @@ DIALOGS = {
 ON_PAPER = ["arc", "arc_curves"]
 # Those of which a part is enough: its left, top, width and height.
 PARTS = {"arc_curves": (40, 30, 440, 420)}
+HOME = pathlib.Path(tempfile.gettempdir()) / "anna"
+PHOTOS = ["Clouds.jpg", "Drops.jpg", "Galaxy.jpg", "Grass.jpg"]
 COLLECTION = ["CN-0104", "CN-0117", "CN-0230", "HL-2026-01", "HL-2026-02"]
 
 
@@ -293,9 +296,27 @@ def dialogs(camera, names):
     return [(functools.partial(camera.dialog, name), f"dialog_{name}") for name in names]
 
 
+@contextlib.contextmanager
+def a_users_home(folder):
+    """A home with a folder of pictures, so that the import has some to show: one that looks the same whoever
+    takes the pictures."""
+    before = os.environ.get("HOME")
+    shutil.rmtree(HOME, ignore_errors=True)
+    (HOME / "Pictures").mkdir(parents=True)
+    for name in PHOTOS:
+        shutil.copy(folder / "Images" / name, HOME / "Pictures")
+    os.environ["HOME"] = str(HOME)
+    try:
+        yield
+    finally:
+        if before is not None:
+            os.environ["HOME"] = before
+        shutil.rmtree(HOME, ignore_errors=True)
+
+
 def windows(folder, pictures, names):
     """Takes the pictures of the windows. Gives the names of those that can't be taken yet."""
-    with window.screen():
+    with window.screen(), a_users_home(folder):
         with camera_before(folder, pictures, names) as camera:
             camera.open_design()
             take(camera, [
