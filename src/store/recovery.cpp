@@ -53,6 +53,7 @@ Recovery::Recovery(Context& context, fs::path folder)
 
 void Recovery::PutBackLostWork() {
     if (folder_.empty()) return;
+    RemoveStrays(folder_);
     TakeLostSnapshots(folder_, [this](const DesignFiles& design, std::int64_t written) {
         return PutIntoStore(design, written);
     });

@@ -7,8 +7,12 @@
 #include "support/world.h"
 #include "surface/codecs.h"
 
+#include <unistd.h>
+
+#include <csignal>
 #include <gtest/gtest.h>
 #include <memory>
+#include <sys/wait.h>
 
 namespace coinlet {
 namespace {
@@ -190,6 +194,34 @@ TEST_F(RecoveryTest, BrokenSnapshotIsDropped) {
     world.folder.Write("state/design-abc.pat", "half a");
     StartAgain();
     EXPECT_TRUE(Designs().empty());
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(RecoveryTest, HalfWrittenSnapshotOfAKilledProgramGoes) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        class Dying final : public FileCalls {
+        public:
+            int Open(const char* path, int flags, unsigned mode) override {
+                return SystemFileCalls().Open(path, flags, mode);
+            }
+            long Write(int, const void*, std::size_t) override { return ::raise(SIGKILL); }
+            int Flush(int) override { return 0; }
+            int Close(int file) override { return SystemFileCalls().Close(file); }
+            int Rename(const char*, const char*) override { return 0; }
+            int Unlink(const char*) override { return 0; }
+            int FlushFolder(const char*) override { return 0; }
+        } dying;
+        fs::create_directories(folder);
+        static_cast<void>(ReplaceFile(folder / "design-abc.pat", AsBytes("half"), dying));
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_FALSE(fs::is_empty(folder));
+    StartAgain();
     EXPECT_TRUE(fs::is_empty(folder));
 }
 
