@@ -3,6 +3,7 @@
 
 #include "support/temporary_folder.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -46,6 +47,22 @@ TEST(ReadFile, ReadsToTheEndWhateverSizeIsClaimed) {
     const std::string text = Text(ReadFile(claimsToBeEmpty));
     EXPECT_EQ(text.substr(0, 5), "Name:");
     EXPECT_EQ(Text(ReadFile(claimsToBeEmpty, 10)), "(nothing)");
+}
+
+// A desktop may start the program without its three usual files; then the first that is opened is number 0.
+TEST(ReadFile, ClosesWhatItOpenedWhateverItsNumber) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "content");
+    const int kept = ::dup(STDIN_FILENO);
+    ::close(STDIN_FILENO);
+    const std::string text = Text(ReadFile(path));
+    const bool closed = ::fcntl(STDIN_FILENO, F_GETFD) == -1;
+    if (kept != -1) {
+        ::dup2(kept, STDIN_FILENO);
+        ::close(kept);
+    }
+    EXPECT_EQ(text, "content");
+    EXPECT_TRUE(closed);
 }
 
 TEST(ReadFile, GivesNothingForWhatIsNoRegularFile) {

@@ -88,6 +88,18 @@ TEST_F(FieldsTest, ARangeThatTheValueLeavesClampsItAndTells) {
     EXPECT_EQ(log.Take(), Lines{"Bar.Change"});
 }
 
+TEST_F(FieldsTest, ANewRangeTakesTheValueAlong) {
+    form.Bar.SetRange(0, 10);
+    form.Bar.SetValue(7);
+    log.Take();
+    form.Bar.SetRange(5, 9);
+    EXPECT_EQ(form.Bar.Value(), 7);
+    EXPECT_EQ(log.Take(), Lines{});
+    form.Bar.SetRange(20, 30);
+    EXPECT_EQ(form.Bar.Value(), 20);
+    EXPECT_EQ(log.Take(), Lines{"Bar.Change"});
+}
+
 TEST_F(FieldsTest, AMaxBelowMinMakesAnInertBarAtMin) {
     form.Bar.SetRange(1, 9);
     form.Bar.SetValue(5);

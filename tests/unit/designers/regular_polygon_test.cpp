@@ -57,6 +57,13 @@ TEST_F(RegularPolygon, PointsTurnClockwiseOnTheScreen) {
     EXPECT_NEAR(left.place.x, 30, 1e-2);
 }
 
+TEST_F(RegularPolygon, PointsBesideTheCentreTurnAsOthersDo) {
+    const TurnedPoint down = RPoint(static_cast<float>(pi / 2), {7, 5}, {8, 5}, 1);
+    EXPECT_NEAR(down.place.x, 7, 1e-4);
+    EXPECT_NEAR(down.place.y, 6, 1e-4);
+    EXPECT_EQ(down.radius, 1);
+}
+
 TEST_F(RegularPolygon, PointsOnTheCentreStay) {
     const TurnedPoint stays = RPoint(1, {12, 34}, {12, 34}, 2);
     EXPECT_EQ(stays.place, (PlanePoint{12, 34}));

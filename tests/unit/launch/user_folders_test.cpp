@@ -74,6 +74,15 @@ TEST_F(PictureFolder, IsMadeWhereTheDesktopNamesOthersOnly) {
     EXPECT_TRUE(IsMade());
 }
 
+TEST_F(PictureFolder, ListOfMoreThanAMebibyteIsNone) {
+    const std::string named = "XDG_PICTURES_DIR=\"$HOME/Afbeeldingen\"\n";
+    const std::string filled = named + "#" + std::string((1U << 20) - named.size() - 1, '-');
+    WriteUserDirs(".config", filled);
+    EXPECT_FALSE(IsMade());
+    WriteUserDirs(".config", filled + "-");
+    EXPECT_TRUE(IsMade());
+}
+
 TEST_F(PictureFolder, IsNotMadeWhereTheDesktopNamesOne) {
     WriteUserDirs(".config", "XDG_MUSIC_DIR=\"$HOME/Muziek\"\n  XDG_PICTURES_DIR=\"$HOME/Afbeeldingen\"\n");
     EXPECT_FALSE(IsMade());

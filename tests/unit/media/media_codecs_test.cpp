@@ -74,6 +74,7 @@ TEST(MediaCodecs, RefuseDamagedAndHugePngs) {
     EXPECT_FALSE(codecs.DecodePng(std::span(bytes).first(20)));
     EXPECT_FALSE(codecs.DecodePng({}));
     EXPECT_FALSE(codecs.DecodePng(AsBytes("GIF89a")));
+    EXPECT_FALSE(codecs.DecodePng(Saved(picture, "bmp")));
     // A header that claims 60,000 by 60,000 pixels.
     constexpr std::size_t widthPlace = 16;
     for (const std::size_t side : {widthPlace, widthPlace + 4}) {

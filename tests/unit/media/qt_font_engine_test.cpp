@@ -389,6 +389,17 @@ TEST(QtFontEngine, ALineIsNeverLessThanNothingHigh) {
     EXPECT_EQ(extent.width, 20);
 }
 
+TEST(QtFontEngine, AddsNoFontOfMoreThan128Mebibytes) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    const FontSpec font{.name = "Coinlet Long Font", .size = 15};
+    const auto path = Write(folder, "long.ttf", test::SymbolFont(font.name));
+    fs::resize_file(path, (std::uintmax_t{128} << 20) + 1);
+    EXPECT_EQ(fonts.AddFontFile(path), "");
+    fs::resize_file(path, std::uintmax_t{1} << 20);
+    EXPECT_EQ(fonts.AddFontFile(path), font.name);
+}
+
 TEST(QtFontEngine, AddsNothingThatIsNoFont) {
     const test::TemporaryFolder folder;
     QtFontEngine fonts;

@@ -87,6 +87,16 @@ TEST(LoadPicture, GivesNothingForWhatIsNoPicture) {
     }
 }
 
+TEST(LoadPicture, LeavesAloneWhatIsLargerThanAnyPicture) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("picture.bmp", FileOf(Filled(2, 0x123456)));
+    // 256 mebibytes of pixels and one for headers; what was never written takes no room on the disk.
+    fs::resize_file(path, (std::uintmax_t{257} << 20) + 1);
+    EXPECT_FALSE(LoadPicture(path, TellingCodecs()));
+    fs::resize_file(path, std::uintmax_t{1} << 20);
+    EXPECT_EQ(LoadPicture(path, TellingCodecs()), Filled(2, 0x123456));
+}
+
 TEST(SavePicture, WritesWhatLoadPictureReads) {
     const TemporaryFolder folder;
     const Image image = Filled(7, 0xABCDEF);
