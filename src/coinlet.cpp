@@ -8,6 +8,7 @@
 #include "media/system_clock.h"
 #include "shell/shell.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -31,6 +32,9 @@ int Say(const Notice& notice) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A file that may grow no further and a reader that is gone are failed writes, and no reason to die.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
     // Help is for those without a screen too; what else stands there, the toolkit reads first.
     const auto first = ReadArguments(argc, argv);
     if (const auto* notice = std::get_if<Notice>(&first); notice && notice->status == 0) return Say(*notice);
@@ -38,11 +42,21 @@ int main(int argc, char** argv) {
     const auto arguments = ReadArguments(argc, argv);
     if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
     const auto* line = std::get_if<CommandLine>(&arguments);
+    // What can't be read is said before anything is made.
+    const MediaCodecs codecs;
+    std::optional<NamedDocument> document;
+    if (line->document) {
+        document = ReadNamedDocument(*line->document, codecs);
+        if (!document) {
+            return Say(
+                {"coinlet-designer: can't read '" + line->document->string() + "'\n", documentUnreadable});
+        }
+    }
+
     // Exports and printed files go there.
     MakePictureFolder(std::getenv);
 
     QtFontEngine fonts;
-    const MediaCodecs codecs;
     const SystemClock clock;
     const Services services{
         .applicationFolder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
@@ -57,17 +71,11 @@ int main(int argc, char** argv) {
         .printer = shell.GetPrinter(),
         .screenGrab = shell.GetScreenGrab(),
         .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
-    std::optional<NamedDocument> document;
-    if (line->document) {
-        document = ReadNamedDocument(*line->document, codecs);
-        if (!document) {
-            return Say(
-                {"coinlet-designer: can't read '" + line->document->string() + "'\n", documentUnreadable});
-        }
-    }
     Application application(services);
-    return shell.Run([&] {
-        application.Start();
-        if (document) application.Show(*document);
-    });
+    return shell.Run(
+        [&] {
+            application.Start();
+            if (document) application.Show(*document);
+        },
+        {.isNear = [&] { application.PrepareForEnd(); }, .isHere = [&] { application.SettleForEnd(); }});
 }

@@ -146,5 +146,5 @@ int main(int argc, char** argv) {
         }
         QCoreApplication::exit();
     });
-    return shell.Run([&] { application.Start(); });
+    return shell.Run([&] { application.Start(); }, {.isNear = [] {}, .isHere = [] {}});
 }

@@ -7,6 +7,7 @@
 #include "core/main_form.h"
 #include "core/main_life.h"
 #include "core/plaatjes.h"
+#include "core/settings.h"
 #include "core/tool_codes.h"
 #include "filters/filter_core.h"
 #include "filters/filter_menu.h"
@@ -88,6 +89,16 @@ void Application::Start() {
 
 void Application::Show(const NamedDocument& document) {
     ShowNamedDocument(house_->context, house_->incoming, document);
+}
+
+void Application::PrepareForEnd() {
+    house_->recovery.WriteNow();
+}
+
+void Application::SettleForEnd() {
+    // The work comes first, for there may be no time for more.
+    house_->recovery.KeepForNextStart();
+    static_cast<void>(WriteLanguageSetting(house_->services.applicationFolder, house_->session.LanguageName));
 }
 
 Context& Application::GetContext() {

@@ -21,6 +21,14 @@ public:
     /// Begins with a document, once the program has started.
     void Show(const NamedDocument& document);
 
+    /// For an end that the user didn't choose here. Both ask nothing and serve no events.
+    /// It may be near, as that of the session is, which somebody may still stop: unsaved work is kept as it
+    /// is at this moment.
+    void PrepareForEnd();
+    /// It is here: the settings are written, and unsaved work waits for the next start. After it the program
+    /// is to be ended.
+    void SettleForEnd();
+
     Context& GetContext();
     FilterCore& GetFilterCore();
 

@@ -13,6 +13,16 @@
 
 namespace coinlet {
 
+/// A fault in a handler, an index outside an array or no memory for a picture, ends that handler and no more:
+/// the user keeps the program, and the design in it.
+template <std::invocable Handler>
+void EndAtFault(Handler& handler) {
+    try {
+        handler();
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): nobody is told.
+    }
+}
+
 /// The one door through which the toolkit's events enter the program. Behind it handlers run; no exception
 /// passes it on the way back, for the toolkit's own frames can't be unwound; and after every event the
 /// windows are made equal to the forms.
@@ -60,16 +70,6 @@ public:
     }
 
 private:
-    /// A fault in a handler, an index outside an array or no memory for a picture, ends that handler and no
-    /// more: the user keeps the program, and the design in it.
-    template <std::invocable Handler>
-    static void EndAtFault(Handler& handler) {
-        try {
-            handler();
-        } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): nobody is told.
-        }
-    }
-
     void EndRetired() {
         for (const auto& object : std::exchange(retired_, {}))
             if (object) object->deleteLater();

@@ -60,6 +60,14 @@ void QtPlatform::Run(const std::function<void()>& start) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+bool QtPlatform::Leave(const std::function<void()>& farewell) {
+    gate_.Enter([&] {
+        EndAtFault(farewell);
+        End();
+    });
+    return Ended();
+}
+
 void QtPlatform::ReadScreen() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
@@ -111,7 +119,7 @@ void QtPlatform::FormUnloaded(Form& form) {
     gate_.Quietly([&] { window->Detach(); });
     for (const ModalLoop& modal : loops_)
         if (modal.dialog == &form) modal.loop->quit();
-    if (windows_.empty()) QCoreApplication::quit();
+    if (windows_.empty()) QCoreApplication::exit();
 }
 
 void QtPlatform::RunModal(Form& dialog) {

@@ -31,6 +31,10 @@ public:
     /// left. After it no window is left either.
     void Run(const std::function<void()>& start);
 
+    /// Ends the program from outside of its handlers, whatever they are doing: `farewell` is called first,
+    /// once. True when it has ended; while the windows are being made equal to the forms, nothing happens.
+    bool Leave(const std::function<void()>& farewell);
+
     void PopupMenu(MenuItem& menu) override;
     bool IsPointerOver(const Control& control) const override;
     void ShowPointer() override { MirrorHourglass(); }

@@ -1,5 +1,6 @@
 #include "shell/shell.h"
 
+#include "shell/ending_signals.h"
 #include "shell/look.h"
 #include "shell/qt_clipboard.h"
 #include "shell/qt_desktop.h"
@@ -9,20 +10,38 @@
 #include "shell/qt_text.h"
 
 #include <QApplication>
+#include <QSessionManager>
 
 #include <clocale>
+#include <cstdlib>
+#include <utility>
 
 namespace coinlet {
 
 namespace {
 
+/// The toolkit's own, but for its end: nobody asks the windows whether they may close.
+class ToolkitApplication : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    /// What the session's end means.
+    std::function<void()> quitAsked;
+
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Quit || !quitAsked) return QApplication::event(event);
+        quitAsked();
+        return true;
+    }
+};
+
 /// The toolkit is told how to behave before it starts.
-QApplication* MakeApplication(int& argc, char** argv) {
+ToolkitApplication* MakeApplication(int& argc, char** argv) {
     PrepareToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Coinlet Designer"));
     // Desktops find the icon and the name of a window by it; it is the name of the installed desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("coinlet-designer"));
-    auto* application = new QApplication(argc, argv);
+    auto* application = new ToolkitApplication(argc, argv);
     // Numbers in files have a point whatever the desktop's language.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setQuitOnLastWindowClosed(false);
@@ -30,12 +49,30 @@ QApplication* MakeApplication(int& argc, char** argv) {
     return application;
 }
 
+/// While it lives, a call of exit() amidst the events ends with a farewell. The toolkit calls it where its
+/// screen is gone: the server has died, or somebody cut the program's connection to it.
+class FarewellAtExit {
+public:
+    explicit FarewellAtExit(const std::function<void()>& farewell) {
+        static const int registered = std::atexit([] {
+            if (const auto* last = std::exchange(farewell_, nullptr)) EndAtFault(*last);
+        });
+        if (registered == 0) farewell_ = &farewell;
+    }
+    ~FarewellAtExit() { farewell_ = nullptr; }
+    FarewellAtExit(const FarewellAtExit&) = delete;
+    FarewellAtExit& operator=(const FarewellAtExit&) = delete;
+
+private:
+    inline static const std::function<void()>* farewell_ = nullptr;
+};
+
 }  // namespace
 
 struct Shell::Parts {
     Parts(int& argc, char** argv) : application(MakeApplication(argc, argv)) {}
 
-    std::unique_ptr<QApplication> application;
+    std::unique_ptr<ToolkitApplication> application;
     QtPlatform platform;
     QtDesktop desktop;
     QtClipboard clipboard;
@@ -67,8 +104,16 @@ ScreenGrab& Shell::GetScreenGrab() {
     return parts_->screenGrab;
 }
 
-int Shell::Run(const std::function<void()>& start) {
+int Shell::Run(const std::function<void()>& start, const ForeignEnd& end) {
+    const FarewellAtExit farewell(end.isHere);
+    const auto leave = [&] { return parts_->platform.Leave(end.isHere); };
+    const EndingSignals endingSignals(leave);
+    parts_->application->quitAsked = leave;
+    const auto session = QObject::connect(parts_->application.get(), &QGuiApplication::commitDataRequest,
+                                          [&](const QSessionManager&) { EndAtFault(end.isNear); });
     parts_->platform.Run(start);
+    QObject::disconnect(session);
+    parts_->application->quitAsked = nullptr;
     return 0;
 }
 

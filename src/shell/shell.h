@@ -12,6 +12,13 @@ class Platform;
 class Printer;
 class ScreenGrab;
 
+/// What the program does about an end that its user didn't choose in it: a signal, the end of his session,
+/// the loss of the screen. Neither may ask anything or serve events.
+struct ForeignEnd {
+    std::function<void()> isNear;  ///< The session is about to end, but somebody may still stop that.
+    std::function<void()> isHere;  ///< The last that the program does.
+};
+
 /// The windows of the program and what else it asks of the desktop. To be made once, first of all, since
 /// fonts and pictures need the toolkit, and to outlive the program it shows. Knowing it needs no header of
 /// the toolkit.
@@ -31,9 +38,9 @@ public:
     Printer& GetPrinter();
     ScreenGrab& GetScreenGrab();
 
-    /// Runs `start`, which shows the main form, and serves events until the program has ended. Returns the
-    /// exit status.
-    int Run(const std::function<void()>& start);
+    /// Runs `start`, which shows the main form, and serves events until the program has ended, by itself or
+    /// in a foreign way. Returns the exit status.
+    int Run(const std::function<void()>& start, const ForeignEnd& end);
 
 private:
     struct Parts;

@@ -99,11 +99,15 @@ void Recovery::StrokeFinished() {
     if (HoldsUnsavedWork(now)) WriteSnapshot(now);
 }
 
-void Recovery::KeepForNextStart() {
+void Recovery::WriteNow() {
     if (folder_.empty()) return;
     const DesignRevision now = RevisionOf(context_.main);
-    if (!HoldsUnsavedWork(now)) return;
-    WriteSnapshot(now);
+    if (HoldsUnsavedWork(now)) WriteSnapshot(now);
+}
+
+void Recovery::KeepForNextStart() {
+    if (folder_.empty() || !HoldsUnsavedWork(RevisionOf(context_.main))) return;
+    WriteNow();
     snapshot_.Keep();
 }
 

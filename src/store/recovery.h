@@ -26,8 +26,11 @@ public:
     /// Looks once a second whether there is something to keep.
     void SecondPassed();
     void StrokeFinished();
-    /// For an end that the user didn't choose, such as that of his session: what isn't stored is kept as it
-    /// is at this moment for the next start.
+    /// Writes the snapshot as the design is at this moment, if it holds unsaved work: for an end that may be
+    /// near, such as that of the user's session.
+    void WriteNow();
+    /// The same for an end that the user didn't choose here, and that comes now: the snapshot is left to the
+    /// next start.
     void KeepForNextStart();
 
 private:

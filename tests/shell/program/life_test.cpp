@@ -51,7 +51,6 @@ TEST_F(ProgramLife, FreshFolderStartsInDutchAndSaysSoInTheSettings) {
 }
 
 TEST_F(ProgramLife, UserWithoutAPictureFolderGetsOne) {
-    std::filesystem::create_directory(home);
     Start();
     EXPECT_TRUE(std::filesystem::is_directory(home / "Pictures"));
 }

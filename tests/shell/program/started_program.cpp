@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <iterator>
 #include <thread>
@@ -56,6 +57,7 @@ StartedProgram::StartedProgram() {
     fs::remove_all(folder / "Ontwerpen");
     fs::create_directory(folder / "Ontwerpen");
     command = {folder / builtProgram.filename()};
+    fs::create_directory(home);
 }
 
 StartedProgram::~StartedProgram() {
@@ -70,11 +72,14 @@ void StartedProgram::Start() {
     environment.insert("HOME", QString::fromStdString(home.string()));
     for (const char* variable : {"XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME"})
         environment.remove(variable);
+    for (const auto& [name, value] : variables)
+        environment.insert(QString::fromStdString(name), QString::fromStdString(value));
     process_.setProcessEnvironment(environment);
     process_.setProcessChannelMode(QProcess::ForwardedChannels);
     const QStringList words = AsList(command);
     process_.start(words.front(), words.mid(1));
     ASSERT_TRUE(Comes([&] {
+        meanwhile();
         const auto windows = screen.Windows();
         if (windows.empty()) return false;
         window_ = windows.front();
@@ -89,6 +94,14 @@ bool StartedProgram::EndsWell() {
 
 bool StartedProgram::Runs() {
     return !process_.waitForFinished(0) && process_.state() == QProcess::Running;
+}
+
+void StartedProgram::Send(int signal) const {
+    ASSERT_EQ(::kill(static_cast<pid_t>(process_.processId()), signal), 0);
+}
+
+void StartedProgram::CutOff() const {
+    Do({"windowkill", std::to_string(window_.id)});
 }
 
 void StartedProgram::Kill() {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,10 @@ protected:
     /// Waits until it has ended by itself; false if it doesn't, or ends with a status other than 0.
     bool EndsWell();
     bool Runs();
+    /// Sends it a signal.
+    void Send(int signal) const;
+    /// Takes the screen away from it, as a desktop does that is told to close the window by force.
+    void CutOff() const;
     /// Ends it on the spot, whatever it is doing, and waits until its windows are gone.
     void Kill();
 
@@ -70,6 +75,10 @@ protected:
     std::vector<std::string> command;
     /// The home of its user, so that what it prints and exports doesn't go to that of whoever runs the tests.
     std::filesystem::path home = folder / "home";
+    /// What its environment has beside that of the tests.
+    std::map<std::string, std::string> variables;
+    /// What somebody else does while it starts, again and again.
+    std::function<void()> meanwhile = [] {};
     Screen screen;
     TestServices services;
     /// Where everything is: the program's own form, without a window.
