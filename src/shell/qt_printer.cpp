@@ -17,7 +17,6 @@
 #include <cstring>
 #include <deque>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace coinlet {
@@ -243,8 +242,6 @@ void QtPrinter::PrintToFile(const Job& job) const {
         writer.setPageMargins({});
         if (!PrintSheets(job.sheets, writer)) return;
     }
-    std::error_code failed;
-    std::filesystem::create_directories(folder_, failed);
     const QByteArray& bytes = file.data();
     const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     static_cast<void>(ReplaceFile(folder_ / fileName, AsBytes(content)));

@@ -29,7 +29,8 @@ struct SystemPrinters {
 SystemPrinters ToolkitPrinters();
 
 /// The printers of the system. Where there is none, one entry "PDF" prints on A4 sheets into the file
-/// `Coinlet.pdf` of a folder, which is made when it is needed; the file of an earlier job is replaced whole.
+/// `Coinlet.pdf` of a folder; the file of an earlier job is replaced whole. Where the folder is missing there
+/// is no file, and nothing is said, as with an export.
 ///
 /// A job is kept until its end and printed then: one that is given up, or whose printer has gone away, leaves
 /// nothing.

@@ -72,6 +72,7 @@ int Sheets(const std::string& pdf) {
 TEST(QtPrinterTest, PrintsToAFileWhereThereIsNoPrinter) {
     const TemporaryFolder folder;
     const auto pictures = folder.Path() / "Pictures";
+    std::filesystem::create_directory(pictures);
     QtPrinter printer(pictures);
     ASSERT_EQ(printer.DeviceNames(), std::vector<std::string>{"PDF"});
     EXPECT_EQ(printer.DeviceName(), "PDF");
@@ -90,6 +91,14 @@ TEST(QtPrinterTest, PrintsToAFileWhereThereIsNoPrinter) {
     EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
     EXPECT_EQ(Sheets(pdf), 2);                                     // Nothing is drawn on a third.
     EXPECT_NE(pdf.find("/MediaBox [0 0 595"), std::string::npos);  // A4 is 595 by 842 points.
+}
+
+TEST(QtPrinterTest, MissingFolderStaysMissing) {
+    const TemporaryFolder folder;
+    QtPrinter printer(folder.Path() / "Pictures");
+    printer.Box(0, 0, 100, 100, black);
+    printer.EndDoc();
+    EXPECT_EQ(folder.Count(), 0);
 }
 
 TEST(QtPrinterTest, EmptyJobLeavesNoFile) {
