@@ -2,6 +2,7 @@
 
 #include "app/named_document.h"
 
+#include "core/language.h"
 #include "support/world.h"
 #include "surface/codecs.h"
 #include "tools/incoming_pictures.h"
@@ -45,6 +46,40 @@ TEST_F(NamedDocumentTest, DesignIsShownUnderItsNameAndNothingIsUnsaved) {
     EXPECT_FALSE(world.session.DesignChanged);
     EXPECT_EQ(world.session.StoredDesign, RevisionOf(world.main));
     EXPECT_EQ(world.StoredFiles(), 0);
+}
+
+TEST_F(NamedDocumentTest, PictureFloatsAndWaitsToBePasted) {
+    fs::create_directories(world.folder / "app/Data");
+    world.folder.Write("app/Data/English.txt", "027 Drag the image\r\n");
+    LoadLanguage(world.context, "English");
+    world.platform.ShowMain(world.main);
+    Begin(Picture("photo.bmp", 40, 30));
+    const MainForm& main = world.main;
+    EXPECT_EQ(world.session.ToolCode, 50);
+    EXPECT_TRUE(main.ClipPic.Visible);
+    EXPECT_EQ(main.ClipPic.Left(), 0);
+    EXPECT_EQ(main.ClipPic.Top(), 0);
+    EXPECT_EQ(main.ClipPic.surface.Image().Width(), 40);
+    EXPECT_EQ(main.ClipPic.surface.Image().Height(), 30);
+    EXPECT_EQ(main.ClipPic.surface.Point(39, 29), red);
+    EXPECT_TRUE(main.HoekKnop.Visible);
+    EXPECT_EQ(main.HoekKnop.Caption(), " Paste ");
+    EXPECT_EQ(main.InfoLabel.Caption, "Drag the image");
+    // It is no design yet: the canvas, its name and what is unsaved stay as they were.
+    EXPECT_EQ(main.Pic.surface.Point(10, 10), white);
+    EXPECT_EQ(world.session.DesignName, "");
+    EXPECT_FALSE(world.session.DesignChanged);
+}
+
+TEST_F(NamedDocumentTest, LargePictureFloatsInTheSizeOfTheCanvas) {
+    world.platform.ShowMain(world.main);
+    const Surface& floating = world.main.ClipPic.surface;
+    Begin(Picture("wide.bmp", 1000, 333));
+    EXPECT_EQ(floating.Image().Width(), 500);
+    EXPECT_EQ(floating.Image().Height(), 166);  // 166.5, half to even
+    Begin(Picture("thin.bmp", 1, 1200));
+    EXPECT_EQ(floating.Image().Width(), 1);
+    EXPECT_EQ(floating.Image().Height(), 500);
 }
 
 TEST_F(NamedDocumentTest, WhatHoldsNoPictureCannotBeRead) {
