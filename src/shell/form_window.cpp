@@ -10,6 +10,7 @@
 #include "shell/offered.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
+#include "shell/roomy_area.h"
 #include "shell/views.h"
 
 #include <QCloseEvent>
@@ -19,6 +20,8 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 #include <set>
@@ -52,7 +55,8 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
       gate_(gate),
       menus_(form, *this, gate),
       timers_(form, gate),
-      face_(new PaintedWidget(this)) {
+      area_(new RoomyArea(this)),
+      face_(new PaintedWidget(area_)) {
     setObjectName(ToQString(form.Name()));
     // The keyboard rests here while no control has the focus.
     setFocusPolicy(Qt::NoFocus);
@@ -63,24 +67,40 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
         painter.fillRect(dirty, ToQColor(backColor_));
         outlines_.Paint(painter);
     };
+    area_->setWidget(face_);
     containers_[&form] = face_;
 }
 
 FormWindow::~FormWindow() = default;
 
 void FormWindow::Open() {
+    // Frames are alike, as far as anybody knows yet.
+    if (parentWidget()) frame_ = RoomOf(*parentWidget()).frame;
     Mirror();
     if (const QWidget* behind = parentWidget()) {
-        const QRect room = behind->screen()->availableGeometry();
         QRect place(QPoint(), size());
         place.moveCenter(behind->geometry().center());
-        place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() + 1 - place.width())));
-        place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() + 1 - place.height())));
-        move(place.topLeft());
+        move(MovedInto(place.marginsAdded(frame_), behind->screen()->availableGeometry()).topLeft());
     }
     show();
+    WatchScreen();
     activateWindow();
     MirrorFocus();
+}
+
+/// The window may come to another screen, and the desktop may take more of a screen for itself or give some
+/// back.
+void FormWindow::WatchScreen() {
+    const auto watch = [this] {
+        disconnect(screenIsWatched_);
+        if (const QScreen* screen = this->screen()) {
+            screenIsWatched_ =
+                connect(screen, &QScreen::availableGeometryChanged, this, [this] { FitToScreen(); });
+        }
+        FitToScreen();
+    };
+    connect(windowHandle(), &QWindow::screenChanged, this, watch);
+    watch();
 }
 
 void FormWindow::SyncElements() {
@@ -153,14 +173,51 @@ void FormWindow::MirrorFrame() {
     const bool sizeChanged = Differs(size_, size);
     if (!sizeChanged && !barIsStale_) return;
     barIsStale_ = false;
-    QMenuBar* bar = menus_.Bar();
-    const int barHeight = bar ? bar->sizeHint().height() : 0;
-    if (bar) {
-        bar->setGeometry(0, 0, size.width(), barHeight);
+    face_->resize(size);
+    FitToScreen();
+    LayOut();
+}
+
+/// Where there is room for all, the window has just that size. To be called whenever the screen may give it
+/// more room or less, or the desktop has put a frame around it. What the user makes of its size stays until
+/// then.
+void FormWindow::FitToScreen() {
+    if (!form_) return;
+    RoomOnScreen room = RoomOf(*this);
+    if (isVisible()) frame_ = room.frame;
+    room.frame = frame_;
+    const QSize bar(0, BarHeight());
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const WindowFit fit = FitIntoRoom(size_ + bar, room.Inside(), scrollBar);
+    if (!Differs(fit_, fit)) return;
+    constexpr QSize smallest(240, 180);
+    setMinimumSize(fit.IsCut() ? smallest.boundedTo(fit.size) : fit.whole);
+    setMaximumSize(fit.whole);
+    resize(fit.size);
+    if (fit.IsCut() && isVisible()) move(MovedInto(frameGeometry(), room.place).topLeft());
+}
+
+int FormWindow::BarHeight() const {
+    const QMenuBar* bar = menus_.Bar();
+    return bar ? bar->sizeHint().height() : 0;
+}
+
+void FormWindow::LayOut() {
+    const int barHeight = BarHeight();
+    if (QMenuBar* bar = menus_.Bar()) {
+        bar->setGeometry(0, 0, width(), barHeight);
         bar->show();
     }
-    face_->setGeometry(0, barHeight, size.width(), size.height());
-    setFixedSize(size.width(), size.height() + barHeight);
+    area_->setGeometry(0, barHeight, width(), height() - barHeight);
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+    // At the latest with a move comes the frame.
+    if (isVisible()) FitToScreen();
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    LayOut();
 }
 
 void FormWindow::MirrorFocus() {
@@ -170,7 +227,11 @@ void FormWindow::MirrorFocus() {
     QWidget* wanted = view ? &view->KeyboardWidget() : this;
     if (focusWidget() == wanted) return;
     wanted->setFocus(Qt::TabFocusReason);
-    if (view) view->FocusComes();
+    if (!view) return;
+    view->FocusComes();
+    // What is under the pointer stays there while the user works on it.
+    constexpr int around = 8;
+    if (!form_->PointerHeld()) area_->ensureWidgetVisible(wanted, around, around);
 }
 
 void FormWindow::Detach() {

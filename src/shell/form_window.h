@@ -4,6 +4,7 @@
 #include "shell/control_view.h"
 #include "shell/menu_view.h"
 #include "shell/outlines.h"
+#include "shell/screen_room.h"
 #include "shell/timer_view.h"
 
 #include <QWidget>
@@ -16,8 +17,10 @@
 namespace coinlet {
 
 class PaintedWidget;
+class RoomyArea;
 
-/// The window of a form: menu bar, controls, timers. It is as large as the form says.
+/// The window of a form: menu bar, controls, timers. It is as large as the form says; where the screen has
+/// not that much room, it is as large as there is room, bars scroll the form in it, and the user may size it.
 class FormWindow : public QWidget {
 public:
     /// A dialog lies before the window `behind`; the main window has none behind it.
@@ -41,6 +44,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -50,11 +55,16 @@ private:
     void AddView(Control& control);
     void MirrorFrame();
     void MirrorFocus();
+    void WatchScreen();
+    void FitToScreen();
+    void LayOut();
+    int BarHeight() const;
 
     Form* form_;
     EventGate& gate_;
     MenuView menus_;
     TimerView timers_;
+    RoomyArea* area_;
     PaintedWidget* face_;
     Outlines outlines_;
     std::vector<ControlView*> views_;
@@ -67,6 +77,9 @@ private:
     int mousePointer_ = defaultPointer;
     QSize size_;
     bool barIsStale_ = true;
+    QMargins frame_;  ///< Of the desktop's frame around the window, as far as it is known.
+    WindowFit fit_;
+    QMetaObject::Connection screenIsWatched_;
 };
 
 }  // namespace coinlet

@@ -2,7 +2,7 @@
 # run_under_xvfb.sh PROGRAM [ARGUMENT...]
 #
 # Runs a program on a screen of its own, which nobody sees and which ends with it. The server picks a free
-# display by itself, so any number of these may run at once.
+# display by itself, so any number of these may run at once. SCREEN_SIZE is its size, if not the usual one.
 set -eu
 
 folder=$(mktemp -d)
@@ -19,7 +19,7 @@ trap 'exit 143' TERM
 
 # The server writes its number when it is ready.
 mkfifo "$folder/display"
-Xvfb -displayfd 3 -screen 0 1400x1050x24 -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/log" &
+Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE:-1400x1050}x24" -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/log" &
 server=$!
 read -r display <"$folder/display" || { cat "$folder/log" >&2; exit 1; }
 
