@@ -11,6 +11,7 @@
 #include <random>
 #include <string>
 #include <tuple>
+#include <utility>
 
 namespace coinlet {
 namespace {
@@ -149,6 +150,29 @@ TEST_P(EveryUnit, KeepsTheRuleOfSharpenAndEdgeForEveryDivisor) {
             const Picture picture = Painted(kind, {41, 12}, random);
             for (const int number : {1, 6})
                 HoldTogether(number, parameter, picture, GetParam());
+        }
+    }
+}
+
+TEST_P(EveryUnit, KeepsTheRuleOfFiltersInPlaceForEverySizeOfBands) {
+    constexpr int mostColumns = 26, mostRows = 16;
+    std::mt19937 random(17);
+    for (int width = 1; width <= mostColumns; ++width) {
+        for (int height = 1; height <= mostRows; ++height) {
+            const Picture picture = Painted(Kind::Noise, {width, height}, random);
+            for (const auto& [number, parameter] :
+                 {std::pair{1, 10}, std::pair{1, 11}, std::pair{3, 0}, std::pair{5, 0}, std::pair{6, 1}})
+                HoldTogether(number, parameter, picture, GetParam());
+        }
+    }
+}
+
+TEST_P(EveryUnit, KeepsTheRuleOfContrastAtEveryEndOfARow) {
+    std::mt19937 random(18);
+    for (int width = 60; width <= 200; ++width) {
+        for (const Kind kind : {Kind::Noise, Kind::Extremes, Kind::Soft, Kind::White}) {
+            for (const std::int32_t percent : {10, -10, 40})
+                HoldTogether(17, percent, Painted(kind, {width, 3}, random), GetParam());
         }
     }
 }
