@@ -57,6 +57,7 @@ bool Control::Answers() const {
 }
 
 bool Control::EndPress(int button) {
+    OwnerForm().heldButtons_ &= ~button;
     return button == leftButton && std::exchange(leftPressed_, false);
 }
 
@@ -78,7 +79,6 @@ void Control::PointerMoved(int button, int shift, float x, float y) {
 }
 
 void Control::PointerReleased(int button, int shift, float x, float y) {
-    OwnerForm().heldButtons_ &= ~button;
     const bool clicks = EndPress(button) && ContainsPoint(x, y);
     if (!Answers()) return;
     MouseUp(button, shift, x, y);

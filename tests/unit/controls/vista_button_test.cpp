@@ -355,5 +355,17 @@ TEST_F(ButtonTest, TheFaceIsDrawnAsItWasWhenTheStateChanged) {
     EXPECT_EQ(button.LookRevision(), pressed);
 }
 
+TEST_F(ButtonTest, AfterAClickNothingCountsAsHeld) {
+    button.PointerPressed(1, 0, 5, 5);
+    EXPECT_TRUE(form.PointerHeld());
+    button.PointerPressed(2, 0, 5, 5);
+    button.PointerReleased(1, 0, 5, 5);
+    EXPECT_TRUE(form.PointerHeld());
+    button.PointerReleased(2, 0, 5, 5);
+    EXPECT_FALSE(form.PointerHeld());
+    button.PointerClicked();
+    EXPECT_FALSE(form.PointerHeld());
+}
+
 }  // namespace
 }  // namespace coinlet
