@@ -54,13 +54,21 @@ public:
     virtual TextMask Render(const FontSpec& font, std::string_view text, Edges edges,
                             double angle = 0) const = 0;
 
-    /// The names of the fonts that the screen offers, sorted.
+    /// The names of the fonts that the screen offers, sorted, each once; "Arial" is always one of them.
     virtual std::vector<std::string> Families() const = 0;
 
     /// Makes the font of a file usable by its family name for as long as the program runs. Returns the family
     /// name, or an empty text if the file is no font. From now on that name stands for this font, whatever
     /// font is installed, or was added before, under the same name. Adding a file again takes no memory.
     virtual std::string AddFontFile(const std::filesystem::path& file) = 0;
+
+    /// The same without the fonts that were added, for the program's own captions: whatever a file calls
+    /// itself, they keep their letters. It lives as long as this one.
+    virtual const FontEngine& Installed() const { return *this; }
+
+    /// The name under which whatever shows windows knows the font of a name: its own name, unless the font
+    /// was added.
+    virtual std::string KnownAs(std::string_view name) const { return std::string(name); }
 };
 
 }  // namespace coinlet

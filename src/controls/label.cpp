@@ -14,19 +14,24 @@ double Label::UnitsOf(int pixels) const {
     return pixels * Parent().ChildUnitsPerPixel();
 }
 
+const FontEngine& Label::LetterFonts() const {
+    const FontEngine& fonts = OwnerForm().Fonts();
+    return Sample ? fonts : fonts.Installed();
+}
+
 double Label::Width() const {
     if (!AutoSize) return Control::Width();
     const FontSpec font = CurrentFont();
     int widest = 0;
     for (const auto& line : Lines(Caption))
-        widest = std::max(widest, OwnerForm().Fonts().Measure(font, line).width);
+        widest = std::max(widest, LetterFonts().Measure(font, line).width);
     return UnitsOf(widest);
 }
 
 double Label::Height() const {
     if (!AutoSize) return Control::Height();
     const int lines = std::max(1, static_cast<int>(Lines(Caption).size()));
-    return UnitsOf(lines * OwnerForm().Fonts().Measure(CurrentFont(), "").height);
+    return UnitsOf(lines * LetterFonts().Measure(CurrentFont(), "").height);
 }
 
 void Label::VisitProperties(PropertyVisitor& visitor) {

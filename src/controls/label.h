@@ -25,6 +25,11 @@ public:
     bool WordWrap = true;
     /// The label is as large as its caption, which then isn't wrapped.
     bool AutoSize = false;
+    /// Room that a caption keeps from the edges of a label of its own size, in pixels.
+    int Margin = 0;
+    /// The letters are a sample of what surfaces print, with the fonts that were added; else they are those
+    /// of the program's own captions.
+    bool Sample = false;
 
     double Width() const override;
     double Height() const override;
@@ -32,6 +37,7 @@ public:
 
 private:
     double UnitsOf(int pixels) const;
+    const FontEngine& LetterFonts() const;
 };
 
 }  // namespace coinlet

@@ -79,7 +79,7 @@ std::vector<std::string> WrapLine(std::string_view text, int width, const FontSp
 std::vector<std::string> DisplayedLines(const TextBox& box) {
     const FontSpec font = box.CurrentFont();
     const int width = WrapWidth(box);
-    Advances advances(font, box.OwnerForm().Fonts());
+    Advances advances(font, box.OwnerForm().Fonts().Installed());
     std::vector<std::string> lines;
     std::string_view rest = box.Text();
     while (true) {

@@ -21,7 +21,7 @@ int ToShort(int value) {
 }  // namespace
 
 VistaButton::VistaButton(Container& container, std::string_view name, int index)
-    : Control(container, name, index, ControlKind::Button), face_(OwnerForm().Fonts(), 0, 0) {
+    : Control(container, name, index, ControlKind::Button), face_(OwnerForm().Fonts().Installed(), 0, 0) {
     look_.caption = name;
     MakeFocusable();
 }

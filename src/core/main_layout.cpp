@@ -139,6 +139,7 @@ void LayOutCanvas(MainForm& main) {
                       main.InfoPic.Top() + Twips(sidePanelBackTop), Twips(sidePanelBackSide),
                       Twips(sidePanelBackSide));
     main.Label16.Transparent = false;
+    main.TextLabel.Sample = true;
     main.Label16.BackColor = noteColour;
     main.Label16.Visible = false;
 }

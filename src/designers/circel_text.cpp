@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "core/canvas_dialog.h"
 #include "core/context.h"
+#include "core/font_sample.h"
 #include "core/language.h"
 #include "core/letter_outline.h"
 #include "core/main_form.h"
@@ -48,6 +49,8 @@ CircelText::CircelText(Context& context)
     : Form(context.services.ForForms(), "CircelText"), context_(context) {
     LayOutCircelText(*this);
     Check1.Click = [this] { Check1_Click(); };
+    Combo4.Change = [this] { Combo4_Change(); };
+    Combo4.Click = [this] { Combo4_Change(); };
     DrawKnop.Click = [this] { DrawKnop_Click(); };
     ExportKnop.Click = [this] { ExportToCanvas(context_, *this, Pic.surface.Image()); };
     CancelKnop.Click = [this] { CloseDialog(context_, *this); };
@@ -79,6 +82,10 @@ Colour CircelText::InkColour() const {
 
 void CircelText::Check1_Click() {
     Label9.Visible = TextIsInFillColour();
+}
+
+void CircelText::Combo4_Change() {
+    ShowFontSample(FontLabel, Combo4.Text());
 }
 
 void CircelText::DrawKnop_Click() {

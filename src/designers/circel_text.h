@@ -22,21 +22,22 @@ class CircelText : public Form {
 public:
     explicit CircelText(Context& context);
 
-    Shape Shape1{*this, "Shape1"};     ///< Edge of the picture.
-    PictureBox Pic{*this, "Pic"};      ///< The working copy.
-    Label Label8{*this, "Label8"};     ///< What to do here.
-    Label Label1{*this, "Label1"};     ///< What Text1 is for.
-    TextBox Text1{*this, "Text1"};     ///< The text.
-    Label Label2{*this, "Label2"};     ///< What Combo1 is for.
-    ComboBox Combo1{*this, "Combo1"};  ///< Distance: the extra spacing between letters.
-    Label Label3{*this, "Label3"};     ///< What Combo2 is for.
-    ComboBox Combo2{*this, "Combo2"};  ///< Radius in pixels.
-    Label Label5{*this, "Label5"};     ///< What Combo3 is for.
-    ComboBox Combo3{*this, "Combo3"};  ///< Size of the letters in points.
-    Label Label7{*this, "Label7"};     ///< What Combo4 is for.
-    ComboBox Combo4{*this, "Combo4"};  ///< Name of the font.
-    CheckBox Check1{*this, "Check1"};  ///< The text takes the fill colour.
-    Label Label9{*this, "Label9"};     ///< The fill colour, while the text takes it.
+    Shape Shape1{*this, "Shape1"};        ///< Edge of the picture.
+    PictureBox Pic{*this, "Pic"};         ///< The working copy.
+    Label Label8{*this, "Label8"};        ///< What to do here.
+    Label Label1{*this, "Label1"};        ///< What Text1 is for.
+    TextBox Text1{*this, "Text1"};        ///< The text.
+    Label Label2{*this, "Label2"};        ///< What Combo1 is for.
+    ComboBox Combo1{*this, "Combo1"};     ///< Distance: the extra spacing between letters.
+    Label Label3{*this, "Label3"};        ///< What Combo2 is for.
+    ComboBox Combo2{*this, "Combo2"};     ///< Radius in pixels.
+    Label Label5{*this, "Label5"};        ///< What Combo3 is for.
+    ComboBox Combo3{*this, "Combo3"};     ///< Size of the letters in points.
+    Label Label7{*this, "Label7"};        ///< What Combo4 is for.
+    ComboBox Combo4{*this, "Combo4"};     ///< Name of the font.
+    Label FontLabel{*this, "FontLabel"};  ///< A sample of the font.
+    CheckBox Check1{*this, "Check1"};     ///< The text takes the fill colour.
+    Label Label9{*this, "Label9"};        ///< The fill colour, while the text takes it.
     CheckBox Check2{*this, "Check2"};  ///< The text stands on the circle; else it hangs into it from below.
     CheckBox Check3{*this, "Check3"};  ///< Bold.
     CheckBox Check4{*this, "Check4"};  ///< Italic.
@@ -50,6 +51,7 @@ public:
 
 private:
     void Check1_Click();
+    void Combo4_Change();
     void DrawKnop_Click();
 
     void DrawCurvedText(bool onTop);

@@ -45,7 +45,9 @@ void PlaceMeasures(CircelText& form) {
     }
     constexpr int fontTop = 132;
     Head(form.Label7, "Letterfont", column, fontTop, columnWidth);
-    PlaceByPixels(form.Combo4, column, fontTop + labelPitch, columnWidth, fieldHeight);
+    constexpr int comboTop = fontTop + labelPitch, sampleHeight = 28;
+    PlaceByPixels(form.Combo4, column, comboTop, columnWidth, fieldHeight);
+    PlaceByPixels(form.FontLabel, column, comboTop + fieldHeight + gap / 2, columnWidth, sampleHeight);
 }
 
 void PlaceStyle(CircelText& form) {
@@ -59,7 +61,7 @@ void PlaceStyle(CircelText& form) {
                             {form.Check3, "Bold"},
                             {form.Check4, "Italic"},
                             {form.Check5, "Open Text"}};
-    int top = 196;
+    int top = 220;
     PlaceByPixels(form.Label9, column + swatchLeft, top, swatchWidth, height);
     form.Label9.Transparent = false;
     form.Label9.Border = true;

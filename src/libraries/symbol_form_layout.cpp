@@ -38,6 +38,7 @@ void PlaceStrip(SymbolForm& form) {
     constexpr float standardSize = 60;  // points
     form.File1.Visible = false;
     form.BackLabel.AutoSize = true;
+    form.BackLabel.Sample = true;
     form.BackLabel.FontSize = standardSize;
     form.BackLabel.Caption = Printable();
     form.BackLabel.Visible = false;

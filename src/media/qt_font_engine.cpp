@@ -160,6 +160,13 @@ TextMask Draw(const FontFamily& family, const FontSpec& spec, std::string_view t
     return mask;
 }
 
+/// A family that several foundries offer is listed once for each, as "Name [foundry]"; its plain name gives
+/// the same letters.
+QString WithoutFoundry(const QString& family) {
+    const qsizetype bracket = family.endsWith(QLatin1Char(']')) ? family.lastIndexOf(QLatin1String(" [")) : 0;
+    return bracket > 0 ? family.left(bracket) : family;
+}
+
 }  // namespace
 
 std::size_t QtFontEngine::PrintedHash::operator()(const Printed& key) const {
@@ -199,10 +206,17 @@ std::vector<std::string> QtFontEngine::Families() const {
     std::vector<std::string> names = added_.Names();
     const QStringList families = QFontDatabase::families();
     for (const QString& family : families)
-        if (!QFontDatabase::isPrivateFamily(family)) names.push_back(family.toStdString());
+        if (!QFontDatabase::isPrivateFamily(family)) names.push_back(WithoutFoundry(family).toStdString());
+    // The platform has letters for it, be they a substitute's.
+    names.push_back(FontSpec().name);
     std::sort(names.begin(), names.end(), ComesBefore);
     names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
+}
+
+const FontEngine& QtFontEngine::Installed() const {
+    if (!installed_) installed_ = std::make_unique<QtFontEngine>();
+    return *installed_;
 }
 
 std::string QtFontEngine::AddFontFile(const std::filesystem::path& file) {

@@ -5,6 +5,7 @@
 #include "media/recent.h"
 
 #include <cstddef>
+#include <memory>
 
 namespace coinlet {
 
@@ -17,6 +18,8 @@ public:
                     double angle = 0) const override;
     std::vector<std::string> Families() const override;
     std::string AddFontFile(const std::filesystem::path& file) override;
+    const FontEngine& Installed() const override;
+    std::string KnownAs(std::string_view name) const override { return added_.Find(name).known; }
 
 private:
     struct Printed {
@@ -35,6 +38,7 @@ private:
     mutable Recent<Printed, TextExtent, PrintedHash> extents_{kept};
     mutable Recent<Printed, TextMask, PrintedHash> masks_{kept};
     AddedFonts added_;
+    mutable std::unique_ptr<QtFontEngine> installed_;
 };
 
 }  // namespace coinlet

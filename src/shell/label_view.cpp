@@ -1,3 +1,4 @@
+#include "controls/form.h"
 #include "controls/label.h"
 #include "shell/control_view.h"
 #include "shell/look.h"
@@ -23,10 +24,13 @@ protected:
         const Label& label = model();
         const bool captionChanged = Differs(caption_, label.Caption);
         if (captionChanged) UpdateAccessibleName();
-        const bool fontChanged = Differs<FontProperties, FontProperties>(font_, label);
+        FontProperties font = label;
+        // A name may stand for another font once one was added.
+        if (label.Sample) font.FontName = label.OwnerForm().Fonts().KnownAs(label.FontName);
+        const bool fontChanged = Differs(font_, font);
         sizeIsStale_ = !label.AutoSize || !autoSize_ || captionChanged || fontChanged;
         const Look look{label.ForeColor, label.BackColor, label.Transparent, label.Border,
-                        label.Alignment, label.WordWrap,  label.AutoSize};
+                        label.Alignment, label.WordWrap,  label.AutoSize,    label.Margin};
         const bool lookChanged = Differs(look_, look);
         autoSize_ = label.AutoSize;
         if (fontChanged) letters_ = ToQFont(font_);
@@ -42,6 +46,7 @@ private:
         bool transparent = true, border = false;
         Alignment alignment = Alignment::Left;
         bool wordWrap = true, autoSize = false;
+        int margin = 0;
         friend bool operator==(const Look&, const Look&) = default;
     };
 
@@ -60,7 +65,7 @@ private:
         int flags = sidewise | Qt::AlignTop | Qt::TextExpandTabs;
         if (look_.autoSize) flags |= Qt::TextDontClip;
         if (look_.wordWrap && !look_.autoSize) flags |= Qt::TextWordWrap;
-        const int margin = look_.border ? 2 : 0;
+        const int margin = look_.autoSize ? 0 : look_.margin + (look_.border ? 2 : 0);
         painter.drawText(box.adjusted(margin, margin, -margin, -margin), flags,
                          ToQString(caption_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     }

@@ -145,7 +145,7 @@ private:
     std::vector<std::string> WrapAsTheProgram(std::string_view text) const {
         if (!Shown()) return {std::string(text)};
         const TextBox& box = model();
-        return WrapLine(text, WrapWidth(box), box.CurrentFont(), box.OwnerForm().Fonts());
+        return WrapLine(text, WrapWidth(box), box.CurrentFont(), box.OwnerForm().Fonts().Installed());
     }
 
     QPlainTextEdit& lines_;

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "core/context.h"
+#include "core/font_sample.h"
 #include "core/letter_outline.h"
 #include "core/main_form.h"
 #include "core/undo.h"
@@ -18,7 +19,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr float sampleSize = 14;   // points
 constexpr float textDistance = 5;  // pixels between the text and the pointer
 constexpr int fullChannel = 255;
 
@@ -108,10 +108,7 @@ void TextTool::PassPointerOn() {
 }
 
 void TextTool::Combo2_Change() {
-    MainForm& main = context_.main;
-    main.FontLabel.FontName = main.Combo2.Text();
-    main.FontLabel.FontSize = sampleSize;
-    main.FontLabel.Caption = "Example";
+    ShowFontSample(context_.main.FontLabel, context_.main.Combo2.Text());
 }
 
 void TextTool::PlaatsKnop_Click() {

@@ -4,6 +4,8 @@
 #include "support/symbol_font.h"
 #include "support/temporary_folder.h"
 
+#include <QFontDatabase>
+
 #include <malloc.h>
 
 #include <algorithm>
@@ -317,6 +319,22 @@ TEST(QtFontEngine, AFileOfTheSameFamilyTakesTheNameFromAnInstalledFont) {
     }
 }
 
+TEST(QtFontEngine, CaptionsKeepTheirLettersWhateverAFileCallsItself) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    const FontEngine& captions = fonts.Installed();
+    const FontSpec font{.name = "Arial", .size = 15};
+    const TextMask before = fonts.Render(font, "Fill", Edges::Crisp);
+    const int width = fonts.Measure(font, "Fill").width;
+    EXPECT_EQ(fonts.KnownAs("Arial"), "Arial");
+    ASSERT_EQ(fonts.AddFontFile(Write(folder, "same.ttf", test::SymbolFont("Arial"))), "Arial");
+    EXPECT_FALSE(Same(fonts.Render(font, "Fill", Edges::Crisp), before));
+    EXPECT_NE(fonts.KnownAs("arial"), "arial");
+    EXPECT_TRUE(Same(captions.Render(font, "Fill", Edges::Crisp), before));
+    EXPECT_EQ(captions.Measure(font, "Fill").width, width);
+    EXPECT_EQ(&fonts.Installed(), &captions);
+}
+
 TEST(QtFontEngine, OfTwoFilesOfOneFamilyTheOneAddedLastIsUsed) {
     const test::TemporaryFolder folder;
     QtFontEngine fonts;
@@ -411,6 +429,22 @@ TEST(QtFontEngine, AddsNothingThatIsNoFont) {
     folder.Write("cut.ttf", std::string(file.begin(), file.begin() + 100));
     for (const char* name : {"folder.ttf", "pipe.ttf", "text.ttf", "empty.ttf", "cut.ttf", "missing.ttf"})
         EXPECT_EQ(fonts.AddFontFile(folder / name), "") << name;
+}
+
+TEST(QtFontEngine, ArialIsOffered) {
+    const QtFontEngine fonts;
+    const auto families = fonts.Families();
+    EXPECT_EQ(std::count(families.begin(), families.end(), "Arial"), 1);
+}
+
+TEST(QtFontEngine, AFamilyOfSeveralFoundriesIsOfferedOnce) {
+    const QtFontEngine fonts;
+    std::set<std::string> expected{"Arial"};
+    for (const QString& name : QFontDatabase::families())
+        if (!QFontDatabase::isPrivateFamily(name)) expected.insert(name.section(" [", 0, 0).toStdString());
+    const auto families = fonts.Families();
+    EXPECT_EQ(std::set<std::string>(families.begin(), families.end()), expected);
+    EXPECT_EQ(families.size(), expected.size());
 }
 
 TEST(QtFontEngine, FamiliesAreSorted) {
