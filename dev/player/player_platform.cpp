@@ -45,7 +45,7 @@ std::string PlayerPlatform::AskText(const std::string& prompt, const std::string
     return Queued(answers_.TakeForInput(standard), "input box", prompt);
 }
 
-std::string PlayerPlatform::AskFolder(const std::string& title) {
+std::string PlayerPlatform::AskFolder(const std::string& title, const std::string& /*start*/) {
     return Queued(answers_.TakeForFolder(), "folder picker", title);
 }
 

@@ -118,9 +118,9 @@ std::string Platform::InputBox(const std::string& prompt, const std::string& tit
     return std::string(FirstLine(text));
 }
 
-std::string Platform::PickFolder(const std::string& title) {
+std::string Platform::PickFolder(const std::string& title, const std::string& start) {
     if (ended_) return {};
-    std::string folder = AskFolder(title);
+    std::string folder = AskFolder(title, start);
     ThrowIfEnded();
     return folder;
 }

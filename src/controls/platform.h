@@ -65,8 +65,9 @@ public:
     Answer ShowMessage(const Message& message);
     /// The user's text, which is one line; empty if he cancels.
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& standard);
-    /// The path of the folder that the user chose; empty if he cancels.
-    std::string PickFolder(const std::string& title);
+    /// The path of the folder that the user chose; empty if he cancels. He begins in `start`, or at home if
+    /// there is no such folder.
+    std::string PickFolder(const std::string& title, const std::string& start = {});
 
     /// Pops up a menu at the pointer and returns at once; what is chosen comes as its own event.
     virtual void PopupMenu(MenuItem& menu) = 0;
@@ -96,7 +97,7 @@ protected:
     virtual Answer AskMessage(const Message& message) = 0;
     virtual std::string AskText(const std::string& prompt, const std::string& title,
                                 const std::string& standard) = 0;
-    virtual std::string AskFolder(const std::string& title) = 0;
+    virtual std::string AskFolder(const std::string& title, const std::string& start) = 0;
     virtual void ProgramEnding() = 0;
 
 private:

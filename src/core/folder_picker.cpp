@@ -6,8 +6,8 @@
 
 namespace coinlet {
 
-std::string BrowseForFolder(Context& context) {
-    return context.services.platform.PickFolder(LookupInfoText(context, key::chooseFolder));
+std::string BrowseForFolder(Context& context, const std::string& start) {
+    return context.services.platform.PickFolder(LookupInfoText(context, key::chooseFolder), start);
 }
 
 }  // namespace coinlet

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -88,8 +89,10 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }
 
-std::string ShowFolderPicker(QWidget* parent, const std::string& title) {
-    QFileDialog picker(parent, ToQString(title), QDir::homePath());
+std::string ShowFolderPicker(QWidget* parent, const std::string& title, const std::string& start) {
+    const QString folder = ToQString(start);
+    const bool isThere = !folder.isEmpty() && QFileInfo(folder).isDir();
+    QFileDialog picker(parent, ToQString(title), isThere ? folder : QDir::homePath());
     picker.setFileMode(QFileDialog::Directory);
     picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     TakeIconsOff(picker);

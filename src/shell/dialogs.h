@@ -16,6 +16,6 @@ Answer ShowMessageBox(QWidget* parent, const Message& message);
 std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
                          const std::string& standard);
 /// The path of the folder; empty if he cancels.
-std::string ShowFolderPicker(QWidget* parent, const std::string& title);
+std::string ShowFolderPicker(QWidget* parent, const std::string& title, const std::string& start);
 
 }  // namespace coinlet

@@ -162,9 +162,9 @@ std::string QtPlatform::AskText(const std::string& prompt, const std::string& ti
     return ShowInputBox(FrontWindow(), prompt, title, standard);
 }
 
-std::string QtPlatform::AskFolder(const std::string& title) {
+std::string QtPlatform::AskFolder(const std::string& title, const std::string& start) {
     const OwnDialog guard(*this);
-    return ShowFolderPicker(FrontWindow(), title);
+    return ShowFolderPicker(FrontWindow(), title, start);
 }
 
 void QtPlatform::PopupMenu(MenuItem& menu) {

@@ -53,7 +53,7 @@ protected:
     Answer AskMessage(const Message& message) override;
     std::string AskText(const std::string& prompt, const std::string& title,
                         const std::string& standard) override;
-    std::string AskFolder(const std::string& title) override;
+    std::string AskFolder(const std::string& title, const std::string& start) override;
     void ProgramEnding() override;
 
 private:

@@ -68,7 +68,7 @@ void ImageBrowser::ImgKnop_Click() {
 }
 
 void ImageBrowser::MapKnop_Click() {
-    const std::string folder = BrowseForFolder(context_);
+    const std::string folder = BrowseForFolder(context_, context_.session.ImageFolder);
     if (!TrimBlanks(folder).empty()) context_.session.ImageFolder = folder;
     ListImages(context_, "*.jpg;*.gif;*.bmp");
     context_.main.Pic2.surface.SetPicture({});

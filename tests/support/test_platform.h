@@ -32,6 +32,7 @@ public:
     /// What was shown and done, oldest first.
     std::vector<Message> messages;
     std::vector<std::string> prompts;
+    std::vector<std::string> foldersOffered;  ///< Where pickers began.
     std::vector<MenuItem*> popups;
     std::vector<std::string> log;  ///< "show NAME", "hide NAME", "end".
     int served = 0;                ///< Calls of DoEvents and Wait that served events.
@@ -74,9 +75,10 @@ protected:
         prompts.push_back(prompt);
         return Taken(texts, "nobody answers an input box");
     }
-    std::string AskFolder(const std::string& title) override {
+    std::string AskFolder(const std::string& title, const std::string& start) override {
         prompts.push_back(title);
         return Taken(folders, "nobody picks a folder");
+        foldersOffered.push_back(start);
     }
     void ProgramEnding() override { log.emplace_back("end"); }
 
