@@ -30,7 +30,7 @@ public:
 
     // --- Top strip -------------------------------------------------------------------------------------
     Frame MenuPic{*this, "MenuPic"};
-    Label Label2{MenuPic, "Label2"};        ///< Name of the design.
+    Label Label2{MenuPic, "Label2"};        ///< Name of the design; where it is, as its tooltip.
     Label Label19{MenuPic, "Label19"};      ///< Blinks when a design with an info text was opened.
     Label KlokLabel{MenuPic, "KlokLabel"};  ///< Date and time.
 

@@ -79,6 +79,7 @@ void MainLife::FileNew_Click() {
     main.Pic.surface.SetPicture({});
     session.DesignName.clear();
     main.Label2.Caption = fileNameCaption;
+    main.Label2.ToolTipText.clear();
     main.List2.Clear();
     main.InfoPic.surface.SetPicture({});
     DrawEmptyRows(main.InfoPic.surface, rowTextAfterNew);

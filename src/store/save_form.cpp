@@ -112,7 +112,10 @@ bool SaveForm::SaveDesign() {
     // A user who isn't told of a failure finds the older design untouched, and his work at the next start.
     bool isStored = !SavePicture(BmpPic.surface.Image(), *target);
     if (context_.main.List2.ListCount() > 0) isStored = !WriteDesignInfoText(context_, name) && isStored;
-    if (isStored) context_.session.StoredDesign = RevisionOf(context_.main);
+    if (isStored) {
+        context_.session.StoredDesign = RevisionOf(context_.main);
+        context_.main.Label2.ToolTipText = target->string();
+    }
     return true;
 }
 

@@ -19,6 +19,7 @@ class SaveForm : public Form {
 public:
     explicit SaveForm(Context& context);
 
+    Label Label2{*this, "Label2"};     ///< What Text1 is for.
     TextBox Text1{*this, "Text1"};     ///< The name.
     PictureBox Bar{*this, "Bar"};      ///< Progress, in the place of the name.
     Label Label1{*this, "Label1"};     ///< Its percentage.

@@ -19,19 +19,21 @@ void LayOutSaveForm(SaveForm& form) {
     form.BackColor = dialogColour;
     form.Text1.ForeColor = RGB(240, 240, 160);
     form.Text1.BackColor = RGB(40, 40, 60);
-    PlaceByPixels(form.Text1, 12, 12, nameWidth, nameHeight);
-    PlaceByPixels(form.Bar, 12, 12, nameWidth, nameHeight);
+    form.Label2.Caption = "Name";
+    PlaceByPixels(form.Label2, 12, 6, nameWidth, 14);
+    PlaceByPixels(form.Text1, 12, 22, nameWidth, nameHeight);
+    PlaceByPixels(form.Bar, 12, 22, nameWidth, nameHeight);
     form.Bar.surface.SetBackColor(RGB(64, 0, 0));
     form.Bar.Visible = false;
     form.Label1.Alignment = Alignment::Center;
-    PlaceByPixels(form.Label1, 312, 15, 36, 14);
+    PlaceByPixels(form.Label1, 312, 25, 36, 14);
     form.Check1.Caption = "Save with PMS colors and Back";
     form.Check1.BackColor = dialogColour;
-    PlaceByPixels(form.Check1, 12, 40, nameWidth, 18);
+    PlaceByPixels(form.Check1, 12, 46, nameWidth, 18);
     form.SaveKnop.SetCaption("Save");
-    PlaceByPixels(form.SaveKnop, 143, 64, 80, 24);
+    PlaceByPixels(form.SaveKnop, 143, 68, 80, 24);
     form.CancelKnop.SetCaption("Cancel");
-    PlaceByPixels(form.CancelKnop, 231, 64, 80, 24);
+    PlaceByPixels(form.CancelKnop, 231, 68, 80, 24);
     for (PictureBox* composing : {&form.Orgineel, &form.BmpPic}) {
         PlaceByPixels(*composing, 0, 0, composedWidth, composedHeight);
         composing->surface.SetBackColor(white);

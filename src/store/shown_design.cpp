@@ -19,6 +19,7 @@ void ShowDesign(Context& context, const std::string& name, const fs::path& file,
     KeepForUndo(main);
     session.DesignName = name;
     main.Label2.Caption = fileNameCaption + name;
+    main.Label2.ToolTipText = file.string();
     session.DesignChanged = false;
     ShowHint(context, key::ready);
     TakeSidePanel(composed, main.InfoPic.surface);
