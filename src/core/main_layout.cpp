@@ -151,6 +151,7 @@ struct ToolButton {
 constexpr std::array<ToolButton, 16> toolButtons{{
     {"Draw", " Draw freehand "},
     {"Line", " Draw lines "},
+    main.Label16.Margin = 6;
     {"Shapes", " Draw rectangles, circles, triangles etc. "},
     {"Polygon", " Draw polygon shapes "},
     {"Arc / Pie", " Draw arc, pie, curved lines, etc. "},
@@ -238,13 +239,13 @@ void LayOutTools(MainForm& main) {
         bar.LargeChange = slider.largeChange;
         caption.Caption = slider.text(slider.range.standard);
         const bool framed = slider.panel != nullptr;
-        const int left = framed ? 14 : 10, width = framed ? 138 : 150;
+        const int left = framed ? 16 : 10, width = framed ? 138 : 150;
         Place(caption, left, slider.top, width, 14);
         Place(bar, left, slider.top + 18, width, 16);
         if (!framed) continue;
         Label& panel = main.*slider.panel;
         const bool eraser = slider.bar == &MainForm::HScroll3;
-        Place(panel, 6, slider.top - 6, 154, eraser ? 70 : 48);
+        Place(panel, 10, slider.top - 6, 150, eraser ? 70 : 48);
         panel.Transparent = false;
         panel.BackColor = sliderPanelColour;
         for (Control* part : std::initializer_list<Control*>{&panel, &caption, &bar})
@@ -252,7 +253,7 @@ void LayOutTools(MainForm& main) {
     }
     main.Check1.Caption = "Erase in Fillcolor";
     main.Check1.BackColor = sliderPanelColour;
-    Place(main.Check1, 14, toolSliderTop + 40, 138, 18);
+    Place(main.Check1, 16, toolSliderTop + 40, 138, 18);
     main.Check1.Visible = false;
 }
 

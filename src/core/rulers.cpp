@@ -6,6 +6,8 @@ namespace coinlet {
 
 namespace {
 
+/// Not the paper's white: the canvas is to stand out between them.
+constexpr Colour rulerColour = RGB(232, 230, 208);
 constexpr Colour tickColour = RGB(170, 170, 170);
 constexpr Colour quarterColour = RGB(255, 0, 0);
 constexpr int tickPitch = 5, tickStart = 9;
@@ -15,6 +17,8 @@ constexpr int tickPitch = 5, tickStart = 9;
 void DrawRulers(MainForm& main) {
     Surface& left = main.LeftPic.surface;
     Surface& top = main.TopPic.surface;
+    for (Surface* ground : {&left, &top, &main.HoekPic.surface})
+        ground->SetBackColor(rulerColour);
     const int leftDepth = left.PixelWidth(), topDepth = top.PixelHeight();
     for (int i = 0; i < canvasSide; i += tickPitch) {
         left.Line(tickStart, i, leftDepth, i, tickColour);
