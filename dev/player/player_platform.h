@@ -33,6 +33,7 @@ public:
         : reader_(reader), clock_(clock), answers_(answers) {}
 
     void PopupMenu(MenuItem& menu) override;
+    void MovePointer(const Control& control, float x, float y) override { pointer.PutOn(control, x, y); }
     bool IsPointerOver(const Control& control) const override { return pointer.IsOver(control); }
 
     PointerPlace pointer{*this};

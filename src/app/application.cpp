@@ -13,6 +13,7 @@
 #include "filters/filter_menu.h"
 #include "store/clipboard_copy.h"
 #include "store/recovery.h"
+#include "tools/canvas_keys.h"
 #include "tools/copy_tool.h"
 #include "tools/fill_tools.h"
 #include "tools/flip_menu.h"
@@ -49,7 +50,12 @@ struct Application::House {
         gestures.Add(EmptyBandTools(aboutTool, firstShapeTool - 1));
         BindDialogs(context, strip);
         main.SpareKey = [this](int code, int shift) {
-            return clip.TakesKey(code, shift) || incoming.TakesKey(code, shift);
+            if (code == keyShift) gestures.ShiftTurned(true);
+            return clip.TakesKey(code, shift) || incoming.TakesKey(code, shift) ||
+                   strip.TakesKey(code, shift);
+        };
+        main.KeyReleased = [this](int code, int) {
+            if (code == keyShift) gestures.ShiftTurned(false);
         };
         main.Load = [this] {
             StartUp(context);
@@ -73,6 +79,7 @@ struct Application::House {
     TextTool text{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
+    CanvasKeys canvasKeys{context, gestures};
     FloatingClip clip{context};
     IncomingPictures incoming{context};
     FlipMenu flips{context};

@@ -46,10 +46,12 @@ using KeyEvent = Event<int, int>;
 /// Key codes that the program itself knows.
 constexpr int keyBackspace = 8;
 constexpr int keyReturn = 13;
+constexpr int keyShift = 16;
 constexpr int keyEscape = 27;
 constexpr int keySpace = 32;
 constexpr int keyPageUp = 33, keyPageDown = 34, keyEnd = 35, keyHome = 36;
 constexpr int keyLeft = 37, keyUp = 38, keyRight = 39, keyDown = 40;
+constexpr int keyF10 = 121;
 
 constexpr bool IsStepKey(int code) {
     return code >= keyPageUp && code <= keyDown;

@@ -80,6 +80,7 @@ void Form::KeyDown(Control* target, int code, int shift) {
 void Form::KeyUp(Control* target, int code, int shift) {
     if (!loaded_) return;
     if (Control* control = target ? target : Focus()) control->KeyReleased(code, shift);
+    if (loaded_) Form_KeyReleased(code, shift);
 }
 
 void Form::KeyTyped(Control* target, int character) {

@@ -50,12 +50,17 @@ public:
     /// form itself lives on until its handlers have returned. Does nothing on a form that isn't loaded.
     void Unload();
 
-    /// True while the user holds a button of the pointer that went down over a control of the form.
-    bool PointerHeld() const { return heldButtons_ != 0; }
+    /// True while the user holds a button of the pointer that went down over a control of the form, or a key
+    /// in its place.
+    bool PointerHeld() const { return heldButtons_ != 0 || ButtonsHeldByKeys != 0; }
+    /// The buttons of the pointer that keys hold down in its place; their numbers added up.
+    int ButtonsHeldByKeys = 0;
 
     /// A key that the control with the focus doesn't want. True if the form has used it up; else Escape and
     /// Enter press their buttons.
     virtual bool Form_SpareKey(int /*code*/, int /*shift*/) { return false; }
+    /// A key has come up, whatever has the focus.
+    virtual void Form_KeyReleased(int /*code*/, int /*shift*/) {}
     /// True if the form takes what is dropped on it; Form_Drop then gets it.
     virtual bool TakesDrops() const { return false; }
     virtual void Form_Drop(const Offer& /*offer*/) {}

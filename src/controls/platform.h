@@ -71,6 +71,9 @@ public:
 
     /// Pops up a menu at the pointer and returns at once; what is chosen comes as its own event.
     virtual void PopupMenu(MenuItem& menu) = 0;
+    /// Puts the pointer on a place of a control, in the units of its pointer events. The control isn't told.
+    /// Where windows may not do that, it stays where it is.
+    virtual void MovePointer(const Control& control, float x, float y) = 0;
     /// True if the pointer is over the control and nothing covers it there.
     virtual bool IsPointerOver(const Control& control) const = 0;
 

@@ -30,6 +30,10 @@ void FloatImage(Context& context, const Image& image, FloatingHint hint) {
     main.Pic.SetFocus();
 }
 
+bool ImageFloats(const Context& context) {
+    return context.session.ToolCode == imageFloats && context.main.ClipPic.Shown();
+}
+
 void HideFloatingImage(Context& context) {
     MainForm& main = context.main;
     main.HoekKnop.Visible = false;

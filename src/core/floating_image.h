@@ -17,6 +17,9 @@ enum class FloatingHint {
 /// floats unseen. The canvas gets the focus.
 void FloatImage(Context& context, const Image& image, FloatingHint hint = FloatingHint::Shown);
 
+/// True while an image floats over the canvas.
+bool ImageFloats(const Context& context);
+
 /// Takes the floating image away, with the button that pastes it.
 void HideFloatingImage(Context& context);
 

@@ -52,6 +52,7 @@ public:
     // --- Canvas, rulers, side panel --------------------------------------------------------------------
     Frame Frame2{*this, "Frame2"};
     PictureBox LabelPic{Frame2, "LabelPic"};  ///< The board behind the canvas.
+    Shape KeysShape{LabelPic, "KeysShape"};   ///< Around canvas and rulers while the keys are theirs.
     PictureBox LeftPic{Frame2, "LeftPic"};    ///< The rulers, and the marks of the pointer on them.
     LineShape Line1{LeftPic, "Line1"};
     PictureBox TopPic{Frame2, "TopPic"};
@@ -87,6 +88,7 @@ public:
 
     // --- Tools -----------------------------------------------------------------------------------------
     Frame Frame4{*this, "Frame4"};
+    Shape ToolShape{Frame4, "ToolShape"};                   ///< Behind the button of the tool in use.
     ControlArray<VistaButton> Knop{Frame4, "Knop", 0, 16};  ///< The tools, by their codes.
     Label Label6{Frame4, "Label6"};                         ///< What ColorLabel is.
     Label ColorLabel{Frame4, "ColorLabel"};                 ///< The fill colour.
@@ -199,10 +201,13 @@ public:
 
     /// A key that the control with the focus doesn't want; true if it is used up.
     std::function<bool(int code, int shift)> SpareKey;
+    /// A key has come up.
+    KeyEvent KeyReleased;
     /// Something was dropped on the window.
     Event<const Offer&> Dropped;
 
     bool Form_SpareKey(int code, int shift) override { return SpareKey && SpareKey(code, shift); }
+    void Form_KeyReleased(int code, int shift) override { KeyReleased(code, shift); }
     bool TakesDrops() const override { return true; }
     void Form_Drop(const Offer& offer) override { Dropped(offer); }
     void Form_Load() override { Load(); }

@@ -16,6 +16,7 @@ namespace {
 
 constexpr Colour boardColour = RGB(60, 64, 72);
 constexpr Colour sliderPanelColour = RGB(206, 206, 174);
+constexpr Colour toolInUseColour = RGB(70, 90, 170);
 
 constexpr int rulerWidth = 21, rulerHeight = 20;  // pixels
 /// Where the rulers meet, in twips.
@@ -96,6 +97,15 @@ void LayOutCanvas(MainForm& main) {
     main.Pic.FixedBitmap = true;
     main.Pic.MousePointer = toolPointer;
     main.Pic.LetHaveFocus();
+    main.Pic.TabStop = true;
+    // A pixel of the board stays free between canvas and side panel.
+    const double frameLeft = rulersLeft - main.LabelPic.Left() - twipsPerPixel;
+    const double frameTop = rulersTop - main.LabelPic.Top() - twipsPerPixel;
+    main.KeysShape.Move(frameLeft, frameTop,
+                        canvasLeft + canvasTwips - main.LabelPic.Left() + twipsPerPixel - frameLeft,
+                        canvasTop + canvasTwips - main.LabelPic.Top() + twipsPerPixel - frameTop);
+    main.KeysShape.BorderColor = accentColour;
+    main.KeysShape.Visible = false;
     main.UndoPic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
 
     main.Line1.X2 = rulerWidth;
@@ -129,6 +139,7 @@ void LayOutCanvas(MainForm& main) {
     main.XYcor.BackColor = noteColour;
     main.XYcor.Visible = false;
     main.TextLabel.AutoSize = true;
+    main.TextLabel.Sample = true;
     main.TextLabel.Visible = false;
 
     main.TopInfoPic.Move(8010, 270, Twips(sidePanelWidth), Twips(rulerHeight));
@@ -139,8 +150,8 @@ void LayOutCanvas(MainForm& main) {
                       main.InfoPic.Top() + Twips(sidePanelBackTop), Twips(sidePanelBackSide),
                       Twips(sidePanelBackSide));
     main.Label16.Transparent = false;
-    main.TextLabel.Sample = true;
     main.Label16.BackColor = noteColour;
+    main.Label16.Margin = 6;
     main.Label16.Visible = false;
 }
 
@@ -151,7 +162,6 @@ struct ToolButton {
 constexpr std::array<ToolButton, 16> toolButtons{{
     {"Draw", " Draw freehand "},
     {"Line", " Draw lines "},
-    main.Label16.Margin = 6;
     {"Shapes", " Draw rectangles, circles, triangles etc. "},
     {"Polygon", " Draw polygon shapes "},
     {"Arc / Pie", " Draw arc, pie, curved lines, etc. "},
@@ -222,6 +232,10 @@ void LayOutTools(MainForm& main) {
         button.LoadPictures(toolIconFrames);
         button.SetPicture(ToolIconStrip(i));
     }
+
+    main.ToolShape.Filled = true;
+    main.ToolShape.FillColor = main.ToolShape.BorderColor = toolInUseColour;
+    main.ToolShape.Visible = false;
 
     main.Label6.Caption = "Fillcolor";
     Place(main.Label6, 10, 276, 150, 14);
@@ -303,6 +317,13 @@ void ShowCorner(MainForm& main, int width) {
 }
 
 }  // namespace
+
+void SurroundButton(Shape& shape, const VistaButton& button) {
+    // The room between neighbouring buttons.
+    constexpr double edge = Twips(2);
+    shape.Move(button.Left() - edge, button.Top() - edge, button.Width() + 2 * edge,
+               button.Height() + 2 * edge);
+}
 
 void NarrowCorner(MainForm& main) {
     ShowCorner(main, rulerWidth);

@@ -11,6 +11,9 @@ constexpr int canvasLeft = 495, canvasTop = 570, canvasTwips = static_cast<int>(
 /// the rest stands on a grid of 4 pixels.
 void LayOutMain(MainForm& main);
 
+/// Places a shape so that its edge is seen around a button.
+void SurroundButton(Shape& shape, const VistaButton& button);
+
 /// The corner between the rulers as blank as it is without a floating image.
 void NarrowCorner(MainForm& main);
 /// The corner with room for the whole caption of the button that it holds, over the beginning of the ruler.

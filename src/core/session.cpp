@@ -3,7 +3,9 @@
 namespace coinlet {
 
 void Session::VisitProperties(PropertyVisitor& visitor) {
-    VisitField(visitor, "ToolCode", ToolCode);
+    VisitProperty(
+        visitor, "ToolCode", PropertyKind::Number, [this] { return std::int16_t{ToolCode}; },
+        [this](std::int16_t code) { ToolCode = code; });
     VisitField(visitor, "DesignChanged", DesignChanged);
     VisitField(visitor, "StartX", StartX);
     VisitField(visitor, "StartY", StartY);

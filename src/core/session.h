@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/event.h"
 #include "controls/house_colours.h"
 #include "controls/property.h"
 #include "core/design_revision.h"
@@ -9,13 +10,31 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace coinlet {
+
+/// The value of `ToolCode`, which is read and written as the number that it is.
+class ToolInUse {
+public:
+    ToolInUse& operator=(int code) {
+        const auto former = std::exchange(code_, static_cast<std::int16_t>(code));
+        if (code_ != former) Changed();
+        return *this;
+    }
+    operator std::int16_t() const { return code_; }
+
+    /// Another tool is in use now.
+    Event<> Changed;
+
+private:
+    std::int16_t code_ = nothingArmed;
+};
 
 /// What all forms share beside the canvas: the tool in use and its measures, the gesture, the colour of the
 /// present pick, the design and its metal. Forms read and write it directly.
 struct Session {
-    std::int16_t ToolCode = nothingArmed;
+    ToolInUse ToolCode;
     /// The design has changes that were not saved.
     bool DesignChanged = false;
     /// Where the present gesture started; while drawing free hand, the last point.

@@ -99,7 +99,7 @@ FilterMenu::FilterMenu(Context& context, FilterCore& core) : context_(context), 
 void FilterMenu::Filter_Click(int index) {
     ChangeCanvas([this, index] {
         // No drawing tool stays armed.
-        context_.session.ToolCode = static_cast<std::int16_t>(filterTools + index);
+        context_.session.ToolCode = filterTools + index;
         context_.main.Label16.Visible = false;
         RunEntry(FilterMenuPart::Filter, index);
         const auto* effect = std::ranges::find(effectEntries, index, &EffectEntry::index);

@@ -174,6 +174,15 @@ void QtPlatform::PopupMenu(MenuItem& menu) {
     if (QMenu* popup = window->PopupOf(menu)) popup->popup(QCursor::pos());
 }
 
+void QtPlatform::MovePointer(const Control& control, float x, float y) {
+    const FormWindow* window = WindowOf(control.OwnerForm());
+    const ControlView* view = window ? window->ViewOf(control) : nullptr;
+    if (!view) return;
+    const float unit = control.PointerUnitsPerPixel();
+    const QPoint place(static_cast<int>(std::floor(x / unit)), static_cast<int>(std::floor(y / unit)));
+    warps_.MoveTo(view->Widget().mapToGlobal(place));
+}
+
 bool QtPlatform::IsPointerOver(const Control& control) const {
     const FormWindow* window = WindowOf(control.OwnerForm());
     const ControlView* view = window ? window->ViewOf(control) : nullptr;

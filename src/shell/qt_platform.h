@@ -3,6 +3,7 @@
 #include "controls/platform.h"
 #include "shell/event_gate.h"
 #include "shell/frame_pace.h"
+#include "shell/pointer_warps.h"
 
 #include <QObject>
 #include <QtCore/qnamespace.h>
@@ -36,6 +37,7 @@ public:
     bool Leave(const std::function<void()>& farewell);
 
     void PopupMenu(MenuItem& menu) override;
+    void MovePointer(const Control& control, float x, float y) override;
     bool IsPointerOver(const Control& control) const override;
     void ShowPointer() override { MirrorHourglass(); }
 
@@ -75,6 +77,7 @@ private:
     std::vector<FormWindow*> windows_;  ///< The last one is in front.
     std::vector<ModalLoop> loops_;
     FramePace pace_;
+    PointerWarps warps_;
     bool hourglass_ = false;
 
     int ownDialogs_ = 0;            ///< Message boxes, pickers and dialogs that are open.

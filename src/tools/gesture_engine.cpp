@@ -40,6 +40,8 @@ GestureEngine::GestureEngine(Context& context) : context_(context) {
 }
 
 void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
+    pointer_ = {x, y};
+    leftHeld_ = leftHeld_ || button == leftButton;
     MainForm& main = context_.main;
     Session& session = context_.session;
     Surface& canvas = main.Pic.surface;
@@ -59,8 +61,12 @@ void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
     if (button == rightButton) main.ColorLabel.BackColor = canvas.Point(x, y);
 }
 
-void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
+void GestureEngine::Pic_MouseMove(int button, int shift, float x, float y) {
     MainForm& main = context_.main;
+    // A key may hold the button while the pointer itself moves.
+    if (button == noButton) button = main.ButtonsHeldByKeys;
+    pointer_ = {x, y};
+    leftHeld_ = button == leftButton;
     Session& session = context_.session;
     main.CoorLabel.Caption = "X : " + FormatNumber(x) + " / Y : " + FormatNumber(y);
     for (LineShape* mark : {&main.Line1, &main.Line3})
@@ -75,7 +81,7 @@ void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
     PlaceEraserMarker(x, y);
     if (button != leftButton) return;
 
-    GesturePoint pointer{x, y};
+    GesturePoint pointer = PlaceForTool(shift);
     if (family != nullptr) {
         if (IsSized(family->band)) SizeBand(family->band, pointer);
         if (family->move) family->move(pointer);
@@ -85,7 +91,9 @@ void GestureEngine::Pic_MouseMove(int button, int /*shift*/, float x, float y) {
     session.LastY = pointer.y;
 }
 
-void GestureEngine::Pic_MouseUp(int button, int /*shift*/, float x, float y) {
+void GestureEngine::Pic_MouseUp(int button, int shift, float x, float y) {
+    pointer_ = {x, y};
+    if (button == leftButton) leftHeld_ = false;
     MainForm& main = context_.main;
     Session& session = context_.session;
     if (session.TextPlacing) {
@@ -96,12 +104,25 @@ void GestureEngine::Pic_MouseUp(int button, int /*shift*/, float x, float y) {
     if (button == leftButton) {
         if (session.ToolCode != nothingArmed) session.DesignChanged = true;
         if (const ToolFamily* family = Family(); family != nullptr && family->release)
-            family->release({x, y});
+            family->release(PlaceForTool(shift));
     }
     main.Pic.surface.Refresh();
     main.Layer.Visible = false;
     main.Gom.Visible = false;
     main.XYcor.Visible = false;
+}
+
+void GestureEngine::ShiftTurned(bool held) {
+    const ToolFamily* family = Family();
+    if (!leftHeld_ || family == nullptr || !family->withShift) return;
+    Pic_MouseMove(leftButton, held ? shiftHeld : 0, pointer_.x, pointer_.y);
+}
+
+GesturePoint GestureEngine::PlaceForTool(int shift) const {
+    const ToolFamily* family = Family();
+    const bool keeps = (shift & shiftHeld) != 0 && family != nullptr && family->withShift;
+    const Session& session = context_.session;
+    return keeps ? family->withShift({session.StartX, session.StartY}, pointer_) : pointer_;
 }
 
 void GestureEngine::PlaceEraserMarker(float x, float y) {

@@ -29,6 +29,9 @@ struct ToolFamily {
     std::function<void(GesturePoint)> follow = {};
     /// The left button goes down, is held down in a move, and comes up.
     std::function<void(GesturePoint)> press = {}, move = {}, release = {};
+    /// Where a drag with Shift counts to have come to, in moves and at the release. Empty: Shift means
+    /// nothing.
+    std::function<GesturePoint(GesturePoint anchor, GesturePoint pointer)> withShift = {};
     /// A moving pointer changes the design.
     bool movesChangeDesign = false;
 };
@@ -47,6 +50,10 @@ public:
     void Add(ToolFamily family) { families_.push_back(std::move(family)); }
     /// What a release does while a text hangs on the pointer; no other step runs then.
     std::function<void(GesturePoint)> placeText;
+    /// Where the pointer was when it was last told of, in canvas pixels.
+    GesturePoint Pointer() const { return pointer_; }
+    /// The Shift key went down or came up: the preview of what is being drawn follows at once.
+    void ShiftTurned(bool held);
     /// Runs at the end of each release, whatever it did.
     std::function<void()> strokeFinished;
 
@@ -59,9 +66,13 @@ private:
     void StartBand(float x, float y);
     void SizeBand(Band band, GesturePoint& pointer);
     const ToolFamily* Family() const;
+    /// The place of the pointer as the tool in use takes it.
+    GesturePoint PlaceForTool(int shift) const;
 
     Context& context_;
     std::vector<ToolFamily> families_;
+    GesturePoint pointer_;
+    bool leftHeld_ = false;
 };
 
 }  // namespace coinlet

@@ -3,6 +3,7 @@
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/tool_codes.h"
+#include "tools/kept_proportions.h"
 
 namespace coinlet {
 
@@ -37,6 +38,7 @@ ToolFamily LineTool(Context& context) {
             .press = press,
             .move = move,
             .release = release,
+            .withShift = NextOnRay,
             .movesChangeDesign = true};
 }
 

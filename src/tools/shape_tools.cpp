@@ -5,6 +5,7 @@
 #include "core/main_form.h"
 #include "core/tool_codes.h"
 #include "surface/device.h"
+#include "tools/kept_proportions.h"
 
 #include <algorithm>
 #include <array>
@@ -191,7 +192,15 @@ ToolFamily ShapeTools(Context& context) {
                            static_cast<float>(band.Height())};
         DrawShape(context.main.Pic.surface, session.ToolCode, box, {session.CornerSize, session.RasterStep});
     };
-    return {.firstCode = firstShapeTool, .lastCode = lastShapeTool, .band = Band::Drag, .release = release};
+    // The sides of a raster have no proportion worth keeping.
+    const auto withShift = [&session = context.session](GesturePoint anchor, GesturePoint pointer) {
+        return session.ToolCode == rasterShape ? pointer : CornerOfSquare(anchor, pointer);
+    };
+    return {.firstCode = firstShapeTool,
+            .lastCode = lastShapeTool,
+            .band = Band::Drag,
+            .release = release,
+            .withShift = withShift};
 }
 
 }  // namespace coinlet

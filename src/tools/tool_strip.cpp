@@ -6,6 +6,7 @@
 #include "core/main_layout.h"
 #include "core/text_keys.h"
 #include "core/tool_codes.h"
+#include "core/tool_keys.h"
 #include "core/tool_sliders.h"
 
 #include <array>
@@ -82,7 +83,29 @@ ToolStrip::ToolStrip(Context& context) : context_(context) {
     main.Vormen.Bind(&MenuItem::Click, [this](int index) { Vormen_Click(index); });
     main.ColorLabel.MouseDown = [this](int, int, float, float) { ColorLabel_MouseDown(); };
     main.ExitKnop.Click = [this] { ExitKnop_Click(); };
+    context.session.ToolCode.Changed = [this] { MarkTool(); };
     BindSliders();
+}
+
+bool ToolStrip::TakesKey(int code, int shift) {
+    MainForm& main = context_.main;
+    const auto tool = ToolOfKey(code);
+    if (!tool || shift != 0 || main.PointerHeld()) return false;
+    const VistaButton& button = main.Knop[*tool];
+    if (!button.Shown() || !button.Reachable()) return true;
+    // First, since the tool may have another place for it.
+    main.Pic.SetFocus();
+    button.Click();
+    return true;
+}
+
+/// The focus of a button goes on to other things; which tool is in use stays to be seen behind its button.
+void ToolStrip::MarkTool() {
+    MainForm& main = context_.main;
+    const int code = context_.session.ToolCode;
+    const int place = IsShapeTool(code) ? shapesMenuTool : code;
+    main.ToolShape.Visible = main.Knop.Contains(place);
+    if (main.ToolShape.Visible) SurroundButton(main.ToolShape, main.Knop[place]);
 }
 
 void ToolStrip::BindSliders() {
@@ -116,7 +139,7 @@ void ToolStrip::Knop_Click(int index) {
     MainForm& main = context_.main;
     Session& session = context_.session;
     session.TextPlacing = false;
-    session.ToolCode = static_cast<std::int16_t>(index);
+    session.ToolCode = index;
     main.Pic.MousePointer = toolPointer;
     for (Control* control : std::initializer_list<Control*>{
              &main.Label16, &main.Label9, &main.HScroll2, &main.Label10, &main.Label11, &main.HScroll3,
@@ -137,7 +160,7 @@ void ToolStrip::Knop_Click(int index) {
 
 void ToolStrip::Vormen_Click(int index) {
     MainForm& main = context_.main;
-    context_.session.ToolCode = static_cast<std::int16_t>(index + firstShapeTool - 1);
+    context_.session.ToolCode = index + firstShapeTool - 1;
     for (int i = main.Vormen.First(); i <= lastUncheckedShape; ++i)
         main.Vormen[i].Checked = false;
     main.Vormen[index].Checked = true;

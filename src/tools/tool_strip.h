@@ -22,12 +22,18 @@ public:
     std::array<Event<>, toolButtons> openDialog;
     Event<> openColourChooser;
 
+    /// Chooses the tool of a key, as a click on its button does, if that can be clicked. The canvas gets the
+    /// focus, so that who chooses by keys draws by keys. False for keys of no tool, and while the pointer is
+    /// held down.
+    bool TakesKey(int code, int shift);
+
 private:
     void Knop_Click(int index);
     void Vormen_Click(int index);
     void ColorLabel_MouseDown();
     void ExitKnop_Click();
     void HScroll5_Change();
+    void MarkTool();
     void BindSliders();
 
     Context& context_;

@@ -49,6 +49,7 @@ public:
     }
 
     void PopupMenu(MenuItem& menu) override { popups.push_back(&menu); }
+    void MovePointer(const Control& control, float, float) override { pointerOver = &control; }
     bool IsPointerOver(const Control& control) const override { return pointerOver == &control; }
 
 protected:
@@ -77,8 +78,8 @@ protected:
     }
     std::string AskFolder(const std::string& title, const std::string& start) override {
         prompts.push_back(title);
-        return Taken(folders, "nobody picks a folder");
         foldersOffered.push_back(start);
+        return Taken(folders, "nobody picks a folder");
     }
     void ProgramEnding() override { log.emplace_back("end"); }
 

@@ -66,6 +66,12 @@ std::string Screen::TitleOf(const OpenWindow& window) const {
             static_cast<std::size_t>(xcb_get_property_value_length(title.get()))};
 }
 
+QPoint Screen::Pointer() const {
+    const Owned<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(connection_, xcb_query_pointer(connection_, root_), nullptr));
+    return reply ? QPoint(reply->root_x, reply->root_y) : QPoint();
+}
+
 bool Screen::HasTheKeys(const OpenWindow& window) const {
     const Owned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));

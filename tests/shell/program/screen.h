@@ -31,6 +31,8 @@ public:
     std::string TitleOf(const OpenWindow& window) const;
     /// If what is typed now goes to the window.
     bool HasTheKeys(const OpenWindow& window) const;
+    /// Where the pointer is.
+    QPoint Pointer() const;
     /// Asks the program to close the window, as the close box on its frame does.
     void AskToClose(const OpenWindow& window) const;
     static QImage Grab(const QRect& part);

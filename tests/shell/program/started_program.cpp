@@ -150,6 +150,15 @@ void StartedProgram::ClickRight() {
 void StartedProgram::Key(const std::string& name) {
     Do({"key", name});
 }
+void StartedProgram::Keys(const std::string& name, int times) {
+    Do({"key", "--delay", "4", "--repeat", std::to_string(times), name});
+}
+void StartedProgram::HoldKey(const std::string& name) {
+    Do({"keydown", name});
+}
+void StartedProgram::LetGoKey(const std::string& name) {
+    Do({"keyup", name});
+}
 
 OpenWindow StartedProgram::OpenMenu(const MenuItem& menu) {
     std::vector<const MenuItem*> bar;

@@ -55,6 +55,10 @@ protected:
     void Click(const Control& control, int x, int y) { Click(PlaceOf(control, x, y)); }
     /// A key by its name in the window system: "Return", "ctrl+n".
     void Key(const std::string& name);
+    /// The same key again and again, as quickly as one that is held down comes.
+    void Keys(const std::string& name, int times);
+    void HoldKey(const std::string& name);
+    void LetGoKey(const std::string& name);
     /// Opens a menu of the menu bar by the pointer.
     OpenWindow OpenMenu(const MenuItem& menu);
     /// Clicks at an entry of an open menu. The entries on the screen must be as many as those of the form.

@@ -5,6 +5,7 @@
 #include "support/temporary_folder.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 #include <malloc.h>
 
