@@ -10,7 +10,7 @@ mapfile -t display_fonts <"$(dirname "${BASH_SOURCE[0]}")/display_fonts.txt"
 run_packages+=("${display_fonts[@]}")
 package_packages=(dpkg-dev)
 test_packages=("${package_packages[@]}" lintian appstream desktop-file-utils
-    libgtest-dev libbenchmark-dev libxcb1-dev libsm-dev xvfb xauth xdotool clang-format clang-tidy)
+    libgtest-dev libbenchmark-dev libxcb1-dev libxcb-xtest0-dev libsm-dev xvfb xauth xdotool clang-format clang-tidy)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
     poppler-utils weasyprint faketime)
 
