@@ -34,8 +34,8 @@ void PointerWarps::ForgetOldOnes() {
 }
 
 bool PointerWarps::eventFilter(QObject* target, QEvent* event) {
-    // Windows get it first, and hand it on to what lies in them.
-    if (event->type() != QEvent::MouseMove || !target->isWindowType()) return false;
+    // The toolkit's own window has to see it, or else the toolkit loses count of where the pointer is.
+    if (event->type() != QEvent::MouseMove || !target->isWidgetType()) return false;
     ForgetOldOnes();
     const QPointF place = static_cast<const QMouseEvent&>(*event).globalPosition();
     const auto echo =

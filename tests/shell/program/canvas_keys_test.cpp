@@ -19,7 +19,10 @@ protected:
         return Comes([&] { return ColourAt(OnCanvas(place)) == colour; });
     }
     bool PointerComesTo(const QPoint& place) {
-        return Comes([&] { return screen.Pointer() == OnCanvas(place); });
+        const bool comes = Comes([&] { return screen.Pointer() == OnCanvas(place); });
+        const QPoint off = screen.Pointer() - OnCanvas(place);
+        EXPECT_TRUE(comes) << off.x() << ", " << off.y() << " off";
+        return comes;
     }
     static QRgb OnScreen(Colour colour) { return qRgb(Red(colour), Green(colour), Blue(colour)); }
 };
