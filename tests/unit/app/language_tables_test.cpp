@@ -34,14 +34,33 @@ protected:
         const std::string text = LookupInfoText(context, key);
         EXPECT_FALSE(TrimBlanks(text).empty()) << key;
         const FontSpec font{.name = label.FontName, .size = label.FontSize, .bold = label.FontBold};
-        const auto lines = std::ssize(WrapLine(text, label.PixelWidth(), font, letters));
-        EXPECT_LE(lines * letters.Measure(font, text).height, label.PixelHeight()) << key << " " << text;
+        const int margins = 2 * label.Margin;
+        const auto lines = std::ssize(WrapLine(text, label.PixelWidth() - margins, font, letters));
+        EXPECT_LE(lines * letters.Measure(font, text).height, label.PixelHeight() - margins)
+            << key << " " << text;
     }
 
     const QtFontEngine letters;
 };
 INSTANTIATE_TEST_SUITE_P(AsDelivered, LanguageTable, testing::Values("Nederlands", "English"),
                          [](const auto& test) { return std::string(test.param); });
+
+/// The text without what stands in quotes: captions, which keep their spelling.
+std::string WithoutCaptions(const std::string& text) {
+    std::string own;
+    bool quoted = false;
+    for (const char letter : text) {
+        if (letter == '"') quoted = !quoted;
+        if (!quoted) own += letter;
+    }
+    return own;
+}
+
+TEST_P(LanguageTable, SpellsColourInOneWay) {
+    for (int i = 0; i < main.InfoList.ListCount(); ++i)
+        EXPECT_EQ(LowerCase(WithoutCaptions(main.InfoList.List(i))).find("color"), std::string::npos)
+            << main.InfoList.List(i);
+}
 
 TEST_P(LanguageTable, HasHintsThatFitTheFootOfTheWindow) {
     for (const char* key : hints)
