@@ -3,9 +3,8 @@
 
 #include "designers/arc_form.h"
 #include "media/qt_font_engine.h"
+#include "start_toolkit.h"
 #include "support/world.h"
-
-#include <QGuiApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -14,19 +13,10 @@ namespace {
 
 constexpr int arcMode = 0, triangleMode = 1, curveMode = 3, polygonMode = 4;
 
-/// Letters of Qt need an application.
-void StartToolkit() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    static const QGuiApplication application(count, arguments);
-}
-
 class OpenDesigner : public test::World {
 public:
     explicit OpenDesigner(int mode) {
-        StartToolkit();
+        bench::StartToolkit();
         form.Form_Load();
         form.Option1[mode].SetValue(true);
     }

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 
 namespace coinlet {
 
@@ -128,36 +129,75 @@ TextMask CropToInk(const QImage& picture, QPoint origin) {
     return mask;
 }
 
-TextMask Draw(const FontFamily& family, const FontSpec& spec, std::string_view text, Edges edges,
-              double angle) {
-    const QString letters = Printable(family, spec, text);
-    if (letters.isEmpty()) return {};
-    const QFont font = ToQFont(family, spec, edges);
-    const QFontMetrics metrics(font);
-    QTransform turn;
-    turn.rotate(-angle);  // Its angles run clockwise.
-    const QRect bounds =
-        WithinReach(turn.mapRect(QRectF(InkBounds(metrics, letters, font.pixelSize()))).toAlignedRect());
-    if (bounds.isEmpty()) return {};
+/// A text ready to be drawn.
+class Drawing {
+public:
+    Drawing(const FontFamily& family, const FontSpec& spec, std::string_view text, Edges edges, double angle)
+        : letters_(Printable(family, spec, text)), font_(ToQFont(family, spec, edges)), edges_(edges) {
+        if (letters_.isEmpty()) return;
+        const QFontMetrics metrics(font_);
+        ascent_ = metrics.ascent();
+        turn_.rotate(-angle);  // Its angles run clockwise.
+        bounds_ = WithinReach(
+            turn_.mapRect(QRectF(InkBounds(metrics, letters_, font_.pixelSize()))).toAlignedRect());
+    }
 
-    QImage picture(bounds.size(), QImage::Format_Grayscale8);
-    if (picture.isNull()) return {};
-    picture.fill(Qt::black);
-    {
-        QPainter painter(&picture);
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.setRenderHint(QPainter::TextAntialiasing, edges == Edges::Smooth);
-        painter.setTransform(turn * QTransform::fromTranslate(-bounds.left(), -bounds.top()));
-        painter.drawText(QPointF(0, metrics.ascent()), letters);
+    /// Where there may be ink, from the point that the text is drawn at.
+    QRect Bounds() const { return bounds_; }
+
+    /// The ink in a part of that.
+    TextMask Draw(const QRect& part) const {
+        if (part.isEmpty()) return {};
+        QImage picture(part.size(), QImage::Format_Grayscale8);
+        if (picture.isNull()) return {};
+        picture.fill(Qt::black);
+        {
+            QPainter painter(&picture);
+            painter.setFont(font_);
+            painter.setPen(Qt::white);
+            painter.setRenderHint(QPainter::TextAntialiasing, edges_ == Edges::Smooth);
+            painter.setTransform(turn_ * QTransform::fromTranslate(-part.left(), -part.top()));
+            painter.drawText(QPointF(0, ascent_), letters_);
+        }
+        TextMask mask = CropToInk(picture, part.topLeft());
+        if (edges_ == Edges::Crisp) {
+            // Very large letters are drawn as outlines, which have soft edges whatever is asked for.
+            for (auto& coverage : mask.coverage)
+                coverage = coverage >= 128 ? 255 : 0;
+        }
+        return mask;
     }
-    TextMask mask = CropToInk(picture, bounds.topLeft());
-    if (edges == Edges::Crisp) {
-        // Very large letters are drawn as outlines, which have soft edges whatever is asked for.
-        for (auto& coverage : mask.coverage)
-            coverage = coverage >= 128 ? 255 : 0;
-    }
-    return mask;
+
+private:
+    QString letters_;
+    QFont font_;
+    Edges edges_;
+    int ascent_ = 0;
+    QTransform turn_;
+    QRect bounds_;
+};
+
+QRect ToRect(const TextWindow& window) {
+    // The toolkit's rectangles can't hold all differences of their edges.
+    const auto within = [](int position) {
+        constexpr int farthest = 1 << 24;
+        return position < -farthest ? -farthest : position > farthest ? farthest : position;
+    };
+    return {QPoint(within(window.left), within(window.top)),
+            QPoint(within(window.right) - 1, within(window.bottom) - 1)};
+}
+
+TextWindow ToWindow(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1};
+}
+
+/// What to draw of a text that may have ink in `bounds`: all of it, or, where that is large, what can be seen
+/// of it in the window and `around` it.
+QRect PartToDraw(const QRect& bounds, const TextWindow& window, int around) {
+    constexpr qint64 large = qint64{1} << 20;  // pixels
+    if (qint64{bounds.width()} * bounds.height() <= large) return bounds;
+    const QRect seen = ToRect(window);
+    return bounds.intersected(seen.adjusted(-around, -around, around, around));
 }
 
 /// A family that several foundries offer is listed once for each, as "Name [foundry]"; its plain name gives
@@ -194,11 +234,28 @@ TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) co
 }
 
 TextMask QtFontEngine::Render(const FontSpec& font, std::string_view text, Edges edges, double angle) const {
+    using Limits = std::numeric_limits<int>;
+    return RenderSeen(font, text, edges, angle, {Limits::min(), Limits::min(), Limits::max(), Limits::max()});
+}
+
+TextMask QtFontEngine::RenderSeen(const FontSpec& font, std::string_view text, Edges edges, double angle,
+                                  const TextWindow& window) const {
     const Printed key{Plain(font), std::string(text), edges, PlainAngle(angle)};
     if (const TextMask* known = masks_.Find(key)) return *known;
-    TextMask mask = Draw(added_.Find(font.name), key.font, text, edges, key.angle);
-    constexpr std::size_t largestKept = std::size_t{64} << 10;  // captions, not posters
-    if (mask.coverage.size() <= largestKept) masks_.Add(key, mask);
+    const Drawing drawing(added_.Find(font.name), key.font, text, edges, key.angle);
+    const QRect needed = PartToDraw(drawing.Bounds(), window, 0);
+    if (large_ && large_->key == key && ToRect(large_->part).contains(needed)) return large_->mask;
+    // Outlines and shadows print it once more close by.
+    constexpr int closeBy = 64;
+    const QRect part = PartToDraw(drawing.Bounds(), window, closeBy);
+    TextMask mask = drawing.Draw(part);
+    constexpr std::size_t small = std::size_t{64} << 10;  // captions, not posters
+    constexpr std::size_t largest = std::size_t{4} << 20;
+    if (part == drawing.Bounds() && mask.coverage.size() <= small) {
+        masks_.Add(key, mask);
+    } else if (mask.coverage.size() <= largest) {
+        large_ = {key, ToWindow(part), mask};
+    }
     return mask;
 }
 
@@ -226,6 +283,7 @@ std::string QtFontEngine::AddFontFile(const std::filesystem::path& file) {
         // The name has stood for something else until now.
         extents_.Clear();
         masks_.Clear();
+        large_.reset();
     }
     return family;
 }

@@ -108,8 +108,7 @@ int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigne
     std::int64_t y = rectangle.top;
     for (const std::string_view line : lines) {
         const std::int64_t margin = (flags & DT_CENTER) != 0 ? HalfDown(room - ruler.Width(line)) : 0;
-        StampText(target, ruler.fonts.Render(ruler.font, line, Edges::Crisp),
-                  Saturated(rectangle.left + margin), Saturated(y), clip);
+        StampText(target, {ruler.font, line}, Saturated(rectangle.left + margin), Saturated(y), clip);
         y += lineHeight;
     }
     return Saturated(height);
@@ -133,9 +132,8 @@ void TextOutA(DeviceContext hDC, int x, int y, std::string_view text) {
     constexpr double unitsPerDegree = 10;
     const bool smooth = target.DeviceFont && target.DeviceFont->lfQuality == smoothQuality;
     const double angle = target.DeviceFont ? target.DeviceFont->lfEscapement / unitsPerDegree : 0;
-    StampText(target,
-              target.Fonts().Render(SelectedFont(target), text, smooth ? Edges::Smooth : Edges::Crisp, angle),
-              x, y, {0, 0, target.PixelWidth(), target.PixelHeight()});
+    StampText(target, {SelectedFont(target), text, smooth ? Edges::Smooth : Edges::Crisp, angle}, x, y,
+              {0, 0, target.PixelWidth(), target.PixelHeight()});
 }
 
 int GetDeviceCaps(DeviceContext, int index) {

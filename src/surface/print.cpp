@@ -65,7 +65,7 @@ void Surface::PrintLine(std::string_view line) {
             const int width = piece.size() == line.size() ? whole.width : fonts_->Measure(font, piece).width;
             // Letters may reach out of their cells, but not by more than the height of a line.
             if (x + width + whole.height >= 0 && x - whole.height <= PixelWidth())
-                StampText(*this, fonts_->Render(font, piece, Edges::Crisp), static_cast<int>(x), y, all);
+                StampText(*this, {font, piece}, static_cast<int>(x), y, all);
             x += width;
         }
     }

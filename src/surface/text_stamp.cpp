@@ -1,7 +1,10 @@
 #include "surface/text_stamp.h"
 
+#include "base/windowed_fonts.h"
+
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 
 namespace coinlet {
 namespace {
@@ -21,11 +24,16 @@ int Clamped(std::int64_t position, int low, int high) {
     return static_cast<int>(std::clamp<std::int64_t>(position, low, high));
 }
 
-}  // namespace
+/// `bounds` as seen from a point.
+TextWindow WindowFrom(int x, int y, const PixelRect& bounds) {
+    const auto from = [](int origin, int position) {
+        using Limits = std::numeric_limits<int>;
+        return Clamped(std::int64_t{position} - origin, Limits::min(), Limits::max());
+    };
+    return {from(x, bounds.left), from(y, bounds.top), from(x, bounds.right), from(y, bounds.bottom)};
+}
 
-void StampText(Surface& target, const TextMask& mask, int x, int y, const PixelRect& clip) {
-    const PixelRect bounds = Intersection(clip, {0, 0, target.PixelWidth(), target.PixelHeight()});
-    if (bounds.Empty()) return;
+void StampMask(Surface& target, const TextMask& mask, int x, int y, const PixelRect& bounds) {
     const std::int64_t left = std::int64_t{x} + mask.left, top = std::int64_t{y} + mask.top;
     const PixelRect inked = {Clamped(left, bounds.left, bounds.right),
                              Clamped(top, bounds.top, bounds.bottom),
@@ -46,6 +54,19 @@ void StampText(Surface& target, const TextMask& mask, int x, int y, const PixelR
             }
         }
     }
+}
+
+}  // namespace
+
+void StampText(Surface& target, const Lettering& lettering, int x, int y, const PixelRect& clip) {
+    const PixelRect bounds = Intersection(clip, {0, 0, target.PixelWidth(), target.PixelHeight()});
+    if (bounds.Empty()) return;
+    const auto& [font, text, edges, angle] = lettering;
+    const auto* windowed = dynamic_cast<const WindowedFonts*>(&target.Fonts());
+    StampMask(target,
+              windowed ? windowed->RenderSeen(font, text, edges, angle, WindowFrom(x, y, bounds))
+                       : target.Fonts().Render(font, text, edges, angle),
+              x, y, bounds);
 }
 
 std::vector<std::string_view> DrawnLines(std::string_view text) {

@@ -15,6 +15,7 @@
 #include <limits>
 #include <set>
 #include <sys/stat.h>
+#include <utility>
 
 namespace coinlet {
 namespace {
@@ -459,6 +460,65 @@ TEST(QtFontEngine, FamiliesAreSorted) {
                        std::tolower(static_cast<unsigned char>(y));
             });
         }));
+}
+
+/// The coverage at a pixel, from the point that the text is drawn at; none outside the mask.
+int CoverageAt(const TextMask& mask, int x, int y) {
+    const int column = x - mask.left, row = y - mask.top;
+    if (column < 0 || row < 0 || column >= mask.width || row >= mask.height) return 0;
+    return mask.coverage[static_cast<std::size_t>(row) * static_cast<std::size_t>(mask.width) +
+                         static_cast<std::size_t>(column)];
+}
+
+TEST(LettersSeenInPart, AreTheSameWhereTheyAreSeen) {
+    for (const double angle : {0.0, 37.0, -90.0}) {
+        for (const Edges edges : {Edges::Crisp, Edges::Smooth}) {
+            const QtFontEngine whole, inPart;
+            const TextMask all = whole.Render(Arial(1500), "g&", edges, angle);
+            ASSERT_GT(Ink(all), 0);
+            // About the middle of the ink, then a little beside it, then at its edge.
+            const int x = all.left + all.width / 2, y = all.top + all.height / 2;
+            for (const auto& [left, top] :
+                 {std::pair{x, y}, std::pair{x + 2, y - 1}, std::pair{x - 60, y + 70},
+                  std::pair{all.left - 50, y}, std::pair{x, all.top - 50}}) {
+                const TextWindow window{left, top, left + 100, top + 90};
+                const TextMask seen = inPart.RenderSeen(Arial(1500), "g&", edges, angle, window);
+                EXPECT_LT(seen.coverage.size(), all.coverage.size() / 4);
+                int differing = 0;
+                for (int row = window.top; row < window.bottom; ++row) {
+                    for (int column = window.left; column < window.right; ++column)
+                        differing += CoverageAt(seen, column, row) != CoverageAt(all, column, row) ? 1 : 0;
+                }
+                EXPECT_EQ(differing, 0) << angle << " at " << left << " " << top;
+            }
+        }
+    }
+}
+
+TEST(LettersSeenInPart, AreWholeWhereTheyAreOfUsualSize) {
+    const QtFontEngine fonts;
+    const TextMask whole = fonts.Render(Arial(40), "Hxn", Edges::Crisp);
+    const QtFontEngine others;
+    EXPECT_TRUE(Same(others.RenderSeen(Arial(40), "Hxn", Edges::Crisp, 0, {0, 0, 1, 1}), whole));
+}
+
+TEST(LettersSeenInPart, HaveNoInkFarFromTheWindow) {
+    const QtFontEngine fonts;
+    constexpr int most = std::numeric_limits<int>::max(), least = std::numeric_limits<int>::min();
+    EXPECT_EQ(Ink(fonts.RenderSeen(Arial(9999), "W", Edges::Crisp, 0, {most - 5, 0, most, 500})), 0);
+    EXPECT_EQ(Ink(fonts.RenderSeen(Arial(9999), "W", Edges::Crisp, 0, {0, least, 500, least + 500})), 0);
+    EXPECT_EQ(Ink(fonts.RenderSeen(Arial(9999), "W", Edges::Crisp, 0, {9, 9, 9, 9})), 0);
+}
+
+TEST(LettersSeenInPart, TellOneTextFromAnother) {
+    const QtFontEngine fonts;
+    const TextWindow window{600, 700, 1100, 1200};
+    const TextMask first = fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, window);
+    const TextMask second = fonts.RenderSeen(Arial(1500), "M", Edges::Crisp, 0, window);
+    EXPECT_FALSE(Same(first, second));
+    EXPECT_TRUE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, window), first));
+    EXPECT_FALSE(Same(fonts.RenderSeen(Arial(1600), "W", Edges::Crisp, 0, window), first));
+    EXPECT_FALSE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 5, window), first));
 }
 
 }  // namespace
