@@ -65,6 +65,7 @@ float SymbolForm::ChosenSize() const {
 void SymbolForm::InstalKnop_Click() {
     const Hourglass hourglass(context_.services.platform);
     const std::string family = AddChosenFont();
+    printed_.reset();
     BackLabel.FontName = family;
     BackLabel.FontSize = ChosenSize();
     BackPic.surface.FontName = family;
@@ -72,14 +73,24 @@ void SymbolForm::InstalKnop_Click() {
     DrawSymbolStrip();
 }
 
-void SymbolForm::DrawSymbolStrip() {
+void SymbolForm::PrintStrip() {
     Surface& strip = BackPic.surface;
-    strip.SetPicture({});
     strip.FontSize = ChosenSize();
+    // Every letter that is typed into the field of the size comes here, and most leave its number as it is.
+    const Strip wanted{strip.FontName, BackLabel.Caption, strip.FontSize, BackLabel.Width()};
+    if (printed_ == wanted) return;
+    printed_.reset();
+    strip.SetPicture({});
     // A text that no picture can hold leaves the strip as wide as it was.
     BackPic.SetWidth(BackLabel.Width());
     strip.CurrentX = strip.CurrentY = 0;
     strip.Print(BackLabel.Caption);
+    printed_ = wanted;
+}
+
+void SymbolForm::DrawSymbolStrip() {
+    PrintStrip();
+    const Surface& strip = BackPic.surface;
     ShowStrip(0);
     // A strip narrower than the window leaves nothing to scroll.
     HScroll1.SetMax(RoundHalfEven(strip.ScaleWidth() - Pic.surface.ScaleWidth()));

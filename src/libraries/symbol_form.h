@@ -10,6 +10,7 @@
 #include "controls/vista_button.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace coinlet {
@@ -54,11 +55,23 @@ private:
     /// The number that stands in the list of sizes.
     float ChosenSize() const;
     void DrawSymbolStrip();
+    /// Prints the strip, unless it stands there already.
+    void PrintStrip();
     /// Shows the strip from a column on.
     void ShowStrip(int column);
 
+    /// What the strip's pixels come from.
+    struct Strip {
+        std::string family, text;
+        float size = 0;    ///< Points.
+        double width = 0;  ///< Twips.
+
+        friend bool operator==(const Strip&, const Strip&) = default;
+    };
+
     Context& context_;
-    std::int32_t symbolSize_ = 0;  ///< The last size chosen, in points.
+    std::int32_t symbolSize_ = 0;   ///< The last size chosen, in points.
+    std::optional<Strip> printed_;  ///< Nothing once the letters of a font may have become others.
 };
 
 }  // namespace coinlet

@@ -77,6 +77,41 @@ TEST_F(SymbolFormTest, ASizeIsRoundedOnlyWhereItIsKept) {
     });
 }
 
+TEST_F(SymbolFormTest, LettersBehindTheNumberOfASizeLeaveTheStripButGoBackToItsStart) {
+    Open([&](SymbolForm& dialog) {
+        Surface& strip = dialog.BackPic.surface;
+        dialog.Combo2.SetText("20");
+        const auto printed = strip.Revision();
+        for (const char* text : {"20p", "20po", "20 points", "+20.0"}) {
+            dialog.HScroll1.SetValue(105);
+            EXPECT_EQ(dialog.Pic.surface.Point(4, 0), white) << text;  // Column 109 is the last of a cell.
+            dialog.Caption = "other";
+            dialog.Combo2.SetText(text);
+            EXPECT_EQ(strip.Revision(), printed) << text;
+            EXPECT_EQ(dialog.HScroll1.Value(), 0) << text;
+            EXPECT_EQ(dialog.HScroll1.Max(), 94 * 10 - 552) << text;
+            EXPECT_EQ(dialog.Pic.surface.Point(4, 0), black) << text;
+            EXPECT_EQ(dialog.Caption, "True Type Symbols (940)") << text;
+        }
+        dialog.Combo2.SetText("200");
+        EXPECT_EQ(strip.PixelWidth(), 94 * 100);
+        dialog.Combo2.SetText("20");
+        EXPECT_EQ(strip.PixelWidth(), 94 * 10);
+        EXPECT_EQ(strip.Point(8, 18), black);
+        EXPECT_EQ(strip.Point(9, 19), white);
+    });
+}
+
+TEST_F(SymbolFormTest, ShowPrintsAnewWhateverStandsThere) {
+    Open([&](SymbolForm& dialog) {
+        dialog.InstalKnop.Click();
+        const auto printed = dialog.BackPic.surface.Revision();
+        // The file may hold other letters under the same name by now.
+        dialog.InstalKnop.Click();
+        EXPECT_NE(dialog.BackPic.surface.Revision(), printed);
+    });
+}
+
 TEST_F(SymbolFormTest, ABoxFromOrToNowhereIsQuiet) {
     for (const float from : {nan, huge, -huge, 1e30F, -5.0F, 600.0F}) {
         for (const float to : {nan, huge, -huge, 1e30F, -1e30F, 3.0F}) {
