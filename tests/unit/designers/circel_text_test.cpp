@@ -4,6 +4,7 @@
 #include "designers/circel_text.h"
 
 #include "base/text.h"
+#include "base/windowed_fonts.h"
 #include "designers/rotated_text.h"
 #include "support/world.h"
 
@@ -17,7 +18,7 @@ namespace {
 
 /// A letter is a dot. A cell is as high as its font has points, and as wide as its letter comes in the
 /// alphabet. Keeps what was asked for.
-class DotFonts : public FontEngine {
+class DotFonts : public WindowedFonts {
 public:
     struct Asked {
         FontSpec font;
@@ -36,10 +37,16 @@ public:
         asked.push_back({font, std::string(text), edges, angle});
         return {0, 0, 1, 1, {255}};
     }
+    TextMask RenderSeen(const FontSpec& font, std::string_view text, Edges edges, double angle,
+                        const TextWindow& window) const override {
+        windows.push_back(window);
+        return Render(font, text, edges, angle);
+    }
     std::vector<std::string> Families() const override { return {"Arial", "Dots"}; }
     std::string AddFontFile(const std::filesystem::path&) override { return {}; }
 
     mutable std::vector<Asked> asked;
+    mutable std::vector<TextWindow> windows;  ///< The picture, as seen from the places of the letters.
 };
 
 struct Dot {
@@ -55,6 +62,7 @@ protected:
     }
     void Draw() {
         dots.asked.clear();
+        dots.windows.clear();
         form.DrawKnop.Click();
     }
     std::vector<Dot> Dots(Colour colour) const {
@@ -217,7 +225,25 @@ TEST_F(CircelTextTest, OpenLettersAreWhiteWithinARing) {
     EXPECT_EQ(Dots(main.ColorLabel.BackColor).size(), 8U);
 }
 
-// Their rings lie farther out than any number tells; in sanitized builds nothing may overflow on the way.
+// The letter at 3 o'clock lies 250 beyond the radius, at 2,147,483,646. Its ring ends at the last number that
+// there is; a sum that overflows would lie on the other side of the picture.
+TEST_F(CircelTextTest, RingsOfOpenLettersEndAtTheLastNumber) {
+    form.Text1.SetText("a");
+    form.Check2.SetValue(false);
+    form.Check5.SetValue(true);
+    form.Combo2.SetText("2147483396");
+    Draw();
+    std::vector<int> lefts;
+    for (const TextWindow& window : dots.windows)
+        lefts.push_back(window.left);
+    constexpr int last = 2'147'483'647;
+    EXPECT_EQ(lefts, (std::vector<int>{1 - last, -last, -last, -last, 1 - last, 2 - last, 3 - last, 2 - last,
+                                       1 - last}));
+    EXPECT_EQ(dots.windows.front().top, 2 - 250);
+    EXPECT_EQ(dots.windows.front().right, 500 + (1 - last));
+}
+
+// Farther out still, on either side.
 TEST_F(CircelTextTest, OpenLettersMayLieBeyondAllNumbers) {
     form.Check5.SetValue(true);
     for (const char* radius : {"2147483400", "-2147483400", "1e300", "-1e300"}) {
