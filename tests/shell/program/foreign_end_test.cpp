@@ -53,9 +53,10 @@ protected:
         QElapsedTimer time;
         time.start();
         Send(signal);
-        EXPECT_TRUE(EndsWell());
+        EXPECT_TRUE(Comes([&] { return screen.Windows().empty(); }));
         // It waits for nobody: the pauses of the program are longer, and so is anybody's patience.
         EXPECT_LT(time.elapsed(), 2500);
+        EXPECT_TRUE(EndsWell());
         EXPECT_EQ(folder.Read("Coinlet.ini"), settings);
         ExpectNoStrays();
     }
