@@ -131,6 +131,9 @@ void CurveDrawing::DrawJoiningLines() {
 
 /// The curve ends a little before its last point. The rest is a red line from wherever the cursor is: also
 /// without a curve, where it comes from the last line, or from behind the last number.
+///
+/// A sample is reduced to single precision, which the cursor has: each piece then begins on the pixel that
+/// the one before ended at. One that is hardly less than a half would leave a hole between them.
 void CurveDrawing::DrawBezier() {
     const int degree = points_.PointCount() - 1;
     if (degree < 1) return;
@@ -138,7 +141,7 @@ void CurveDrawing::DrawBezier() {
     if (ShowsCurve()) {
         picture_->PSet(x.front(), y.front(), black);
         for (const CurvePoint& sample : sampler_.Sample(x, y))
-            picture_->LineTo(sample.x, sample.y, CurveColour);
+            picture_->LineTo(static_cast<float>(sample.x), static_cast<float>(sample.y), CurveColour);
     }
     picture_->LineTo(x.back(), y.back(), red);
 }
