@@ -111,7 +111,7 @@ TEST_F(CurveDrawingTest, TwoPointsAreALineWithARedEnd) {
 
 // Sums of doubles are often hardly less than a half; a fill would leak through a hole there.
 TEST_F(CurveDrawingTest, HasNoHoles) {
-    for (int last = 190; last < 490; ++last) {
+    for (int last = 191; last < 490; last += 4) {
         // The right button never takes hold of a point.
         Click(101, 120, rightButton);
         Click(static_cast<float>(last), 120, rightButton);
