@@ -52,6 +52,11 @@ int Truncate(double value) {
     return static_cast<int>(ClampToInt(value));
 }
 
+float Single(double value) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -most, most));
+}
+
 double Val(std::string_view text) {
     text = SkipBlanks(text);
     return TakeNumber(text).value_or(0);

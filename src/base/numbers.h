@@ -13,6 +13,9 @@ int RoundHalfEven(double value);
 /// The whole part, cut off towards zero: 2.9 -> 2, -2.9 -> -2. NaN gives 0; out of range is clamped as above.
 int Truncate(double value);
 
+/// The nearest number of single precision; one that is too large for it gives the largest of that sign.
+float Single(double value);
+
 /// The number that `text` starts with, leading blanks skipped: "12 px" -> 12, "abc" -> 0, "" -> 0.
 /// The decimal sign is a point whatever the desktop's locale. "inf", "nan" and what is beyond the range of
 /// double are no numbers here.

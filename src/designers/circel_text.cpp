@@ -12,9 +12,7 @@
 #include "designers/circel_text_layout.h"
 #include "designers/rotated_text.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -72,8 +70,7 @@ void CircelText::Form_Load() {
 }
 
 float CircelText::LetterSize() const {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(Val(Combo3.Text()), -most, most));
+    return Single(Val(Combo3.Text()));
 }
 
 Colour CircelText::InkColour() const {

@@ -1,5 +1,6 @@
 #include "designers/curve_drawing.h"
 
+#include "base/numbers.h"
 #include "controls/form.h"
 #include "controls/platform.h"
 #include "surface/surface.h"
@@ -141,7 +142,7 @@ void CurveDrawing::DrawBezier() {
     if (ShowsCurve()) {
         picture_->PSet(x.front(), y.front(), black);
         for (const CurvePoint& sample : sampler_.Sample(x, y))
-            picture_->LineTo(static_cast<float>(sample.x), static_cast<float>(sample.y), CurveColour);
+            picture_->LineTo(Single(sample.x), Single(sample.y), CurveColour);
     }
     picture_->LineTo(x.back(), y.back(), red);
 }

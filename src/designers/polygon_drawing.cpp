@@ -6,9 +6,7 @@
 #include "designers/regular_polygon.h"
 #include "surface/device.h"
 
-#include <algorithm>
 #include <array>
-#include <limits>
 #include <string>
 
 namespace coinlet {
@@ -39,12 +37,6 @@ void FillWithTurns(ComboBox& combo) {
                       std::to_string(behindThePoint % ten));
     }
     combo.SetListIndex(0);
-}
-
-/// What a number of single precision can't hold is the largest that it can.
-float Single(double number) {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(number, -most, most));
 }
 
 }  // namespace

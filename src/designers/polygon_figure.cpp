@@ -1,10 +1,9 @@
 #include "designers/polygon_figure.h"
 
+#include "base/numbers.h"
 #include "surface/surface.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace coinlet {
 
@@ -47,11 +46,6 @@ void DrawPolygonFigure(Surface& picture, const PolygonSweep& sweep, double radiu
         previousY = y;
     }
     picture.PSet(0, 0, black);
-}
-
-float Single(double value) {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(value, -most, most));
 }
 
 std::string DegreesWithDecimals(double degrees) {

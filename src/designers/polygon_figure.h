@@ -45,9 +45,6 @@ struct PolygonSweep {
 /// was.
 void DrawPolygonFigure(Surface& picture, const PolygonSweep& sweep, double radius);
 
-/// The nearest number of single precision; what is beyond its range is the end of it.
-float Single(double value);
-
 /// An angle from 0 to 999 degrees with two decimals, a half going up, and the degree sign: "51.43°".
 std::string DegreesWithDecimals(double degrees);
 /// The same in whole degrees: "30°".

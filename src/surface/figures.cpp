@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace coinlet {
 
@@ -38,9 +37,8 @@ int Rounded(double value, int reach) {
 /// it where it is.
 void MoveCursor(Surface& surface, double x, double y) {
     if (std::isnan(x) || std::isnan(y)) return;
-    constexpr double most = std::numeric_limits<float>::max();
-    surface.CurrentX = static_cast<float>(std::clamp(x, -most, most));
-    surface.CurrentY = static_cast<float>(std::clamp(y, -most, most));
+    surface.CurrentX = Single(x);
+    surface.CurrentY = Single(y);
 }
 
 /// Calls `draw` with the bitmap if a figure with these bounds can be seen on it at all.

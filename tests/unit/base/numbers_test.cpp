@@ -38,6 +38,16 @@ TEST(Numbers, RoundingHasAnAnswerForEveryDouble) {
     EXPECT_EQ(RoundHalfEven(most + 0.25), most);
 }
 
+TEST(Numbers, SinglesEndWhereTheirRangeDoes) {
+    constexpr float mostSingle = std::numeric_limits<float>::max();
+    EXPECT_EQ(Single(0.1), 0.1F);
+    EXPECT_EQ(Single(149.49999999999997), 149.5F);
+    EXPECT_EQ(Single(1e300), mostSingle);
+    EXPECT_EQ(Single(-1e300), -mostSingle);
+    EXPECT_EQ(Single(infinity), mostSingle);
+    EXPECT_EQ(Single(-infinity), -mostSingle);
+}
+
 TEST(Numbers, TruncationCutsTowardsZero) {
     EXPECT_EQ(Truncate(2.9), 2);
     EXPECT_EQ(Truncate(-2.9), -2);

@@ -75,13 +75,6 @@ TEST(PolygonTexts, WholeDegreesHaveTheSignAlone) {
     EXPECT_EQ(WholeDegrees(359), "359°");
 }
 
-TEST(PolygonTexts, SinglesEndWhereTheirRangeDoes) {
-    EXPECT_EQ(Single(0.1), 0.1F);
-    EXPECT_EQ(Single(1e300), std::numeric_limits<float>::max());
-    EXPECT_EQ(Single(-1e300), std::numeric_limits<float>::lowest());
-    EXPECT_EQ(Single(std::numeric_limits<double>::infinity()), std::numeric_limits<float>::max());
-}
-
 class PolygonDrawing : public testing::Test {
 protected:
     Image Drawn(const PolygonSweep& sweep, double radius, int width = 400, int height = 400,
