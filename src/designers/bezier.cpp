@@ -4,6 +4,15 @@
 
 namespace coinlet {
 
+namespace {
+
+/// The weight by its binomial coefficient.
+double Weight(double binomial, int I, int N, double T) {
+    return binomial * std::pow(T, I) * std::pow(1 - T, N - I);
+}
+
+}  // namespace
+
 double fact(int N) {
     double product = 1;
     for (int factor = 2; factor <= N; ++factor)
@@ -16,7 +25,7 @@ double C(int N, int K) {
 }
 
 double B(int I, int N, double T) {
-    return C(N, I) * std::pow(T, I) * std::pow(1 - T, N - I);
+    return Weight(C(N, I), I, N, T);
 }
 
 BezierSampler::BezierSampler(double step) {
@@ -33,10 +42,8 @@ void BezierSampler::TakeDegree(std::size_t degree) {
     for (int i = 0; i <= n; ++i)
         binomials.push_back(C(n, i));
     for (const double t : parameters_) {
-        for (int i = 0; i <= n; ++i) {
-            const double binomial = binomials[static_cast<std::size_t>(i)];
-            weights_.push_back(binomial * std::pow(t, i) * std::pow(1 - t, n - i));
-        }
+        for (int i = 0; i <= n; ++i)
+            weights_.push_back(Weight(binomials[static_cast<std::size_t>(i)], i, n, t));
     }
 }
 
