@@ -1,5 +1,6 @@
 #include "libraries/clipart_form.h"
 
+#include "base/files.h"
 #include "base/numbers.h"
 #include "controls/hourglass.h"
 #include "core/context.h"
@@ -9,7 +10,6 @@
 #include "core/text_keys.h"
 #include "filters/colour_removal.h"
 #include "libraries/clipart_form_layout.h"
-#include "libraries/library_file.h"
 #include "surface/codecs.h"
 #include "surface/mirror.h"
 
@@ -77,7 +77,7 @@ void ClipartForm::Form_Load() {
 }
 
 void ClipartForm::LoadSheet() {
-    const auto file = LibraryFile(File1.Path(), Combo1.Text());
+    const auto file = FindFile(File1.Path(), Combo1.Text());
     if (!file) return;
     if (const auto sheet = LoadPicture(*file, context_.services.codecs)) BackPic.surface.SetPicture(*sheet);
 }

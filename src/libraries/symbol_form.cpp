@@ -1,16 +1,16 @@
 #include "libraries/symbol_form.h"
 
+#include "base/file_name.h"
+#include "base/files.h"
 #include "base/numbers.h"
 #include "controls/hourglass.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/floating_image.h"
 #include "core/main_form.h"
-#include "libraries/library_file.h"
 #include "libraries/symbol_form_layout.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 
 namespace coinlet {
@@ -40,7 +40,7 @@ void SymbolForm::Form_Load() {
     File1.SetPattern("*" + std::string(extension));
     File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
     for (int i = 0; i < File1.ListCount(); ++i)
-        Combo1.AddItem(WithoutLastFour(File1.List(i)));
+        Combo1.AddItem(WithoutExtension(File1.List(i)));
     Combo1.SetListIndex(0);
     BackLabel.FontName = Combo1.Text();
     Combo1.SetFocus();
@@ -53,13 +53,12 @@ std::string SymbolForm::AddChosenFont() {
     const int row = Combo1.ListIndex();
     const auto file = row >= 0 && row < File1.ListCount()
                           ? folder / File1.List(row)
-                          : LibraryFile(folder, Combo1.Text() + std::string(extension));
+                          : FindFile(folder, Combo1.Text() + std::string(extension));
     return file ? context_.services.fonts.AddFontFile(*file) : std::string();
 }
 
 float SymbolForm::ChosenSize() const {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(Val(Combo2.Text()), -most, most));
+    return Single(Val(Combo2.Text()));
 }
 
 void SymbolForm::InstalKnop_Click() {

@@ -1,7 +1,5 @@
 #include "store/design_files.h"
 
-#include <algorithm>
-
 namespace coinlet {
 
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension) {
@@ -35,12 +33,6 @@ std::optional<fs::path> FindInfoText(const fs::path& picture) {
 fs::path InfoTextPath(const fs::path& picture) {
     if (auto found = FindInfoText(picture)) return *found;
     return picture.parent_path() / WithoutExtension(picture.filename().string()).append(designInfoText);
-}
-
-std::string WithoutExtension(std::string_view fileName) {
-    constexpr std::size_t extensionLength = 4;
-    fileName.remove_suffix(std::min(fileName.size(), extensionLength));
-    return std::string(fileName);
 }
 
 }  // namespace coinlet

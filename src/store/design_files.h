@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/file_name.h"
 #include "base/files.h"
 
 #include <string>
@@ -32,9 +33,5 @@ std::optional<fs::path> FindInfoText(const fs::path& picture);
 
 /// Where the info text of that design stands or would be made.
 fs::path InfoTextPath(const fs::path& picture);
-
-/// The name of a stored thing from that of its file, such as "coin" from "coin.pat": all but the last four
-/// characters, which are the extension. A shorter name leaves an empty one.
-std::string WithoutExtension(std::string_view fileName);
 
 }  // namespace coinlet
