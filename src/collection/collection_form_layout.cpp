@@ -2,7 +2,7 @@
 
 #include "collection/collection_form.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 
 namespace coinlet {
 
@@ -27,9 +27,7 @@ void LayOutHelp(CollectionForm& form) {
 void LayOutCollectionForm(CollectionForm& form) {
     constexpr int pictureWidth = 211, pictureHeight = 148;
     constexpr int margin = dialogMargin, column = 215, columnWidth = 213, buttonHeight = 24;
-    form.Caption = "My Collection";
-    form.Width = 440 * twipsPerPixel;
-    form.Height = 400 * twipsPerPixel;
+    SetTitleAndSize(form, "My Collection", 440, 400);
     form.List1.SetSorted(true);
     form.List1.ForeColor = RGB(230, 230, 200);
     form.List1.BackColor = RGB(0, 0, 60);

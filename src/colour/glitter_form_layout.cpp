@@ -3,20 +3,19 @@
 #include "colour/glitter_form.h"
 #include "controls/edge.h"
 #include "controls/placing.h"
+#include "core/dialog_layout.h"
 
 namespace coinlet {
 
 void LayOutGlitterForm(GlitterForm& form) {
     // All in pixels.
-    constexpr int margin = 12, beside = 4, barWidth = 20;
+    constexpr int margin = dialogMargin, beside = 4, barWidth = 20;
     constexpr int frameWidth = 672, frameHeight = 504, frameTop = 36;
     constexpr int formWidth = margin + frameWidth + beside + barWidth + margin;
     constexpr int exitWidth = 120, exitHeight = 28;
     constexpr int exitTop = frameTop + frameHeight + beside + barWidth + margin;
 
-    form.Caption = "Glitter Color Chart";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = (exitTop + exitHeight + margin) * twipsPerPixel;
+    SetTitleAndSize(form, "Glitter Color Chart", formWidth, exitTop + exitHeight + margin);
     PlaceByPixels(form.Label1, margin, margin, formWidth - 2 * margin, 16);
     PlaceByPixels(form.PicCont, margin, frameTop, frameWidth, frameHeight);
     SetEdge(form.Shape1, form.PicCont);

@@ -2,6 +2,7 @@
 
 #include "colour/pms_form.h"
 #include "controls/placing.h"
+#include "core/dialog_layout.h"
 
 #include <array>
 
@@ -42,9 +43,7 @@ constexpr std::array labels{
 }  // namespace
 
 void LayOutPmsForm(PMSForm& form) {
-    form.Caption = formTitle;
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, formTitle, formWidth, formHeight);
     for (const LabelPlace& place : labels)
         PlaceByPixels(form.*place.label, place.left, place.top, place.width, place.height);
 

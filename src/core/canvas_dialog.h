@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "core/main_form.h"
 
 namespace coinlet {

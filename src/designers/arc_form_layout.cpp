@@ -15,7 +15,7 @@ namespace {
 constexpr int formWidth = 768, formHeight = 562;
 constexpr int column = canvasDialogColumn, columnWidth = formWidth - dialogMargin - column;
 constexpr int canvasBottom = dialogMargin + canvasSide;
-constexpr int textHeight = 16, optionHeight = 20, optionPitch = 22, buttonHeight = 28;
+constexpr int optionHeight = 20, optionPitch = 22, buttonHeight = 28;
 
 constexpr int optionsTop = dialogMargin + 18;
 constexpr int panelTop = optionsTop + 5 * optionPitch + dialogGap;
@@ -25,18 +25,11 @@ constexpr int panelHeight = penTop - dialogGap - panelTop;
 // In the frames.
 constexpr int inset = 10, innerWidth = columnWidth - 2 * inset;
 
-void PlaceText(Label& label, const char* caption, int left, int top, int width) {
-    label.Caption = caption;
-    PlaceByPixels(label, left, top, width, textHeight);
-}
-
-/// A button, and beside it what it does.
-void PlaceButtonRow(VistaButton& button, const char* caption, Label& label, const char* what, int top) {
+/// A row of a panel: a button, and what it does.
+void PlaceButton(VistaButton& button, const char* caption, Label& label, std::string_view words, int top) {
     constexpr int width = 64;
     button.SetCaption(caption);
-    PlaceByPixels(button, inset, top, width, buttonHeight);
-    PlaceText(label, what, inset + width + dialogGap, top + (buttonHeight - textHeight) / 2 + 1,
-              innerWidth - width - dialogGap);
+    PlaceButtonRow(button, label, words, {inset, top, innerWidth, width, buttonHeight});
 }
 
 void PlaceMenu(ArcForm& form) {
@@ -80,7 +73,7 @@ void PlaceSegments(ArcForm& form) {
     SegmentDrawing& panel = form.Segments;
     for (int i = panel.HScroll2.First(); i <= panel.HScroll2.Last(); ++i) {
         const int top = inset + i * sliderPitch;
-        PlaceByPixels(panel.ScrolLabel[i], inset, top, innerWidth, textHeight);
+        PlaceByPixels(panel.ScrolLabel[i], inset, top, innerWidth, dialogTextHeight);
         PlaceByPixels(panel.HScroll2[i], inset, top + sliderOffset, innerWidth, sliderHeight);
     }
     constexpr int headTop = inset + 3 * sliderPitch + 6, knopsTop = headTop + sliderOffset + 2;
@@ -118,23 +111,12 @@ void PlaceCurves(CurveDrawing& panel) {
 }
 
 void PlacePolygons(PolygonDrawing& panel) {
-    constexpr int combos = 3, width = (innerWidth - (combos - 1) * dialogGap) / combos;
-    constexpr int labelPitch = 18, comboHeight = 24;
-    struct Measure {
-        Label& label;
-        ComboBox& combo;
-        const char* caption;
-    };
-    const Measure measures[] = {{panel.Label12, panel.Combo1, "Sides"},
-                                {panel.Label13, panel.Combo2, "Size"},
-                                {panel.Label14, panel.Combo3, "Rotate"}};
-    int left = inset;
-    for (const Measure& measure : measures) {
-        PlaceText(measure.label, measure.caption, left, inset, width);
-        PlaceByPixels(measure.combo, left, inset + labelPitch, width, comboHeight);
-        left += width + dialogGap;
-    }
-    constexpr int colourTop = inset + labelPitch + comboHeight + 16, swatchWidth = 64, swatchHeight = 24;
+    PlaceNamedFields({{panel.Label12, "Sides", panel.Combo1},
+                      {panel.Label13, "Size", panel.Combo2},
+                      {panel.Label14, "Rotate", panel.Combo3}},
+                     inset, inset, innerWidth, dialogGap);
+    constexpr int colourTop = inset + dialogFieldOffset + dialogFieldHeight + 16, swatchWidth = 64,
+                  swatchHeight = 24;
     PlaceText(panel.Label17, "Fillcolor", inset, colourTop + 5, innerWidth - swatchWidth);
     PlaceByPixels(panel.Label16, inset + innerWidth - swatchWidth, colourTop, swatchWidth, swatchHeight);
     panel.Label16.Transparent = false;
@@ -145,8 +127,9 @@ void PlacePolygons(PolygonDrawing& panel) {
         const int top = slidersTop + i * pitch;
         PlaceText(panel.Label15[i], names.at(static_cast<std::size_t>(i)), inset, top + 1, nameWidth);
         PlaceByPixels(panel.ColorScroll[i], inset + nameWidth, top, innerWidth - nameWidth - valueWidth,
-                      textHeight);
-        PlaceByPixels(panel.ColLabel[i], inset + innerWidth - valueWidth, top + 1, valueWidth, textHeight);
+                      dialogTextHeight);
+        PlaceByPixels(panel.ColLabel[i], inset + innerWidth - valueWidth, top + 1, valueWidth,
+                      dialogTextHeight);
         panel.ColLabel[i].Alignment = Alignment::Right;
     }
 }
@@ -159,8 +142,8 @@ void PlacePen(ArcForm& form) {
     form.HScroll1.SetValue(standard);
     form.HScroll1.LargeChange = 2;
     PlaceByPixels(form.HScroll1, inset, inset + 18, innerWidth, sliderHeight);
-    PlaceButtonRow(form.ResetKnop, "Reset", form.Label7, "Back to Orginal Design",
-                   penHeight - inset - buttonHeight);
+    PlaceButton(form.ResetKnop, "Reset", form.Label7, "Back to Orginal Design",
+                penHeight - inset - buttonHeight);
 }
 
 void PlaceFoot(ArcForm& form) {
@@ -176,9 +159,7 @@ void PlaceFoot(ArcForm& form) {
 }  // namespace
 
 void LayOutArcForm(ArcForm& form) {
-    form.Caption = "Draw Arc, Pie and Triangles";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Draw Arc, Pie and Triangles", formWidth, formHeight);
     PlaceCanvasCopy(form.Pic, form.Shape1);
     form.Pic.MousePointer = crossPointer;
     PlaceByPixels(form.TMPres, 0, 0, canvasSide, canvasSide);
@@ -191,7 +172,7 @@ void LayOutArcForm(ArcForm& form) {
         frame->Visible = frame == &form.Arcs.Frame7;
     }
     PlaceMenu(form);
-    PlaceButtonRow(form.Arcs.ClearKnop, "Clear", form.Arcs.Label18, "Clear Points", inset);
+    PlaceButton(form.Arcs.ClearKnop, "Clear", form.Arcs.Label18, "Clear Points", inset);
     PlaceTriangles(form.Triangles);
     PlaceSegments(form);
     PlaceCurves(form.Curves);

@@ -14,40 +14,16 @@ constexpr int formWidth = 776, formHeight = 560;
 constexpr int margin = dialogMargin, gap = dialogGap;
 constexpr int column = canvasDialogColumn, columnWidth = formWidth - margin - column;
 constexpr int canvasBottom = margin + canvasSide;
-constexpr int labelHeight = 16, fieldHeight = 24, labelPitch = 18;
-
-void Head(Label& label, const char* caption, int left, int top, int width) {
-    label.Caption = caption;
-    PlaceByPixels(label, left, top, width, labelHeight);
-}
-
-void PlaceText(CircelText& form) {
-    Head(form.Label1, "My Text", column, margin, columnWidth);
-    PlaceByPixels(form.Text1, column, margin + labelPitch, columnWidth, fieldHeight);
-}
 
 void PlaceMeasures(CircelText& form) {
-    constexpr int top = 72, combos = 3, between = 9;
-    constexpr int width = (columnWidth - (combos - 1) * between) / combos, pitch = width + between;
-    struct Measure {
-        Label& label;
-        ComboBox& combo;
-        const char* caption;
-    };
-    const Measure measures[] = {{form.Label2, form.Combo1, "Distance"},
-                                {form.Label3, form.Combo2, "Radius"},
-                                {form.Label5, form.Combo3, "Fontsize"}};
-    int left = column;
-    for (const Measure& measure : measures) {
-        Head(measure.label, measure.caption, left, top, width);
-        PlaceByPixels(measure.combo, left, top + labelPitch, width, fieldHeight);
-        left += pitch;
-    }
-    constexpr int fontTop = 132;
-    Head(form.Label7, "Letterfont", column, fontTop, columnWidth);
-    constexpr int comboTop = fontTop + labelPitch, sampleHeight = 28;
-    PlaceByPixels(form.Combo4, column, comboTop, columnWidth, fieldHeight);
-    PlaceByPixels(form.FontLabel, column, comboTop + fieldHeight + gap / 2, columnWidth, sampleHeight);
+    constexpr int measuresTop = 72, between = 9, fontTop = 132;
+    PlaceNamedFields({{form.Label2, "Distance", form.Combo1},
+                      {form.Label3, "Radius", form.Combo2},
+                      {form.Label5, "Fontsize", form.Combo3}},
+                     column, measuresTop, columnWidth, between);
+    PlaceNamedField(form.Label7, "Letterfont", form.Combo4, column, fontTop, columnWidth);
+    constexpr int sampleTop = fontTop + dialogFieldOffset + dialogFieldHeight + gap / 2, sampleHeight = 28;
+    PlaceByPixels(form.FontLabel, column, sampleTop, columnWidth, sampleHeight);
 }
 
 void PlaceStyle(CircelText& form) {
@@ -80,7 +56,7 @@ void PlaceStyle(CircelText& form) {
 void PlaceButtons(CircelText& form) {
     constexpr int height = 28;
     constexpr int drawTop = canvasBottom - height, wayOutTop = formHeight - margin - height;
-    Head(form.Label4, "Draw curved text", column, drawTop - labelPitch, columnWidth);
+    PlaceText(form.Label4, "Draw curved text", column, drawTop - dialogFieldOffset, columnWidth);
     form.DrawKnop.SetCaption("Draw");
     PlaceByPixels(form.DrawKnop, column, drawTop, columnWidth, height);
     PlaceWaysOut(form.ExportKnop, form.CancelKnop, column, wayOutTop, columnWidth, height);
@@ -89,13 +65,11 @@ void PlaceButtons(CircelText& form) {
 }  // namespace
 
 void LayOutCircelText(CircelText& form) {
-    form.Caption = "Curved Text";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Curved Text", formWidth, formHeight);
     PlaceCanvasCopy(form.Pic, form.Shape1);
     constexpr int below = canvasBottom + gap;
     PlaceByPixels(form.Label8, margin, below, canvasSide, formHeight - margin - below);
-    PlaceText(form);
+    PlaceNamedField(form.Label1, "My Text", form.Text1, column, margin, columnWidth);
     PlaceMeasures(form);
     PlaceStyle(form);
     PlaceButtons(form);

@@ -2,7 +2,7 @@
 
 #include "controls/house_colours.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "designers/polygon_figure.h"
 #include "designers/polygon_form.h"
 
@@ -20,18 +20,12 @@ constexpr int columnPitch = 136, columnWidth = 120;
 constexpr int column1 = margin + board + 20, column2 = column1 + columnPitch;
 constexpr int columnsWidth = columnPitch + columnWidth;
 constexpr int formWidth = column1 + columnsWidth + margin, formHeight = 466;
-constexpr int labelHeight = 16, fieldHeight = 24, labelPitch = 18, rowPitch = 50;
+constexpr int rowPitch = 50;
 constexpr int barThickness = 20;
 // The groups, from above.
 constexpr int shapeTop = margin, rotationTop = 134, figuresTop = 202, penTop = 324;
 
 constexpr Colour boardColour = RGB(200, 200, 168);
-
-void PlaceField(Label& label, const char* caption, TextBox& field, int left, int top, int width) {
-    label.Caption = caption;
-    PlaceByPixels(label, left, top, width, labelHeight);
-    PlaceByPixels(field, left, top + labelPitch, width, fieldHeight);
-}
 
 /// A field that can be typed into is told from the others by a light ground.
 void MakeLight(TextBox& field, Colour colour) {
@@ -50,28 +44,28 @@ void PlaceDrawing(PolygonForm& form) {
     constexpr int top = 428, labelWidth = 80, valueWidth = 24;
     constexpr int barLeft = margin + labelWidth + gap, valueLeft = margin + board - valueWidth;
     form.Label13.Caption = "Size Polygon";
-    PlaceByPixels(form.Label13, margin, top + 2, labelWidth, labelHeight);
+    PlaceByPixels(form.Label13, margin, top + 2, labelWidth, dialogTextHeight);
     form.HScroll1.SetRange(smallestStep, largestStep);
     form.HScroll1.SetValue(largestStep);
     form.HScroll1.LargeChange = 2;
     PlaceByPixels(form.HScroll1, barLeft, top, valueLeft - gap - barLeft, barThickness);
     form.Label14.Caption = std::to_string(largestStep - smallestStep);
     form.Label14.Alignment = Alignment::Right;
-    PlaceByPixels(form.Label14, valueLeft, top + 2, valueWidth, labelHeight);
+    PlaceByPixels(form.Label14, valueLeft, top + 2, valueWidth, dialogTextHeight);
 }
 
 /// Both bars grow upward: their largest value stands at the top.
 void PlaceShape(PolygonForm& form) {
     constexpr int width = columnWidth - barThickness - 4, barOffset = columnWidth - barThickness;
     constexpr int usualSides = 10, leastTenths = 1, mostTenths = 1000, usualTenths = 10;
-    PlaceField(form.Label1, "Number of faces", form.txtNumberofSides, column1, shapeTop, width);
-    PlaceField(form.Label9, "Degrees Corners", form.txtDegrees, column1, shapeTop + rowPitch, width);
-    PlaceField(form.Label6, "Circle diameter", form.txtDiameter, column2, shapeTop, width);
-    PlaceField(form.Label7, "Radius", form.txtRadius, column2, shapeTop + rowPitch, width);
+    PlaceNamedField(form.Label1, "Number of faces", form.txtNumberofSides, column1, shapeTop, width);
+    PlaceNamedField(form.Label9, "Degrees Corners", form.txtDegrees, column1, shapeTop + rowPitch, width);
+    PlaceNamedField(form.Label6, "Circle diameter", form.txtDiameter, column2, shapeTop, width);
+    PlaceNamedField(form.Label7, "Radius", form.txtRadius, column2, shapeTop + rowPitch, width);
     MakeLight(form.txtNumberofSides, RGB(190, 220, 220));
     MakeLight(form.txtDiameter, RGB(190, 230, 190));
 
-    constexpr int barTop = shapeTop + labelPitch, barLength = rowPitch + fieldHeight;
+    constexpr int barTop = shapeTop + dialogFieldOffset, barLength = rowPitch + dialogFieldHeight;
     PlaceByPixels(form.vsbNumberofSides, column1 + barOffset, barTop, barThickness, barLength);
     PlaceByPixels(form.vsbDiameter, column2 + barOffset, barTop, barThickness, barLength);
     form.vsbNumberofSides.SetRange(mostSides, fewestSides);
@@ -84,8 +78,8 @@ void PlaceShape(PolygonForm& form) {
 }
 
 void PlaceRotation(PolygonForm& form) {
-    constexpr int width = 56, barLeft = column1 + width + gap, top = rotationTop + labelPitch;
-    PlaceField(form.Label11, "Rotation", form.txtInitialSide, column1, rotationTop, width);
+    constexpr int width = 56, barLeft = column1 + width + gap, top = rotationTop + dialogFieldOffset;
+    PlaceNamedField(form.Label11, "Rotation", form.txtInitialSide, column1, rotationTop, width);
     form.hsbRotate.SetRange(0, wholeTurn);
     form.hsbRotate.LargeChange = 15;
     PlaceByPixels(form.hsbRotate, barLeft, top + 2, column1 + columnsWidth - barLeft, barThickness);
@@ -94,20 +88,18 @@ void PlaceRotation(PolygonForm& form) {
 
 void PlaceFigures(PolygonForm& form) {
     constexpr int below = figuresTop + rowPitch;
-    PlaceField(form.Label4, "Circumference", form.txtCircumference, column1, figuresTop, columnWidth);
-    PlaceField(form.Label5, "Arc length", form.txtArcLength, column2, figuresTop, columnWidth);
-    PlaceField(form.Label2, "Length of side", form.txtLengthofSide, column1, below, columnWidth);
-    PlaceField(form.Label3, "Perimeter", form.txtPerimeter, column2, below, columnWidth);
+    PlaceNamedField(form.Label4, "Circumference", form.txtCircumference, column1, figuresTop, columnWidth);
+    PlaceNamedField(form.Label5, "Arc length", form.txtArcLength, column2, figuresTop, columnWidth);
+    PlaceNamedField(form.Label2, "Length of side", form.txtLengthofSide, column1, below, columnWidth);
+    PlaceNamedField(form.Label3, "Perimeter", form.txtPerimeter, column2, below, columnWidth);
 }
 
 void PlacePen(PolygonForm& form) {
     constexpr int widestPen = 9, checkHeight = 20, checkPitch = 22;
-    form.Label15.Caption = "Line Width";
-    PlaceByPixels(form.Label15, column1, penTop, columnWidth, labelHeight);
     for (int width = 1; width <= widestPen; ++width)
         form.Combo1.AddItem(std::to_string(width));
     form.Combo1.SetListIndex(0);
-    PlaceByPixels(form.Combo1, column1, penTop + labelPitch, columnWidth, fieldHeight);
+    PlaceNamedField(form.Label15, "Line Width", form.Combo1, column1, penTop, columnWidth);
     form.Check1.Caption = "Flat Circle";
     PlaceByPixels(form.Check1, column2, penTop, columnWidth, checkHeight);
     form.chkCircle.Caption = "Half Circle";
@@ -117,9 +109,7 @@ void PlacePen(PolygonForm& form) {
 }  // namespace
 
 void LayOutPolygonForm(PolygonForm& form) {
-    form.Caption = "Design Polygons";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Design Polygons", formWidth, formHeight);
     PlaceDrawing(form);
     PlaceShape(form);
     PlaceRotation(form);

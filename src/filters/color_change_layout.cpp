@@ -11,7 +11,6 @@ namespace coinlet {
 namespace {
 
 constexpr int column = canvasDialogColumn, columnWidth = dialogColumnWidth;
-constexpr int textHeight = 16;
 
 // The boxes stand in two columns about the middle of the dialog's right side.
 constexpr int boxWidth = 80, boxHeight = 24, boxPitch = 32, boxesTop = 148;
@@ -22,16 +21,13 @@ constexpr int patchTop = boxesBottom + 32, patchHeight = 32;
 
 void PlacePalettes(ColorChange& form) {
     PlaceByPixels(form.InfoLabel, column, dialogMargin, columnWidth, 44);
-    form.Label5.Caption = "Change Colors";
-    PlaceByPixels(form.Label5, column, 68, columnWidth, textHeight);
-    PlaceByPixels(form.Combo1, column, 86, columnWidth, 24);
+    PlaceNamedField(form.Label5, "Change Colors", form.Combo1, column, 68, columnWidth);
 }
 
 void PlaceBoxes(ColorChange& form) {
     const auto head = [](Label& label, const char* caption, int left) {
-        label.Caption = caption;
         label.Alignment = Alignment::Center;
-        PlaceByPixels(label, left, boxesTop - textHeight - 4, boxWidth, textHeight);
+        PlaceText(label, caption, left, boxesTop - dialogTextHeight - 4, boxWidth);
     };
     head(form.Label2, "Target", targetLeft);
     head(form.Label3, "Result", resultLeft);
@@ -72,9 +68,9 @@ void PlaceSliders(ColorChange& form) {
     PlaceByPixels(form.ColorLabel, column + (columnWidth - boxWidth) / 2, patchTop, boxWidth, patchHeight);
     for (int i = form.HScroll1.First(); i <= form.HScroll1.Last(); ++i) {
         const int top = slidersTop + i * pitch;
-        PlaceByPixels(form.Label6[i], column, top + 2, labelWidth, textHeight);
+        PlaceByPixels(form.Label6[i], column, top + 2, labelWidth, dialogTextHeight);
         form.HScroll1[i].SetRange(0, highest);
-        PlaceByPixels(form.HScroll1[i], column + labelWidth, top, columnWidth - labelWidth, textHeight);
+        PlaceByPixels(form.HScroll1[i], column + labelWidth, top, columnWidth - labelWidth, dialogTextHeight);
     }
 }
 
@@ -91,9 +87,7 @@ void PlaceButtons(ColorChange& form) {
 }  // namespace
 
 void LayOutColorChange(ColorChange& form) {
-    form.Caption = "Replace Colors";
-    form.Width = dialogWidth * twipsPerPixel;
-    form.Height = dialogHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Replace Colors", dialogWidth, dialogHeight);
     PlaceCanvasCopy(form.Pic, form.Shape1[0]);
     PlaceByPixels(form.BackPic, 0, 0, canvasSide, canvasSide);
     form.BackPic.Visible = false;

@@ -46,15 +46,12 @@ constexpr std::array<RemovalRow, 3> channelRows{{
 }};
 
 void Place(VistaButton& button, Label& label, const RemovalRow& row, const RemoveForm& form) {
-    constexpr int buttonWidth = 76, buttonHeight = 24, gap = 8, textHeight = 16;
+    constexpr int buttonWidth = 76, buttonHeight = 24;
     button.SetCaption(row.caption);
     button.SetUseMaskColor(false);
     button.SetPictures(1);
     button.SetPicture(Swatch(form, row.upper, row.lower));
-    PlaceByPixels(button, column, row.top, buttonWidth, buttonHeight);
-    label.Caption = row.label;
-    PlaceByPixels(label, column + buttonWidth + gap, row.top + (buttonHeight - textHeight) / 2 + 2,
-                  columnWidth - buttonWidth - gap, textHeight);
+    PlaceButtonRow(button, label, row.label, {column, row.top, columnWidth, buttonWidth, buttonHeight});
 }
 
 void PlaceReadOut(RemoveForm& form) {
@@ -89,9 +86,7 @@ void PlaceWaysOut(RemoveForm& form) {
 }  // namespace
 
 void LayOutRemoveForm(RemoveForm& form) {
-    form.Caption = "Color Adjustment / Removal";
-    form.Width = dialogWidth * twipsPerPixel;
-    form.Height = dialogHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Color Adjustment / Removal", dialogWidth, dialogHeight);
     PlaceCanvasCopy(form.Pic, form.Shape1[0]);
     form.Pic.MousePointer = crossPointer;
     PlaceByPixels(form.Label2, column, dialogMargin, columnWidth, 44);

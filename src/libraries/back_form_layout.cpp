@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "core/side_panel.h"
 #include "libraries/back_form.h"
 
@@ -46,9 +46,7 @@ void PlaceChoice(BackForm& form) {
 }  // namespace
 
 void LayOutBackForm(BackForm& form) {
-    form.Caption = "Tag Backs";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Tag Backs", formWidth, formHeight);
     form.BackPic.surface.AutoSize = true;
     form.BackPic.Visible = false;
     form.List1.Visible = false;

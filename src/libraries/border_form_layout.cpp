@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "libraries/border_form.h"
 
 #include <cstddef>
@@ -69,9 +69,7 @@ void PlaceWaysOut(BorderForm& form) {
 }  // namespace
 
 void LayOutBorderForm(BorderForm& form) {
-    form.Caption = "Tag Borders";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Tag Borders", formWidth, formHeight);
     PlaceHiddenPictures(form);
     PlaceByPixels(form.List1, margin, margin, listWidth, listHeight);
     PlaceByPixels(form.Pic, previewLeft, margin, previewSide, previewSide);

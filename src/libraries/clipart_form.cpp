@@ -22,14 +22,10 @@ namespace {
 
 constexpr std::string_view libraryFolder = "\\Cliparts";
 
-// A sheet is a row of cliparts; on show it is a third of its size. All in pixels.
-constexpr int cliparts = 5;
-constexpr int clipartWidth = 330, clipartHeight = 360;
+// All in pixels.
 constexpr int sheetWidth = cliparts * clipartWidth, sheetHeight = clipartHeight;
 constexpr Rectangle wholeSheet{0, 0, sheetWidth, sheetHeight};
-constexpr int thumbnailWidth = clipartWidth / 3, thumbnailHeight = clipartHeight / 3;
-constexpr int shownWidth = cliparts * thumbnailWidth, shownHeight = thumbnailHeight;
-constexpr Rectangle thumbnails{0, 0, shownWidth, shownHeight};
+constexpr Rectangle thumbnails{0, 0, cliparts* thumbnailWidth, thumbnailHeight};
 constexpr Rectangle wholeClipart{0, 0, clipartWidth, clipartHeight};
 
 /// Height of a clipart for each pixel of its width.

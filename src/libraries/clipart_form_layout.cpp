@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "core/stock_pictures.h"
 #include "core/tool_codes.h"
 #include "libraries/clipart_form.h"
@@ -14,15 +14,14 @@ namespace {
 // The choice on top, the clipart below with its size beside it, what can be done to it in a column on the
 // right. All in pixels.
 constexpr int margin = dialogMargin;
-constexpr int sheetWidth = 550, sheetHeight = 120;
-constexpr int largestWidth = 330, largestHeight = 360, smallestWidth = 110;
+constexpr int sheetWidth = cliparts * thumbnailWidth, sheetHeight = thumbnailHeight;
 constexpr int formWidth = sheetWidth + 2 * margin;
 constexpr int hintTop = margin, comboTop = 36, sheetTop = 72;
 constexpr int clipartTop = sheetTop + sheetHeight + 16;
-constexpr int formHeight = clipartTop + largestHeight + margin;
-constexpr int sliderLeft = margin + largestWidth + dialogGap, sliderWidth = 20;
+constexpr int formHeight = clipartTop + clipartHeight + margin;
+constexpr int sliderLeft = margin + clipartWidth + dialogGap, sliderWidth = 20;
 constexpr int column = sliderLeft + sliderWidth + 16, columnWidth = formWidth - margin - column;
-constexpr int labelHeight = 16, fieldHeight = 24, buttonHeight = 28;
+constexpr int buttonHeight = 28;
 
 void PlaceHiddenPictures(ClipartForm& form) {
     form.File1.Visible = false;
@@ -34,52 +33,40 @@ void PlaceHiddenPictures(ClipartForm& form) {
 
 void PlaceLibrary(ClipartForm& form) {
     constexpr int nameWidth = 52, comboWidth = 248, totalWidth = 160;
-    PlaceByPixels(form.Label6, margin, hintTop, sheetWidth, labelHeight);
-    form.Label4.Caption = "Library";
-    PlaceByPixels(form.Label4, margin, comboTop + 5, nameWidth, labelHeight);
-    PlaceByPixels(form.Combo1, margin + nameWidth, comboTop, comboWidth, fieldHeight);
+    PlaceByPixels(form.Label6, margin, hintTop, sheetWidth, dialogTextHeight);
+    PlaceText(form.Label4, "Library", margin, comboTop + 5, nameWidth);
+    PlaceByPixels(form.Combo1, margin + nameWidth, comboTop, comboWidth, dialogFieldHeight);
     form.Label5.Alignment = Alignment::Right;
-    PlaceByPixels(form.Label5, formWidth - margin - totalWidth, comboTop + 5, totalWidth, labelHeight);
+    PlaceByPixels(form.Label5, formWidth - margin - totalWidth, comboTop + 5, totalWidth, dialogTextHeight);
     PlaceByPixels(form.Pic, margin, sheetTop, sheetWidth, sheetHeight);
     SetEdge(form.Shape1[0], form.Pic);
 }
 
 void PlaceClipart(ClipartForm& form) {
-    PlaceByPixels(form.BigPic, margin, clipartTop, largestWidth, largestHeight);
+    PlaceByPixels(form.BigPic, margin, clipartTop, clipartWidth, clipartHeight);
     SetEdge(form.Shape1[1], form.BigPic);
-    form.VScroll2.SetRange(smallestWidth, largestWidth);
-    form.VScroll2.SetValue(smallestWidth);
-    PlaceByPixels(form.VScroll2, sliderLeft, clipartTop, sliderWidth, largestHeight);
-    form.Label9.Caption = "Size Clipart (110x120)";
-    PlaceByPixels(form.Label9, column, clipartTop, columnWidth, labelHeight);
-}
-
-/// A button with the words for what it does beside it, in as many lines as they take.
-void PlaceWithLabel(VistaButton& button, Label& label, const char* caption, int lines, int top) {
-    constexpr int width = 68;
-    const int height = lines * labelHeight;
-    PlaceByPixels(button, column, top, width, buttonHeight);
-    label.Caption = caption;
-    PlaceByPixels(label, column + width + dialogGap, top + (buttonHeight - height) / 2,
-                  columnWidth - width - dialogGap, height);
+    form.VScroll2.SetRange(thumbnailWidth, clipartWidth);
+    form.VScroll2.SetValue(thumbnailWidth);
+    PlaceByPixels(form.VScroll2, sliderLeft, clipartTop, sliderWidth, clipartHeight);
+    PlaceText(form.Label9, "Size Clipart (110x120)", column, clipartTop, columnWidth);
 }
 
 void PlaceChanges(ClipartForm& form) {
-    constexpr int firstTop = clipartTop + 36, pitch = buttonHeight + dialogGap;
+    constexpr int firstTop = clipartTop + 36, secondTop = firstTop + buttonHeight + dialogGap, width = 68;
     form.BWKnop.SetCaption("Remove");
-    PlaceWithLabel(form.BWKnop, form.Label2, "All colors except Black", 2, firstTop);
+    PlaceButtonRow(form.BWKnop, form.Label2, "All colors except Black",
+                   {column, firstTop, columnWidth, width, buttonHeight}, 2);
     form.HorKnop.SetCaption("");
     form.HorKnop.LoadPictures(3);
     form.HorKnop.SetPicture(ToolIconStrip(flipMenuTool));
-    PlaceWithLabel(form.HorKnop, form.Label7, "Mirror", 1, firstTop + pitch);
+    PlaceButtonRow(form.HorKnop, form.Label7, "Mirror",
+                   {column, secondTop, columnWidth, width, buttonHeight});
 }
 
 }  // namespace
 
 void LayOutClipartForm(ClipartForm& form) {
-    form.Caption = "Cliparts";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Cliparts", formWidth, formHeight);
     PlaceHiddenPictures(form);
     PlaceLibrary(form);
     PlaceClipart(form);

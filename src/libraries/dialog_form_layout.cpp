@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "libraries/dialog_form.h"
 
 #include <array>
@@ -15,11 +15,13 @@ namespace coinlet {
 namespace {
 
 // Two columns: where to find pictures, and the picture. All in pixels.
-constexpr int margin = dialogMargin, gap = 16, rowHeight = 16, labelPitch = 20;
+constexpr int margin = dialogMargin, gap = 16, labelPitch = 20;
 constexpr int columnWidth = 220;
 constexpr int placesHeight = 68, foldersHeight = 180;
 constexpr int viewLeft = margin + columnWidth + gap, viewTop = margin;
-constexpr int viewWidth = 637, viewHeight = 429, barSize = 16, barGap = 4;
+constexpr int viewWidth = static_cast<int>(viewportWidth / twipsPerPixel);
+constexpr int viewHeight = static_cast<int>(viewportHeight / twipsPerPixel);
+constexpr int barSize = 16, barGap = 4;
 constexpr int formWidth = viewLeft + viewWidth + barGap + barSize + margin;
 constexpr int factsTop = viewTop + viewHeight + barGap + barSize + 12;
 constexpr int buttonHeight = 28, buttonTop = factsTop + 2 * labelPitch + 12;
@@ -27,8 +29,7 @@ constexpr int formHeight = buttonTop + buttonHeight + margin;
 
 /// A heading and the list under it; gives the row below.
 int PlaceList(Label& heading, std::string_view caption, ListBox& list, int top, int height) {
-    heading.Caption = caption;
-    PlaceByPixels(heading, margin, top, columnWidth, rowHeight);
+    PlaceText(heading, caption, margin, top, columnWidth);
     PlaceByPixels(list, margin, top + labelPitch, columnWidth, height);
     return top + labelPitch + height + 12;
 }
@@ -70,8 +71,8 @@ void PlaceHiddenPictures(DialogForm& form) {
 
 void PlaceFoot(DialogForm& form) {
     constexpr int stretchWidth = 120, waysOutWidth = 248, right = viewLeft + viewWidth + barGap + barSize;
-    PlaceByPixels(form.Label4, viewLeft, factsTop, right - viewLeft, rowHeight);
-    PlaceByPixels(form.Label5, viewLeft, factsTop + labelPitch, right - viewLeft, rowHeight);
+    PlaceByPixels(form.Label4, viewLeft, factsTop, right - viewLeft, dialogTextHeight);
+    PlaceByPixels(form.Label5, viewLeft, factsTop + labelPitch, right - viewLeft, dialogTextHeight);
     form.HoekKnop.SetCaption(" Stretch Picture ");
     PlaceByPixels(form.HoekKnop, viewLeft, buttonTop, stretchWidth, buttonHeight);
     PlaceWaysOut(form.ExportKnop, form.CancelKnop, right - waysOutWidth, buttonTop, waysOutWidth,
@@ -88,9 +89,7 @@ void NameSizes(DialogForm& form) {
 }  // namespace
 
 void LayOutDialogForm(DialogForm& form) {
-    form.Caption = "Import Pictures (Jpg, Bmp, Gif)";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Import Pictures (Jpg, Bmp, Gif)", formWidth, formHeight);
     form.File1.SetPattern("*.bmp;*.jpg;*.gif");
     form.File1.Visible = false;
     PlaceLists(form);

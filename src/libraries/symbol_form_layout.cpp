@@ -2,7 +2,7 @@
 
 #include "controls/edge.h"
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "libraries/symbol_form.h"
 
 #include <initializer_list>
@@ -13,12 +13,11 @@ namespace coinlet {
 namespace {
 
 // The choice of the font in a panel on top, the strip in one below it, the ways out at the foot. All in
-// pixels, but for the two pictures.
-constexpr double stripHeight = 3270, windowWidth = 8280, windowHeight = 3270;  // twips
+// pixels.
 constexpr int margin = dialogMargin, inset = 12;
 constexpr int windowPixels = 552, windowRows = 218;
 constexpr int panelWidth = windowPixels + 2 * inset, formWidth = panelWidth + 2 * margin;
-constexpr int fieldHeight = 24, buttonHeight = 28, labelHeight = 16;
+constexpr int buttonHeight = 28;
 constexpr int choiceTop = margin, choiceHeight = buttonHeight + 2 * inset;
 constexpr int stripTop = choiceTop + choiceHeight + margin, sliderHeight = 20;
 constexpr int stripPanelHeight = windowRows + 6 + sliderHeight + 2 * inset;
@@ -42,30 +41,29 @@ void PlaceStrip(SymbolForm& form) {
     form.BackLabel.FontSize = standardSize;
     form.BackLabel.Caption = Printable();
     form.BackLabel.Visible = false;
-    form.BackPic.SetHeight(stripHeight);
+    form.BackPic.SetHeight(windowRows * twipsPerPixel);
     form.BackPic.Visible = false;
 }
 
 void PlaceChoice(SymbolForm& form) {
-    constexpr int top = choiceTop + inset, fieldTop = top + (buttonHeight - fieldHeight) / 2;
+    constexpr int top = choiceTop + inset, fieldTop = top + (buttonHeight - dialogFieldHeight) / 2;
     constexpr int left = margin + inset, fontWidth = 240, showWidth = 100;
     constexpr int sizeWidth = 72, sizeLeft = formWidth - margin - inset - sizeWidth, labelWidth = 36;
-    PlaceByPixels(form.Combo1, left, fieldTop, fontWidth, fieldHeight);
+    PlaceByPixels(form.Combo1, left, fieldTop, fontWidth, dialogFieldHeight);
     form.InstalKnop.SetCaption("Show");
     PlaceByPixels(form.InstalKnop, left + fontWidth + dialogGap, top, showWidth, buttonHeight);
     form.DefaultButton = &form.InstalKnop;
-    form.Label1.Caption = "Size";
-    PlaceByPixels(form.Label1, sizeLeft - labelWidth, fieldTop + 5, labelWidth, labelHeight);
+    PlaceText(form.Label1, "Size", sizeLeft - labelWidth, fieldTop + 5, labelWidth);
     constexpr int smallest = 10, largest = 150, step = 2, standardIndex = 25;
     for (int size = smallest; size <= largest; size += step)
         form.Combo2.AddItem(std::to_string(size));
     form.Combo2.SetListIndex(standardIndex);
-    PlaceByPixels(form.Combo2, sizeLeft, fieldTop, sizeWidth, fieldHeight);
+    PlaceByPixels(form.Combo2, sizeLeft, fieldTop, sizeWidth, dialogFieldHeight);
 }
 
 void PlaceWindow(SymbolForm& form) {
     constexpr int left = margin + inset, top = stripTop + inset;
-    form.Pic.Move(left * twipsPerPixel, top * twipsPerPixel, windowWidth, windowHeight);
+    PlaceByPixels(form.Pic, left, top, windowPixels, windowRows);
     form.Pic.MousePointer = crossPointer;
     SetEdge(form.Shape1, form.Pic);
     constexpr int cornerSide = 32;
@@ -89,9 +87,7 @@ void PlacePanels(SymbolForm& form) {
 }  // namespace
 
 void LayOutSymbolForm(SymbolForm& form) {
-    form.Caption = "Symbols";
-    form.Width = formWidth * twipsPerPixel;
-    form.Height = formHeight * twipsPerPixel;
+    SetTitleAndSize(form, "Symbols", formWidth, formHeight);
     PlaceStrip(form);
     PlacePanels(form);
     PlaceChoice(form);

@@ -1,7 +1,7 @@
 #include "store/afdrukken_layout.h"
 
 #include "controls/placing.h"
-#include "core/dialog.h"
+#include "core/dialog_layout.h"
 #include "store/afdrukken.h"
 
 #include <array>

@@ -2,14 +2,13 @@
 
 #include "controls/house_colours.h"
 #include "controls/placing.h"
+#include "core/dialog_layout.h"
 #include "store/open_file.h"
 
 namespace coinlet {
 
 void LayOutOpenFile(OpenFile& form) {
-    form.Caption = "Open Coinlet";
-    form.Width = 304 * twipsPerPixel;
-    form.Height = 266 * twipsPerPixel;
+    SetTitleAndSize(form, "Open Coinlet", 304, 266);
     PlaceByPixels(form.Label2, 8, 8, 288, 32);
     PlaceByPixels(form.List1, 8, 44, 176, 180);
     PlaceByPixels(form.Label1, 192, 44, 104, 104);

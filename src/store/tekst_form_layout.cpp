@@ -2,6 +2,7 @@
 
 #include "controls/house_colours.h"
 #include "controls/placing.h"
+#include "core/dialog_layout.h"
 #include "store/tekst_form.h"
 
 namespace coinlet {
@@ -24,9 +25,7 @@ void DrawIcon(TekstForm& form) {
 }  // namespace
 
 void LayOutTekstForm(TekstForm& form) {
-    form.Caption = "Coinlet Info Text";
-    form.Width = 380 * twipsPerPixel;
-    form.Height = 284 * twipsPerPixel;
+    SetTitleAndSize(form, "Coinlet Info Text", 380, 284);
     PlaceByPixels(form.Image1, 12, 12, 32, 32);
     DrawIcon(form);
     PlaceByPixels(form.Label2, 56, 12, 312, 40);
