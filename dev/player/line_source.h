@@ -6,6 +6,7 @@
 
 namespace coinlet::player {
 
+struct Call;
 struct Life;
 
 /// Where the lines of a run come from: a script, or whoever makes them up as he goes.
@@ -15,6 +16,8 @@ public:
     /// The line to be done next; nothing at the end. `life` is nullptr before the program starts. What it
     /// throws as ScriptFailure is a failure of the line before.
     virtual std::optional<ScriptLine> NextLine(Life* life) = 0;
+    /// A command that was to interrupt the program comes now.
+    virtual void Interrupting(const Life&, const Call&) {}
     /// The program ends now; what it is doing comes to its end before the next line is asked for.
     virtual void ProgramEnding() {}
 };

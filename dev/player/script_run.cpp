@@ -71,6 +71,7 @@ void ScriptRun::ServeInterrupts() {
     for (const PendingInterrupt& interrupt : calls) {
         if (life_->platform.Ended()) break;
         line_ = interrupt.line;
+        lines_.Interrupting(*life_, interrupt.call);
         Guard([&] { Perform(interrupt.call); });
     }
     line_ = line;

@@ -1,6 +1,7 @@
 // The whole program in the hands of a user who does whatever comes to his mind: it never crashes, and stays
-// sound. fuzz_random_user [ROUNDS [SEED]]: what he did is written to random_user.SEED.play in the current
-// folder, and kept there if something went wrong.
+// sound. fuzz_random_user [ROUNDS [SEED [DIALOG...]]]: what he did is written to random_user.SEED.play in the
+// current folder, and kept there if something went wrong. He opens those dialogs more often than others. At
+// the end he tells what he never used; a long run fails unless he used everything.
 
 #include "coinlet_program.h"
 #include "fuzz/random_user/random_user.h"
@@ -11,6 +12,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -22,6 +24,10 @@ namespace fs = std::filesystem;
 
 /// What every application folder is filled from.
 constexpr const char* dataFolder = COINLET_DATA_FOLDER;
+/// The sources of the program.
+constexpr const char* sourceFolder = COINLET_SOURCE_FOLDER;
+/// In so many steps everything is used.
+constexpr std::size_t longRun = 100000;
 
 /// The last lines of a script, each with its number.
 void PrintEnd(const fs::path& script) {
@@ -34,8 +40,22 @@ void PrintEnd(const fs::path& script) {
         std::cout << i + 1 << ": " << lines[i] << '\n';
 }
 
+/// Prints what was used; true if that is all that a user can use.
+bool PrintReach(const test::Reach& reach) {
+    std::cout << reach.Table();
+    const test::Reach::Rest rest = reach.FindRest(sourceFolder);
+    std::cout << rest.closed.size() << " closed to users\n";
+    for (const std::string& name : rest.closed)
+        std::cout << "  " << name << '\n';
+    std::cout << rest.unreached.size() << " unreached\n";
+    for (const std::string& name : rest.unreached)
+        std::cout << "  " << name << '\n';
+    return rest.unreached.empty();
+}
+
 /// True if the program came through sound.
-bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed) {
+bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed,
+          std::vector<std::string> favourites) {
     const test::TemporaryFolder folder;
     for (const char* const name : {"app/Ontwerpen", "app/Collection", "out/Pictures", "here"})
         fs::create_directories(folder / name);
@@ -48,11 +68,12 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed) {
     const player::Places places(folder / "app", folder / "out", folder.Path());
     std::ofstream lines(script);
     std::cout << "seed " << seed << ", steps in " << script.string() << std::endl;  // Before any crash.
-    test::RandomUser user(seed, rounds, places, lines);
+    test::RandomUser user(seed, rounds, std::move(favourites), places, lines);
     const bool isSound = player::ScriptRun(script.string(), user, places, libraries, std::cout).Play();
     fs::current_path(fs::temp_directory_path());
     std::cout << user.Steps() << " steps\n";
-    return isSound && user.Steps() == rounds;
+    const bool isAllUsed = PrintReach(user.Used());
+    return isSound && user.Steps() == rounds && (isAllUsed || rounds < longRun);
 }
 
 }  // namespace
@@ -66,7 +87,9 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): a broke
     const std::size_t rounds = argc > 1 ? std::strtoul(argv[1], nullptr, decimal) : usualRounds;
     const unsigned long seed = argc > 2 ? std::strtoul(argv[2], nullptr, decimal) : usualSeed;
     const fs::path script = fs::absolute("random_user." + std::to_string(seed) + ".play");
-    if (Play(script, rounds, static_cast<std::uint32_t>(seed))) {
+    constexpr int firstFavourite = 3;
+    std::vector<std::string> favourites(argv + std::min(argc, firstFavourite), argv + argc);
+    if (Play(script, rounds, static_cast<std::uint32_t>(seed), std::move(favourites))) {
         fs::remove(script);
         return EXIT_SUCCESS;
     }

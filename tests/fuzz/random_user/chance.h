@@ -2,9 +2,12 @@
 
 #include "controls/control.h"
 #include "fuzz/dice.h"
+#include "fuzz/random_user/reach.h"
 #include "player/life.h"
 
+#include <span>
 #include <string>
+#include <vector>
 
 namespace coinlet::test {
 
@@ -13,6 +16,8 @@ struct Chance {
     Dice& dice;
     player::Life& life;
     std::string& pressed;  ///< The control on which a button of the pointer went down last.
+    const Reach& reach;
+    const std::vector<std::string>& favourites;  ///< The dialogs that are opened more often than others.
 
     Form& Front() const { return *life.platform.FrontForm(); }
     bool Reaches(const Control& control) const {

@@ -5,6 +5,7 @@
 #include "controls/list_box.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
+#include "controls/vista_button.h"
 #include "core/main_form.h"
 #include "player/names.h"
 #include "player/pictures.h"
@@ -47,16 +48,20 @@ bool IsOpaque(const Image& image) {
     return all == spareByte;
 }
 
-std::string FaultOfPixels(const Element& element) {
-    const auto picture = player::PictureOf(element);
-    if (picture && !IsOpaque(*picture)) return "a spare byte of its pixels isn't 255";
-    const auto* const box = dynamic_cast<const PictureBox*>(&element);
-    if (box && !IsOpaque(box->surface.Picture())) return "a spare byte of its stored picture isn't 255";
-    return "";
+/// What is wrong with a control, its pixels aside.
+std::string FaultOfState(const Control& control) {
+    if (std::string fault = FaultOfFocus(control); !fault.empty()) return fault;
+    switch (control.Kind()) {
+        case ControlKind::ScrollBar:
+            return FaultOfScrollBar(control);
+        case ControlKind::ListBox:
+            return FaultOfRows<ListBox>(control);
+        case ControlKind::ComboBox:
+            return FaultOfRows<ComboBox>(control);
+        default:
+            return "";
+    }
 }
-
-constexpr std::string (*elementFaults[])(const Element&) = {
-    FaultOfScrollBar, FaultOfRows<ListBox>, FaultOfRows<ComboBox>, FaultOfFocus, FaultOfPixels};
 
 std::string FaultOfOptions(const Form& form) {
     std::map<const Container*, const OptionButton*> chosen;
@@ -70,16 +75,6 @@ std::string FaultOfOptions(const Form& form) {
     return "";
 }
 
-std::string FaultOfForm(const Form& form) {
-    for (const Element* const element : form.Elements()) {
-        for (const auto faultOf : elementFaults) {
-            if (const std::string fault = faultOf(*element); !fault.empty())
-                return player::FullNameOf(*element) + ": " + fault;
-        }
-    }
-    return FaultOfOptions(form);
-}
-
 std::string FaultOfCanvas(const MainForm& main) {
     const Surface& canvas = main.Pic.surface;
     if (canvas.PixelWidth() == canvasSide && canvas.PixelHeight() == canvasSide) return "";
@@ -89,14 +84,56 @@ std::string FaultOfCanvas(const MainForm& main) {
 
 }  // namespace
 
-std::string FindFault(player::Life& life) {
-    for (const Form* const form : life.platform.Forms()) {
+std::string FaultFinder::FaultOfPixels(const Element& element, ControlKind kind) {
+    std::uint64_t state = 0;
+    const auto* const box =
+        kind == ControlKind::PictureBox ? dynamic_cast<const PictureBox*>(&element) : nullptr;
+    if (box) state = box->surface.Revision();
+    if (const auto* const button =
+            kind == ControlKind::Button ? dynamic_cast<const VistaButton*>(&element) : nullptr)
+        state = button->LookRevision();
+    if (const auto known = sound_.find(&element); known != sound_.end() && known->second == state) return "";
+    const auto picture = player::PictureOf(element);
+    if (picture && !IsOpaque(*picture)) return "a spare byte of its pixels isn't 255";
+    if (box && !IsOpaque(box->surface.Picture())) return "a spare byte of its stored picture isn't 255";
+    sound_[&element] = state;
+    return "";
+}
+
+std::string FaultFinder::FaultOfForm(const Form& form) {
+    for (const Element* const element : form.Elements()) {
+        const auto* const control = dynamic_cast<const Control*>(element);
+        std::string fault = control ? FaultOfState(*control) : "";
+        if (fault.empty()) fault = FaultOfPixels(*element, control ? control->Kind() : ControlKind::Label);
+        if (!fault.empty()) return player::FullNameOf(*element) + ": " + fault;
+    }
+    return FaultOfOptions(form);
+}
+
+std::string FaultFinder::Find(player::Life& life) {
+    // A form that was opened since may lie where another one lay.
+    if (forms_ != life.platform.Forms()) {
+        forms_ = life.platform.Forms();
+        sound_.clear();
+    }
+    for (const Form* const form : forms_) {
         if (std::string fault = FaultOfForm(*form); !fault.empty()) return fault;
         if (const auto* const main = dynamic_cast<const MainForm*>(form))
             if (std::string fault = FaultOfCanvas(*main); !fault.empty()) return fault;
     }
+    return "";
+}
+
+/// The pictures that are in stock never change.
+std::string FaultOfStock(player::Life& life) {
     const Form* const stock = life.program->HiddenForm("Plaatjes");
-    return stock ? FaultOfForm(*stock) : "";
+    if (!stock) return "";
+    for (const Element* const element : stock->Elements()) {
+        const auto picture = player::PictureOf(*element);
+        if (picture && !IsOpaque(*picture))
+            return player::FullNameOf(*element) + ": a spare byte of its pixels isn't 255";
+    }
+    return "";
 }
 
 }  // namespace coinlet::test

@@ -1,9 +1,10 @@
 #include "fuzz/random_user/random_user.h"
 
+#include "app/dialogs.h"
 #include "base/files.h"
 #include "fuzz/random_user/chance.h"
 #include "fuzz/random_user/extremes.h"
-#include "fuzz/random_user/invariants.h"
+#include "player/commands.h"
 #include "player/failure.h"
 #include "support/bmp_bytes.h"
 #include "support/gif_bytes.h"
@@ -46,6 +47,8 @@ std::vector<std::string> FirstLines() {
             "copy-file Images/bitmap.bmp @out/Pictures/bitmap.bmp",
             "copy-file Images/cut.bmp @out/Pictures/cut.bmp",
             "copy-file Images/small.gif @out/Pictures/deeper/small.gif",
+            "copy-file Images/small.gif Collection/255.jpg",
+            "copy-file Images/cut.bmp Collection/001.jpg",
             "expect Program.Ended false"};
 }
 
@@ -75,14 +78,12 @@ std::vector<std::string> AnswerLines(Dice& dice, const player::Answers& answers)
     return lines;
 }
 
-std::string AnyUserOrStateLine(const Chance& chance) {
-    constexpr std::size_t oneInState = 5;
-    return AnyLine(chance, chance.dice.OneIn(oneInState) ? StateLines() : UserLines());
-}
-
-/// Something that comes in the midst of something else.
-std::string InterruptLine(const Chance& chance) {
-    return "interrupt " + std::to_string(chance.dice.Between(1, 3)) + " try " + AnyUserOrStateLine(chance);
+/// All forms that a user should come by.
+std::vector<std::string> FormNames() {
+    std::vector<std::string> names{"Main"};
+    for (const DialogRow& row : Dialogs())
+        names.emplace_back(row.form);
+    return names;
 }
 
 }  // namespace
@@ -99,16 +100,21 @@ std::string AnyLine(const Chance& chance, std::span<const WeightedMaker> makers)
     }
 }
 
-RandomUser::RandomUser(std::uint32_t seed, std::size_t steps, const player::Places& places,
-                       std::ostream& script)
-    : dice_(seed), steps_(steps), places_(places), script_(script) {
+RandomUser::RandomUser(std::uint32_t seed, std::size_t steps, std::vector<std::string> favourites,
+                       const player::Places& places, std::ostream& script)
+    : dice_(seed),
+      steps_(steps),
+      places_(places),
+      script_(script),
+      favourites_(std::move(favourites)),
+      reach_(FormNames()) {
     for (std::string& line : FirstLines())
         prepared_.push_back(std::move(line));
 }
 
 std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
     if (life) {
-        if (const std::string fault = FindFault(*life); !fault.empty()) player::Fail(fault);
+        if (const std::string fault = faults_.Find(*life); !fault.empty()) player::Fail(fault);
         if (life->platform.Ended()) CheckFilesAfterEnd();
     }
     if (step_ == steps_) return std::nullopt;
@@ -120,17 +126,49 @@ std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
 
 std::string RandomUser::MakeLine(player::Life* life) {
     if (prepared_.empty()) {
-        if (life->platform.Ended() || step_ % stepsOfALife == 0) return "restart";
-        const Chance chance{dice_, *life, pressed_};
+        if (life->platform.Ended() || step_ % stepsOfALife == 0) {
+            if (const std::string fault = FaultOfStock(*life); !fault.empty()) player::Fail(fault);
+            ++lives_;
+            return "restart";
+        }
+        const Chance chance{dice_, *life, pressed_, reach_, favourites_};
         constexpr std::size_t oneInInterrupts = 12;
         for (std::string& line : AnswerLines(dice_, life->answers))
             prepared_.push_back(std::move(line));
         prepared_.push_back(dice_.OneIn(oneInInterrupts) ? InterruptLine(chance)
                                                          : AnyUserOrStateLine(chance));
+        NoteUse(*life, player::SplitWords(prepared_.back()));
     }
     std::string line = std::move(prepared_.front());
     prepared_.pop_front();
     return line;
+}
+
+std::string RandomUser::AnyUserOrStateLine(const Chance& chance) const {
+    constexpr std::size_t oneInState = 3;
+    return AnyLine(chance, IsLawless() && chance.dice.OneIn(oneInState) ? StateLines() : UserLines());
+}
+
+std::string RandomUser::InterruptLine(const Chance& chance) const {
+    const std::string unused = chance.dice.OneIn(4) ? UnusedLine(chance) : "";
+    return "interrupt " + std::to_string(chance.dice.Between(1, 3)) + " try " +
+           (unused.empty() ? AnyUserOrStateLine(chance) : unused);
+}
+
+std::string RandomUser::UnusedLine(const Chance& chance) const {
+    const auto commands = reach_.CommandsForUnused();
+    return commands.empty() ? "" : chance.dice.Pick(commands);
+}
+
+void RandomUser::Interrupting(const player::Life& life, const player::Call& call) {
+    NoteUse(life, call.words);  // Behind "try" stands a command.
+}
+
+/// In lives where everything may happen, nothing counts as use.
+void RandomUser::NoteUse(const player::Life& life, std::span<const player::Word> words) {
+    if (IsLawless()) return;
+    reach_.Look(life);
+    reach_.Note(life, words[0].source, words.size() > 1 ? words[1].source : "");
 }
 
 void RandomUser::ProgramEnding() {

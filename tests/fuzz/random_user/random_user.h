@@ -1,6 +1,8 @@
 #pragma once
 
-#include "fuzz/dice.h"
+#include "fuzz/random_user/chance.h"
+#include "fuzz/random_user/invariants.h"
+#include "fuzz/random_user/reach.h"
 #include "player/line_source.h"
 #include "player/places.h"
 
@@ -9,7 +11,9 @@
 #include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace coinlet::test {
 
@@ -17,20 +21,34 @@ namespace coinlet::test {
 /// played again. Before each line he looks whether the program is still sound.
 class RandomUser : public player::LineSource {
 public:
-    /// He stops after `steps` lines. `script` takes each line before it is done.
-    RandomUser(std::uint32_t seed, std::size_t steps, const player::Places& places, std::ostream& script);
+    /// He stops after `steps` lines. `script` takes each line before it is done. The dialogs of `favourites`
+    /// he opens more often than others.
+    RandomUser(std::uint32_t seed, std::size_t steps, std::vector<std::string> favourites,
+               const player::Places& places, std::ostream& script);
 
     /// Throws ScriptFailure when the program isn't sound.
     std::optional<player::ScriptLine> NextLine(player::Life* life) override;
+    void Interrupting(const player::Life& life, const player::Call& call) override;
     void ProgramEnding() override;
 
     /// The number of lines he has given.
     std::size_t Steps() const { return step_; }
+    /// What he used in those lives of the program in which he did what a user can do, and no more.
+    const Reach& Used() const { return reach_; }
 
 private:
     using Files = std::map<std::filesystem::path, std::string>;
 
     std::string MakeLine(player::Life* life);
+    std::string AnyUserOrStateLine(const Chance& chance) const;
+    /// Something that comes in the midst of something else.
+    std::string InterruptLine(const Chance& chance) const;
+    /// What may show itself for that moment only; empty if there is nothing that was never used.
+    std::string UnusedLine(const Chance& chance) const;
+    void NoteUse(const player::Life& life, std::span<const player::Word> words);
+    /// In each third life of the program there are assignments and raised events too, whatever a user could
+    /// do.
+    bool IsLawless() const { return lives_ % 3 == 2; }
     void CheckFilesAfterEnd();
     /// The files that the program can know, with their contents.
     Files ReadFiles() const;
@@ -41,6 +59,10 @@ private:
     std::ostream& script_;
     std::deque<std::string> prepared_;  ///< Lines to be given before others are made up.
     std::string pressed_;
+    std::vector<std::string> favourites_;
+    Reach reach_;
+    FaultFinder faults_;
+    std::size_t lives_ = 0;
     std::size_t step_ = 0;
     std::optional<Files> filesAtEnd_;
 };

@@ -1,5 +1,6 @@
 // What a user can do to the form in front.
 
+#include "app/dialogs.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/menu.h"
@@ -7,10 +8,12 @@
 #include "controls/text_box.h"
 #include "controls/timer.h"
 #include "controls/vista_button.h"
+#include "core/main_form.h"
 #include "fuzz/random_user/chance.h"
 #include "fuzz/random_user/extremes.h"
 #include "player/names.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace coinlet::test {
@@ -90,21 +93,54 @@ std::string ClickButton(const Chance& chance) {
     return button ? "click " + FullNameOf(*button) : "";
 }
 
+bool IsChoice(const MenuItem& entry) {
+    return entry.CanBeChosen() && entry.Entries().empty();
+}
+
 std::string ChooseEntry(const Chance& chance) {
     std::vector<MenuItem*> entries;
     for (Element* const element : chance.Front().Elements()) {
         auto* const entry = dynamic_cast<MenuItem*>(element);
-        if (entry && entry->CanBeChosen() && entry->Entries().empty()) entries.push_back(entry);
+        if (entry && IsChoice(*entry)) entries.push_back(entry);
     }
     const MenuItem* const entry = PickOf(chance, entries);
     return entry ? "click " + FullNameOf(*entry) : "";
 }
 
+/// What a user does for a dialog, if he can do it now.
+class Opening {
+public:
+    explicit Opening(const MainForm& main) : main_(main) {}
+    std::string operator()(MenuItem MainForm::*member) const {
+        const MenuItem& entry = main_.*member;
+        return entry.CanBeChosen() ? "click " + FullNameOf(entry) : "";
+    }
+    std::string operator()(ToolButton button) const { return Clicked(main_.Knop[button.number]); }
+    std::string operator()(FillColourField) const { return Clicked(main_.ColorLabel); }
+
+private:
+    static std::string Clicked(const Control& control) {
+        return control.Shown() && control.Reachable() ? "click " + FullNameOf(control) : "";
+    }
+    const MainForm& main_;
+};
+
+std::string OpenFavourite(const Chance& chance) {
+    const auto* const main = dynamic_cast<const MainForm*>(&chance.Front());
+    if (!main || chance.favourites.empty()) return "";
+    const std::string& favourite = chance.dice.Pick(chance.favourites);
+    const auto row = std::ranges::find(Dialogs(), favourite, &DialogRow::form);
+    return row == Dialogs().end() ? "" : std::visit(Opening(*main), row->opener);
+}
+
+std::string PressOn(const Chance& chance, const Control& control) {
+    chance.pressed = FullNameOf(control);
+    return "press " + chance.pressed + AnyButton(chance.dice) + PlaceIn(chance, control);
+}
+
 std::string Press(const Chance& chance) {
     const Control* const control = PointerTarget(chance);
-    if (!control) return "";
-    chance.pressed = FullNameOf(*control);
-    return "press " + chance.pressed + AnyButton(chance.dice) + PlaceIn(chance, *control);
+    return control ? PressOn(chance, *control) : "";
 }
 
 /// Moves and releases after a press; the pointer may leave the control meanwhile, and its form may have gone.
@@ -172,32 +208,86 @@ std::string PasteFromClipboard(const Chance& chance) {
     return "key " + std::string(chance.Front().Name()) + " 86 ctrl";
 }
 
+std::string TypeInto(const Chance& chance, const Control& field) {
+    return "type " + FullNameOf(field) + " " + AnyText(chance.dice);
+}
+
 std::string Type(const Chance& chance) {
-    std::vector<Control*> fields = Reachable<Control>(chance, [](const Control& control) {
-        return control.Kind() == ControlKind::TextBox || control.Kind() == ControlKind::ComboBox;
-    });
-    const Control* const field = PickOf(chance, fields);
-    return field ? "type " + FullNameOf(*field) + " " + AnyText(chance.dice) : "";
+    const Control* const field =
+        PickOf(chance, Reachable<Control>(chance, [](const Control& control) {
+                   return control.Kind() == ControlKind::TextBox || control.Kind() == ControlKind::ComboBox;
+               }));
+    return field ? TypeInto(chance, *field) : "";
+}
+
+/// The number of rows of a list; 0 of what is none.
+int RowsOf(const Control& control) {
+    if (const auto* const list = dynamic_cast<const ListBox*>(&control)) return list->ListCount();
+    const auto* const combo = dynamic_cast<const ComboBox*>(&control);
+    return combo ? combo->ListCount() : 0;
+}
+
+std::string PickRowOf(const Chance& chance, const Control& list) {
+    const int rows = RowsOf(list);
+    return rows == 0 ? ""
+                     : "pick " + FullNameOf(list) + " " + std::to_string(chance.dice.Between(0, rows - 1));
 }
 
 std::string PickRow(const Chance& chance) {
-    std::vector<std::pair<const Control*, int>> lists;
-    for (const auto* const list : Reachable<ListBox>(chance))
-        if (list->ListCount() > 0) lists.emplace_back(list, list->ListCount());
-    for (const auto* const combo : Reachable<ComboBox>(chance))
-        if (combo->ListCount() > 0) lists.emplace_back(combo, combo->ListCount());
-    if (lists.empty()) return "";
-    const auto [list, count] = chance.dice.Pick(lists);
-    return "pick " + FullNameOf(*list) + " " + std::to_string(chance.dice.Between(0, count - 1));
+    const Control* const list = PickOf(
+        chance, Reachable<Control>(chance, [](const Control& control) { return RowsOf(control) > 0; }));
+    return list ? PickRowOf(chance, *list) : "";
+}
+
+std::string SlideBar(const Chance& chance, const Control& bar) {
+    std::string line = "slide " + FullNameOf(bar);
+    for (std::size_t i = 0; i <= chance.dice.Below(3); ++i)
+        line += " " + AnyWhole(chance.dice);
+    return line;
 }
 
 std::string Slide(const Chance& chance) {
     const auto* const bar = PickOf(chance, Reachable<ScrollBar>(chance));
-    if (!bar) return "";
-    std::string line = "slide " + FullNameOf(*bar);
-    for (std::size_t i = 0; i <= chance.dice.Below(3); ++i)
-        line += " " + AnyWhole(chance.dice);
-    return line;
+    return bar ? SlideBar(chance, *bar) : "";
+}
+
+/// Uses the control for what it is there for; empty if that can't be done now.
+std::string Use(const Chance& chance, const Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::ScrollBar:
+            return SlideBar(chance, control);
+        case ControlKind::TextBox:
+            return TypeInto(chance, control);
+        case ControlKind::ListBox:
+        case ControlKind::ComboBox:
+            return PickRowOf(chance, control);
+        case ControlKind::PictureBox:
+            return HasPixels(control) ? PressOn(chance, control) : "";
+        default:
+            return "click " + FullNameOf(control);
+    }
+}
+
+/// What was used least of all that can be used now.
+std::string UseTheRarest(const Chance& chance) {
+    std::vector<const Element*> rarest;
+    std::size_t fewest = 0;
+    for (const Element* const element : chance.Front().Elements()) {
+        const auto* const control = dynamic_cast<const Control*>(element);
+        const auto* const entry = dynamic_cast<const MenuItem*>(element);
+        const bool isReached = (control && chance.Reaches(*control)) || (entry && IsChoice(*entry));
+        if (!isReached) continue;
+        const std::size_t uses = chance.reach.Uses(FullNameOf(*element));
+        if (rarest.empty() || uses < fewest) {
+            rarest.clear();
+            fewest = uses;
+        }
+        if (uses == fewest) rarest.push_back(element);
+    }
+    if (rarest.empty()) return "";
+    const Element* const element = chance.dice.Pick(rarest);
+    const auto* const control = dynamic_cast<const Control*>(element);
+    return control ? Use(chance, *control) : "click " + FullNameOf(*element);
 }
 
 std::string Focus(const Chance& chance) {
@@ -225,12 +315,26 @@ std::string Close(const Chance& chance) {
 }
 
 constexpr WeightedMaker makers[] = {
-    {20, GoOn},      {12, ClickButton},  {10, ChooseEntry},
-    {8, Press},      {8, Drag},          {6, Hover},
-    {5, Key},        {4, Click},         {4, Slide},
-    {4, PickRow},    {3, Type},          {3, Tick},
-    {2, PutPointer}, {2, Focus},         {1, Close},
-    {2, DropFiles},  {1, FillClipboard}, {2, PasteFromClipboard},
+    {20, GoOn},
+    {12, ClickButton},
+    {10, ChooseEntry},
+    {8, Press},
+    {8, Drag},
+    {6, Hover},
+    {5, Key},
+    {4, Click},
+    {4, Slide},
+    {4, PickRow},
+    {3, Type},
+    {3, Tick},
+    {2, PutPointer},
+    {2, Focus},
+    {1, Close},
+    {2, DropFiles},
+    {1, FillClipboard},
+    {2, PasteFromClipboard},
+    {60, OpenFavourite},
+    {20, UseTheRarest},
 };
 
 }  // namespace
