@@ -7,6 +7,9 @@
 #include "player/values.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <limits>
 
 namespace coinlet::player {
 
@@ -117,6 +120,50 @@ void DeleteFolder(ScriptRun& run, const Arguments& arguments) {
     FailOn(error, "delete " + arguments.Text(0));
 }
 
+/// The size of a file that is there, and holds the byte at `place`.
+std::uintmax_t RequireByte(const fs::path& path, const std::string& name, std::uintmax_t place) {
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(path, error);
+    FailOn(error, "find " + name);
+    if (place >= size) Fail(name + " has " + std::to_string(size) + " bytes");
+    return size;
+}
+
+/// A number of bytes, or a place among them.
+std::uintmax_t ReadCount(const Arguments& arguments, std::size_t i) {
+    const int count = arguments.Whole(i);
+    if (count < 0) Fail("expected a number from 0 on, found " + std::to_string(count));
+    return static_cast<std::uintmax_t>(count);
+}
+
+void CutFile(ScriptRun& run, const Arguments& arguments) {
+    const fs::path path = ReadPath(run, arguments, 0);
+    const std::uintmax_t kept = ReadCount(arguments, 1);
+    RequireByte(path, arguments.Text(0), kept);
+    std::error_code error;
+    fs::resize_file(path, kept, error);
+    FailOn(error, "cut " + arguments.Text(0));
+}
+
+void SetByte(ScriptRun& run, const Arguments& arguments) {
+    const fs::path path = ReadPath(run, arguments, 0);
+    const std::uintmax_t place = ReadCount(arguments, 1);
+    const int value = arguments.Whole(2);
+    if (value < 0 || value > std::numeric_limits<std::uint8_t>::max())
+        Fail("expected a byte, found " + std::to_string(value));
+    RequireByte(path, arguments.Text(0), place);
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(static_cast<std::streamoff>(place));
+    file.put(static_cast<char>(value));
+    if (!file.flush()) Fail("can't write " + arguments.Text(0));
+}
+
+void LockFile(ScriptRun& run, const Arguments& arguments) {
+    std::error_code error;
+    fs::permissions(ReadPath(run, arguments, 0), fs::perms::none, error);
+    FailOn(error, "lock " + arguments.Text(0));
+}
+
 constexpr Command commands[] = {
     {"expect-file", "PATH", Needs::NoProgram, ExpectFile},
     {"expect-no-file", "PATH", Needs::NoProgram, ExpectNoFile},
@@ -124,6 +171,9 @@ constexpr Command commands[] = {
     {"write-file", "PATH TEXT", Needs::NoProgram, WriteFile},
     {"copy-file", "FROM TO", Needs::NoProgram, CopyFile},
     {"delete-file", "PATH", Needs::NoProgram, RemoveFile},
+    {"cut-file", "PATH COUNT", Needs::NoProgram, CutFile},
+    {"set-byte", "PATH PLACE VALUE", Needs::NoProgram, SetByte},
+    {"lock-file", "PATH", Needs::NoProgram, LockFile},
     {"make-folder", "PATH", Needs::NoProgram, MakeFolder},
     {"delete-folder", "PATH", Needs::NoProgram, DeleteFolder},
 };

@@ -3,6 +3,7 @@
 #include "app/dialogs.h"
 #include "base/files.h"
 #include "fuzz/random_user/chance.h"
+#include "fuzz/random_user/damage.h"
 #include "fuzz/random_user/extremes.h"
 #include "player/commands.h"
 #include "player/failure.h"
@@ -20,7 +21,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// So that what was hidden or disabled by an assignment comes back before long.
-constexpr std::size_t stepsOfALife = 400;
+constexpr std::size_t stepsOfALife = 300;
 /// More than one handler asks for.
 constexpr std::ptrdiff_t answersReady = 12;
 
@@ -126,11 +127,12 @@ std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
 
 std::string RandomUser::MakeLine(player::Life* life) {
     if (prepared_.empty()) {
-        if (life->platform.Ended() || step_ % stepsOfALife == 0) {
+        if (life->platform.Ended() || stepsOfLife_ == stepsOfALife) {
             if (const std::string fault = FaultOfStock(*life); !fault.empty()) player::Fail(fault);
-            ++lives_;
-            return "restart";
+            PrepareRestart();
+            return MakeLine(life);
         }
+        ++stepsOfLife_;
         const Chance chance{dice_, *life, pressed_, reach_, favourites_};
         constexpr std::size_t oneInInterrupts = 12;
         for (std::string& line : AnswerLines(dice_, life->answers))
@@ -169,6 +171,19 @@ void RandomUser::NoteUse(const player::Life& life, std::span<const player::Word>
     if (IsLawless()) return;
     reach_.Look(life);
     reach_.Note(life, words[0].source, words.size() > 1 ? words[1].source : "");
+}
+
+void RandomUser::PrepareRestart() {
+    stepsOfLife_ = 0;
+    ++lives_;
+    std::ranges::move(healing_, std::back_inserter(prepared_));
+    healing_.clear();
+    if (IsAmongDamage()) {
+        Damage damage = DamageAThird(dice_, places_.Application());
+        std::ranges::move(damage.lines, std::back_inserter(prepared_));
+        healing_ = std::move(damage.healing);
+    }
+    prepared_.emplace_back("restart");
 }
 
 void RandomUser::ProgramEnding() {

@@ -46,9 +46,13 @@ private:
     /// What may show itself for that moment only; empty if there is nothing that was never used.
     std::string UnusedLine(const Chance& chance) const;
     void NoteUse(const player::Life& life, std::span<const player::Word> words);
-    /// In each third life of the program there are assignments and raised events too, whatever a user could
+    /// What comes between two lives of the program.
+    void PrepareRestart();
+    /// In each fourth life of the program there are assignments and raised events too, whatever a user could
     /// do.
-    bool IsLawless() const { return lives_ % 3 == 2; }
+    bool IsLawless() const { return lives_ % 4 == 2; }
+    /// In each fourth life files are damaged.
+    bool IsAmongDamage() const { return lives_ % 4 == 3; }
     void CheckFilesAfterEnd();
     /// The files that the program can know, with their contents.
     Files ReadFiles() const;
@@ -63,6 +67,8 @@ private:
     Reach reach_;
     FaultFinder faults_;
     std::size_t lives_ = 0;
+    std::size_t stepsOfLife_ = 0;       ///< That were made up since the last start.
+    std::vector<std::string> healing_;  ///< Lines that mend what he damaged.
     std::size_t step_ = 0;
     std::optional<Files> filesAtEnd_;
 };

@@ -201,7 +201,7 @@ std::string DropFiles(const Chance& chance) {
 
 std::string FillClipboard(const Chance& chance) {
     if (chance.dice.OneIn(2)) return std::string("clipboard-path ") + chance.dice.Pick(offeredFiles);
-    return chance.dice.OneIn(2) ? "clipboard Images/bitmap.bmp" : "clipboard Images/cut.bmp";
+    return chance.dice.OneIn(2) ? "clipboard @out/Pictures/bitmap.bmp" : "clipboard @out/Pictures/cut.bmp";
 }
 
 std::string PasteFromClipboard(const Chance& chance) {
