@@ -8,7 +8,7 @@ import numpy
 from PIL import Image, ImageDraw, ImageFont
 
 from borders import bands, dials, knots, motifs, outdoor, outlines, rims, strands, windows
-from kit import metals
+from kit import metals, stamped
 from kit.relief import Relief
 
 SIDE = 500
@@ -60,9 +60,10 @@ def make(data):
     folder = data / "Borders"
     for old in folder.glob("*.gif"):
         old.unlink()
+    colours = metals.palette(stamped.shaded)
     for name in sorted(BORDERS):
         file = folder / f"{name}.gif"
-        metals.save_strip(border(name), file)
+        metals.save_strip(border(name), file, colours)
         check(name, Image.open(file))
     total = sum(file.stat().st_size for file in folder.glob("*.gif"))
     if total > LARGEST_LIBRARY:

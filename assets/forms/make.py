@@ -9,7 +9,7 @@ import subprocess
 
 from PIL import Image
 
-from kit import metals
+from kit import metals, stamped
 from kit.relief import Relief
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -111,6 +111,14 @@ def hole_rings():
     return metals.strip(relief)
 
 
+def border_hole_rings():
+    """The same in the few tones that stay one metal over a border, with a deeper groove to tell its parts."""
+    relief = Relief(METAL_SIDE, HOLE_CENTRE)
+    relief.flat_ring(28, HOLE_RADIUS, height=3, bevel=3)
+    relief.half_round(28, 38.5, height=6, base=1)
+    return stamped.strip(relief)
+
+
 def blank_tags():
     """A polished tag of each metal with nothing on it yet."""
     relief = Relief(METAL_SIDE, METAL_SIDE // 2)
@@ -129,6 +137,7 @@ def make(_data):
     for job in ("print_all_designs", "print_all_cliparts"):
         on_white(render(f"{job}.svg", PRINT_PREVIEW_SIDE)).save(CORE_STOCK / f"{job}.bmp")
     hole_rings().save(CORE_STOCK / "hole_rings.bmp")
+    border_hole_rings().save(CORE_STOCK / "border_hole_rings.bmp")
     blank_tags().save(CORE_STOCK / "blank_tags.bmp")
     # The smallest icon is a drawing of its own: fewer parts, each on whole pixels.
     PACKAGE_ICONS.mkdir(parents=True, exist_ok=True)

@@ -77,9 +77,9 @@ def tones(relief):
     return numpy.clip(light, 0.03, 1) * relief.polish
 
 
-def shades(relief):
-    """The picture of a relief as numbers of shades at its size in pixels, and where it is metal. A
-    dark line bounds the metal, so that it stands out from any design; no pixel is half metal."""
+def lit(relief):
+    """The tone of each pixel of a relief, from 0 to 1, and where it is metal. A dark line bounds the metal, so
+    that it stands out from any design; no pixel is half metal."""
     depth = depth_inside(relief.solid, 2 * SAMPLES) / SAMPLES
     edge = numpy.clip((depth - 0.7) / 1.2, 0, 1)
     light = tones(relief) * edge * edge * (3 - 2 * edge) * relief.solid
@@ -88,7 +88,7 @@ def shades(relief):
     tone = by_pixel(light, relief.side) / numpy.maximum(cover, 0.01)
     # The line is a little paler where less of the pixel is covered, which takes the steps out of its edge.
     tone += 0.22 * (1 - cover)
-    return dithered(numpy.clip(tone, 0, 1)), metal
+    return numpy.clip(tone, 0, 1), metal
 
 
 def by_pixel(field, side):
@@ -103,20 +103,27 @@ def dithered(tone):
     return numpy.minimum(numpy.floor(tone * (SHADES - 1) + tiled), SHADES - 1).astype("uint8")
 
 
-def palette():
-    """The colours of all four metals, then pure white up to the end."""
-    rows = []
-    places = numpy.linspace(0, 1, SHADES)
-    for colours in METALS.values():
-        stops = numpy.linspace(0, 1, len(colours))
-        channels = [numpy.interp(places, stops, channel) for channel in zip(*colours)]
-        rows += numpy.rint(numpy.stack(channels, axis=1)).astype(int).flatten().tolist()
+def colours_at(metal, places):
+    """The colours of a metal for tones from 0 to 1, a row each, not rounded."""
+    stops = numpy.linspace(0, 1, len(METALS[metal]))
+    return numpy.stack([numpy.interp(places, stops, channel) for channel in zip(*METALS[metal])], axis=1)
+
+
+def shaded(metal):
+    """The colours of all shades of a metal."""
+    return numpy.rint(colours_at(metal, numpy.linspace(0, 1, SHADES))).astype(int)
+
+
+def palette(shading=shaded):
+    """The colours of all four metals, then pure white up to the end. `shading` tells a metal's colours."""
+    rows = [channel for metal in METALS for channel in shading(metal).flatten().tolist()]
     return rows + [255] * (768 - len(rows))
 
 
 def strip(relief):
     """A relief in all four metals side by side, pure white where there is none."""
-    shade, metal = shades(relief)
+    tone, metal = lit(relief)
+    shade = dithered(tone)
     frames = [numpy.where(metal, shade + column * SHADES, WHITE) for column in range(len(METALS))]
     picture = Image.fromarray(numpy.concatenate(frames, axis=1).astype("uint8"), "P")
     picture.putpalette(palette())
@@ -148,8 +155,9 @@ def slack(pixels):
     return numpy.clip((lightest - darkest) // 2, 1, MOST_SLACK)
 
 
-def save_strip(picture, path):
-    """Writes a strip as a GIF. What is white stays white, and metal keeps to its own colours."""
+def save_strip(picture, path, colours):
+    """Writes a strip as a GIF with the colours of a palette. What is white stays white, and metal keeps to its
+    own colours."""
     pixels = numpy.asarray(picture)
     alike = [neighbours(level) for level in range(MOST_SLACK + 1)]
-    gif.save_gif(pixels, palette(), path, alike, slack(pixels))
+    gif.save_gif(pixels, colours, path, alike, slack(pixels))

@@ -76,6 +76,11 @@ Image HoleRings() {
     return picture;
 }
 
+Image BorderHoleRings() {
+    static const Image picture = DecodeBmp(stock_bytes::BorderHoleRings()).value();
+    return picture;
+}
+
 Image BlankTag(int index) {
     static const std::array tags = CutTags(DecodeBmp(stock_bytes::BlankTags()).value());
     return At(tags, index);

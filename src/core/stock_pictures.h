@@ -21,6 +21,10 @@ Image AllClipartsPicture();
 /// the rings and in their holes it is pure white, so that AND leaves a design there as it is.
 Image HoleRings();
 
+/// The same for rings that are stamped over a border of their metal: in few tones, each of which AND turns
+/// with each shade of the borders into a colour of that metal.
+Image BorderHoleRings();
+
 /// A blank tag of one metal, by its place in `materials`: 100 by 100 pixels, on white. The empty picture for
 /// an index outside 0 to 3.
 Image BlankTag(int index);

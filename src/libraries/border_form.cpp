@@ -56,7 +56,7 @@ void CutOutTag(Surface& canvas) {
 BorderForm::BorderForm(Context& context)
     : Form(context.services.ForForms(), "BorderForm"), context_(context) {
     LayOutBorderForm(*this);
-    HolePic.Picture = HoleRings();
+    HolePic.Picture = BorderHoleRings();
     for (int i = Image1.First(); i <= Image1.Last(); ++i)
         Image1[i].Picture = BlankTag(i);
     List1.Click = [this] { List1_Click(); };

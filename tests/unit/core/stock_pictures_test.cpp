@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
+#include <set>
 #include <vector>
 
 namespace coinlet {
@@ -158,11 +159,10 @@ double FromTheMiddle(int x, int y) {
     return std::hypot(x - middle, y - middle);
 }
 
-TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
-    const Image rings = HoleRings();
+void ExpectARingOfMetal(const Image& rings, int metal) {
     ASSERT_EQ(rings.Width(), 400);
     ASSERT_EQ(rings.Height(), 100);
-    const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
+    const int left = materials[static_cast<std::size_t>(metal)].holeColumn;
     for (int y = 0; y < 100; ++y) {
         for (int x = 0; x < 100; ++x) {
             const double distance = FromTheMiddle(x, y);
@@ -180,6 +180,22 @@ TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
         EXPECT_TRUE(IsDark(rings.At(left + edge, 50))) << "the outline that bounds it from the design";
 }
 
+TEST_P(Metals, HaveAHoleRingThatFitsTheClearedDisc) {
+    ExpectARingOfMetal(HoleRings(), GetParam());
+}
+
+TEST_P(Metals, HaveAHoleRingForBordersInFewTones) {
+    ExpectARingOfMetal(BorderHoleRings(), GetParam());
+    const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
+    std::set<Colour> tones;
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 100; ++x)
+            tones.insert(BorderHoleRings().At(left + x, y));
+    }
+    EXPECT_GE(tones.size(), 4U) << "white, an outline, a body and a gleam";
+    EXPECT_LE(tones.size(), 8U);
+}
+
 /// The hole tool wipes a disc and stamps the ring onto it by AND. What is wiped beside the ring would stay
 /// white in a coloured design.
 TEST_P(Metals, HaveAHoleRingWithNothingWipedBesideIt) {
@@ -188,9 +204,10 @@ TEST_P(Metals, HaveAHoleRingWithNothingWipedBesideIt) {
     Surface design(fonts, cell, cell);
     design.SetBackColor(RGB(255, 252, 13));
     constexpr int pen = 2, discRadius = 43;
+    constexpr double middle = cell / 2.0;
     design.DrawWidth = pen;
     for (int radius = 1; radius <= discRadius; ++radius)
-        design.Circle(cell / 2, cell / 2, radius, white);
+        design.Circle(middle, middle, radius, white);
     const Image rings = HoleRings();
     const int left = materials[static_cast<std::size_t>(GetParam())].holeColumn;
     int covered = 0;
