@@ -1,10 +1,11 @@
 // What happens in the main window, and what it costs: the ways of a pointer event from the toolkit to the
-// handler, and to all widgets being equal to their controls again; and filters with their progress before the
-// user's eyes, painting included.
+// handler, and to all widgets being equal to their controls again; filters with their progress before the
+// user's eyes, painting included; and the opening of every dialog.
 
 #include "app/application.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "dialogs_bench.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
 #include "media/system_clock.h"
@@ -104,6 +105,7 @@ void Measure(const Program& program) {
         benchmark::RegisterBenchmark(name.c_str(), FilterOnScreen, program, index)
             ->Unit(benchmark::kMicrosecond);
     }
+    bench::RegisterDialogs(program.platform, program.main);
     benchmark::RunSpecifiedBenchmarks();
 }
 
@@ -113,8 +115,8 @@ void Measure(const Program& program) {
 int main(int argc, char** argv) {
     using namespace coinlet;
 
-    // No display is needed where nothing is painted.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // No display is needed, but whoever names one gets real windows there.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     benchmark::Initialize(&argc, argv);
     // The program writes into its folder, so it gets one that nobody uses.
     const test::TemporaryFolder folder;
