@@ -123,10 +123,13 @@ void Surface::Detach() {
 }
 
 Colour Surface::Point(double x, double y) const {
-    const double column = PixelX(x), row = PixelY(y);
+    // Walks over whole pictures ask for every point, and nearly all count in pixels.
+    const bool inPixels = !userScale_ && scaleMode_ == pixelScale;
+    const double column = inPixels ? x : PixelX(x), row = inPixels ? y : PixelY(y);
     if (std::isnan(column) || std::isnan(row)) return -1;
     const int px = RoundHalfEven(column), py = RoundHalfEven(row);
-    return bitmap_->Contains(px, py) ? ToColour(bitmap_->Row(py)[px]) : -1;
+    const Bitmap& pixels = *bitmap_;
+    return pixels.Contains(px, py) ? ToColour(pixels.Row(py)[px]) : -1;
 }
 
 void Surface::Refresh() {
