@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "surface/surface.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace coinlet {
@@ -12,6 +13,9 @@ namespace {
 constexpr double pi = 3.14159265358979;
 constexpr double degreesARadian = 57.2957795130823;
 constexpr double radiansADegree = pi / 180;
+
+/// Far beyond it a step of single precision would no longer lead from one corner to the next.
+constexpr int largestRotation = 32767;
 
 constexpr const char* degreeSign = "°";
 
@@ -32,8 +36,9 @@ void DrawPolygonFigure(Surface& picture, const PolygonSweep& sweep, double radiu
     if (radius == 0 || !std::isfinite(2 * radius)) return;
     picture.Scale(-radius, radius, radius, -radius);
 
-    const auto first = static_cast<float>(sweep.rotation);
-    const auto limit = static_cast<float>(sweep.turn + sweep.rotation);
+    const int rotation = std::clamp(sweep.rotation, -largestRotation - 1, largestRotation);
+    const auto first = static_cast<float>(rotation);
+    const auto limit = static_cast<float>(sweep.turn + rotation);
     const float step = Single(double{wholeTurn} / sweep.sides);
     float previousX = 0, previousY = 0;
     for (float degrees = first; degrees <= limit; degrees += step) {

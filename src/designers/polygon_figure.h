@@ -28,7 +28,8 @@ constexpr int wholeTurn = 360, halfTurn = 180;
 /// Which corners of a regular polygon are drawn, all in degrees and counter-clockwise.
 struct PolygonSweep {
     int sides = fewestSides;
-    int rotation = 0;  ///< Of the first corner, from straight to the right; -32768 to 32767.
+    int rotation =
+        0;  ///< Of the first corner, from straight to the right; -32768 to 32767, others count as these.
     int turn = wholeTurn;
 };
 

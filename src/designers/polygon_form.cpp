@@ -7,6 +7,8 @@
 #include "designers/polygon_figure.h"
 #include "designers/polygon_form_layout.h"
 
+#include <cstdint>
+
 namespace coinlet {
 
 namespace {
@@ -92,12 +94,12 @@ void PolygonForm::hsbRotate_Change() {
 }
 
 void PolygonForm::HScroll1_Change() {
-    const double side = HScroll1.Value() * pixelsAStep * twipsPerPixel;
+    const double side = twipsPerPixel * pixelsAStep * HScroll1.Value();
     Picture1.SetWidth(side);
     Picture1.SetHeight(Check1.Value() ? side / 2 : side);
     Picture1.surface.SetPicture({});
     Draw();
-    Label14.Caption = std::to_string(HScroll1.Value() - smallestStep);
+    Label14.Caption = std::to_string(std::int64_t{HScroll1.Value()} - smallestStep);
 }
 
 void PolygonForm::Draw() {

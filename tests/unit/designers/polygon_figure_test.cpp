@@ -8,6 +8,7 @@
 #include "surface/surface.h"
 
 #include <array>
+#include <climits>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -241,6 +242,8 @@ TEST_F(PolygonDrawing, TakesRadiiAndTurnsOfAnySize) {
         }
     }
     EXPECT_TRUE(Drawn({10, 0, wholeTurn}, 0.5, 0, 0).Empty());
+    EXPECT_EQ(Drawn({7, INT_MAX, wholeTurn}, 1, 40, 40), Drawn({7, 32767, wholeTurn}, 1, 40, 40));
+    EXPECT_EQ(Drawn({7, INT_MIN, halfTurn}, 1, 40, 40), Drawn({7, -32768, halfTurn}, 1, 40, 40));
 }
 
 }  // namespace

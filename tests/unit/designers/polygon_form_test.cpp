@@ -4,6 +4,8 @@
 #include "designers/polygon_figure.h"
 #include "support/world.h"
 
+#include <climits>
+#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -177,6 +179,22 @@ TEST_F(PolygonFormTest, TakesALineWidthThatIsTyped) {
         dialog.Combo1.UserEdits("99999999999");
         dialog.chkCircle.Click();
         EXPECT_EQ(dialog.Picture1.surface.Point(0, 0), black);
+    });
+}
+
+TEST_F(PolygonFormTest, BarsOfAnyRangeDrawOrLeaveThePictureAsItWas) {
+    Open([this](PolygonForm& dialog) {
+        const int width = dialog.Picture1.surface.Image().Width();
+        dialog.HScroll1.SetRange(INT_MIN, INT_MAX);
+        for (const int end : {INT_MIN, INT_MAX}) {
+            dialog.HScroll1.SetValue(end);
+            EXPECT_EQ(dialog.Label14.Caption, std::to_string(std::int64_t{end} - 10));
+        }
+        EXPECT_EQ(dialog.Picture1.surface.Image().Width(), width);
+        dialog.hsbRotate.SetRange(0, INT_MAX);
+        dialog.hsbRotate.SetValue(INT_MAX);
+        EXPECT_EQ(dialog.Picture1.surface.Image(),
+                  Polygon({dialog.vsbNumberofSides.Value(), 32767, wholeTurn}, width, width));
     });
 }
 
