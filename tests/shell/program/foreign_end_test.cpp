@@ -193,7 +193,7 @@ TEST_F(ProgramForeignEnd, SavingThatShowsItsBarIsDone) {
 }
 
 /// The moment when a signal comes can't be chosen from outside; many are tried.
-constexpr std::array pauses{0UL, 1UL, 2UL, 3UL, 5UL, 8UL, 13UL, 20UL, 35UL, 60UL};  // milliseconds
+constexpr std::array pauses{0UL, 2UL, 5UL, 13UL, 30UL, 60UL};  // milliseconds
 
 TEST_F(ProgramForeignEnd, FiltersLeaveWhatWasThereOrWhatTheyMade) {
     for (const unsigned long pause : pauses) {
