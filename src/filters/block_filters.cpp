@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdlib>
 #include <vector>
 
@@ -33,9 +34,10 @@ void PixelizeBySums(FilterRun& run, int side) {
         for (int block = 0; block < blocks; ++block) {
             const int left = block * side, right = std::min(left + side, width);
             std::array<Sum, pixelBytes> sum{};
-            for (int x = left; x < right; ++x) {
+            const std::int32_t* column = columns.data() + std::ptrdiff_t{left} * pixelBytes;
+            for (int x = left; x < right; ++x, column += pixelBytes) {
                 for (std::size_t channel = 0; channel < sum.size(); ++channel)
-                    sum[channel] += columns[static_cast<std::size_t>(x) * pixelBytes + channel];
+                    sum[channel] += column[channel];
             }
             const std::size_t first = static_cast<std::size_t>(block) * pixelBytes;
             std::copy_n(sum.data(), sum.size(), sums.data() + first);
@@ -43,8 +45,11 @@ void PixelizeBySums(FilterRun& run, int side) {
         }
         // Sums of squares of this size are whole in double precision, and so far from it that a quotient that
         // isn't whole stays below the next whole number.
+        const Sum* sum = sums.data();
+        const double* count = counts.data();
+        std::uint8_t* mean = means.data();
         for (std::size_t i = 0; i < sums.size(); ++i)
-            means[i] = static_cast<std::uint8_t>(static_cast<int>(static_cast<double>(sums[i]) / counts[i]));
+            mean[i] = static_cast<std::uint8_t>(static_cast<int>(static_cast<double>(sum[i]) / count[i]));
     };
 
     for (int y = 0; y < height; ++y) {
