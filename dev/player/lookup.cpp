@@ -51,6 +51,8 @@ void VisitScreen(PropertyVisitor& visitor, ScreenState& screen, PlayerPlatform* 
     VisitField(visitor, "MousePointer", screen.MousePointer);
     VisitReadOnly(visitor, "Popup", PropertyKind::Text,
                   [platform] { return platform ? platform->Popup() : std::string(); });
+    VisitReadOnly(visitor, "PopupAt", PropertyKind::Text,
+                  [platform] { return platform ? platform->PopupAt() : std::string(); });
 }
 
 /// The properties of `Screen`, `Session` and `Program`; nothing if `name` is none of these.

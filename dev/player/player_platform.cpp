@@ -1,5 +1,6 @@
 #include "player/player_platform.h"
 
+#include "controls/control.h"
 #include "controls/menu.h"
 #include "player/failure.h"
 #include "player/names.h"
@@ -19,8 +20,15 @@ T Queued(std::optional<T> answer, std::string_view asker, const std::string& tex
 
 }  // namespace
 
-void PlayerPlatform::PopupMenu(MenuItem& menu) {
+void PlayerPlatform::ShowPopup(MenuItem& menu, const Control* at) {
+    popupMenu_ = &menu;
+    popupForm_ = &menu.OwnerForm();
     popup_ = NameOf(menu);
+    popupAt_ = at ? NameOf(*at) : std::string();
+}
+
+void PlayerPlatform::FormUnloaded(Form& form) {
+    if (&form == popupForm_) popupMenu_ = nullptr;
 }
 
 void PlayerPlatform::RunModal(Form& dialog) {

@@ -32,7 +32,6 @@ public:
     PlayerPlatform(ScriptReader& reader, VirtualClock& clock, Answers& answers)
         : reader_(reader), clock_(clock), answers_(answers) {}
 
-    void PopupMenu(MenuItem& menu) override;
     void MovePointer(const Control& control, float x, float y) override { pointer.PutOn(control, x, y); }
     bool IsPointerOver(const Control& control) const override { return pointer.IsOver(control); }
 
@@ -40,11 +39,16 @@ public:
     Record<ShownMessage> messages;
     /// The menu last popped up, as in an address; empty before the first.
     const std::string& Popup() const { return popup_; }
+    /// The control that it stands at, likewise; empty if it stands at the pointer.
+    const std::string& PopupAt() const { return popupAt_; }
+    /// The menu itself, or nullptr once its form is unloaded.
+    const MenuItem* PopupMenuItem() const { return popupMenu_; }
 
 protected:
     void RunModal(Form& dialog) override;
     void FormLoaded(Form&) override {}
-    void FormUnloaded(Form&) override {}
+    void FormUnloaded(Form& form) override;
+    void ShowPopup(MenuItem& menu, const Control* at) override;
     void ServeEvents() override { reader_.ServeInterrupts(); }
     void ServeEventsFor(double seconds) override;
     Answer AskMessage(const Message& message) override;
@@ -57,7 +61,9 @@ private:
     ScriptReader& reader_;
     VirtualClock& clock_;
     Answers& answers_;
-    std::string popup_;
+    std::string popup_, popupAt_;
+    const MenuItem* popupMenu_ = nullptr;
+    const Form* popupForm_ = nullptr;
 };
 
 }  // namespace coinlet::player

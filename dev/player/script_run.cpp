@@ -86,6 +86,7 @@ void ScriptRun::Perform(const Call& call) {
     if (NeedsOf(call) == Needs::RunningProgram && life_->platform.Ended())
         Fail("expected a running program for " + std::string(call.command->name) + ", found it ended");
     call.command->run(*this, call.GetArguments());
+    if (life_) life_->platform.SettleFocus();
 }
 
 void ScriptRun::Guard(const std::function<void()>& action) {

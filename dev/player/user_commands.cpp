@@ -4,18 +4,21 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/menu.h"
+#include "controls/menu_letters.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "player/commands.h"
 #include "player/failure.h"
 #include "player/keys.h"
 #include "player/lookup.h"
+#include "player/names.h"
 #include "player/reach.h"
 #include "player/script_run.h"
 #include "player/values.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -162,6 +165,8 @@ KeyTarget ReadKeyTarget(Life& life, const Arguments& arguments) {
 }
 
 void SendKeyDown(const Life& life, const KeyTarget& key) {
+    constexpr int tab = 9;
+    if (key.code == tab) return key.form.MoveFocusByTab((key.shift & shiftHeld) != 0);
     key.form.KeyDown(key.control, key.code, key.shift);
     // With Ctrl or Alt a key is a command, and no letter.
     const bool types = (key.shift & (controlHeld | altHeld)) == 0;
@@ -203,6 +208,10 @@ void Type(ScriptRun& run, const Arguments& arguments) {
         TypeInto(*box, text);
     } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         TypeInto(*combo, text);
+    } else if (auto* const list = dynamic_cast<ListBox*>(&control)) {
+        list->SetFocus();
+        for (const std::string& character : Characters(text))
+            list->OwnerForm().KeyTyped(list, CodeOfCharacter(character));
     } else {
         Fail(arguments.Text(0) + " takes no text");
     }
@@ -212,6 +221,44 @@ void Focus(ScriptRun& run, const Arguments& arguments) {
     Control& control = ReachControl(run.TheLife(), arguments.Address(0));
     if (!control.CanFocus()) Refuse(arguments.Text(0) + " takes no focus");
     control.SetFocus();
+}
+
+// --- Menus by keyboard -----------------------------------------------------------------------------------
+
+/// The titles of the menu bar of the form in front.
+std::vector<MenuItem*> MenuBar(const Life& life) {
+    std::vector<MenuItem*> bar;
+    if (const Form* const front = life.platform.FrontForm())
+        std::ranges::copy_if(front->Menus(), std::back_inserter(bar), &MenuItem::Visible);
+    return bar;
+}
+
+/// Chooses by letters, the first of them in `open`, each further one in the menu that the one before it
+/// opened.
+void ChooseByLetters(const Life& life, std::vector<MenuItem*> open, const Arguments& letters) {
+    MenuItem* entry = nullptr;
+    for (std::size_t i = 0; i < letters.Count(); ++i) {
+        if (entry && entry->Entries().empty()) Fail(FullNameOf(*entry) + " is no menu");
+        entry = EntryOfLetter(open, letters.Text(i));
+        if (!entry) Refuse("no entry has the letter " + Quoted(letters.Text(i)));
+        if (!entry->Enabled) Refuse(FullNameOf(*entry) + " is disabled");
+        open = entry->Entries();
+    }
+    RequireChoice(life, *entry);
+    entry->Click();
+}
+
+void MenuKey(ScriptRun& run, const Arguments& arguments) {
+    const Life& life = run.TheLife();
+    ChooseByLetters(life, MenuBar(life), arguments);
+}
+
+void PopupKey(ScriptRun& run, const Arguments& arguments) {
+    Life& life = run.TheLife();
+    const MenuItem* const popup = life.platform.PopupMenuItem();
+    if (!popup) Refuse("no menu has popped up");
+    RequireFront(life, popup->OwnerForm());
+    ChooseByLetters(life, popup->Entries(), arguments);
 }
 
 // --- Lists and windows ------------------------------------------------------------------------------------
@@ -265,6 +312,8 @@ constexpr Command commands[] = {
     {"keyup", "ADDR CODE [MODIFIERS]", Needs::RunningProgram, KeyUp},
     {"type", "ADDR TEXT", Needs::RunningProgram, Type},
     {"focus", "ADDR", Needs::RunningProgram, Focus},
+    {"menu-key", "LETTER...", Needs::RunningProgram, MenuKey},
+    {"popup-key", "LETTER...", Needs::RunningProgram, PopupKey},
     {"pick", "ADDR ROW", Needs::RunningProgram, Pick},
     {"slide", "ADDR VALUE...", Needs::RunningProgram, Slide},
     {"close", "FORM", Needs::RunningProgram, Close},

@@ -273,6 +273,10 @@ std::string OrderKey(std::string_view utf8) {
     return key.append(utf8);
 }
 
+bool BeginsWith(std::string_view text, std::string_view beginning) {
+    return BaseLetters(text).starts_with(BaseLetters(beginning));
+}
+
 bool ComesBefore(std::string_view a, std::string_view b) {
     if (!IsAscii(a) || !IsAscii(b)) return OrderKey(a) < OrderKey(b);
     const auto letterBefore = [](char x, char y) { return LowerAscii(x) < LowerAscii(y); };

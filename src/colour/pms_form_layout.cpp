@@ -5,6 +5,8 @@
 #include "core/dialog_layout.h"
 
 #include <array>
+#include <cstddef>
+#include <vector>
 
 namespace coinlet {
 
@@ -40,6 +42,21 @@ constexpr std::array labels{
     LabelPlace{&PMSForm::Label13, column1, 196, 280, 16},
 };
 
+int PaletteLeft(int box) {
+    return box % paletteColumns * boxPitch;
+}
+int PaletteTop(int box) {
+    return box / paletteColumns * boxPitch;
+}
+
+std::vector<Rectangle> PalettePlaces() {
+    std::vector<Rectangle> places;
+    for (int box = 0; box < static_cast<int>(palette.size()); ++box)
+        places.push_back({static_cast<double>(PaletteLeft(box)), static_cast<double>(PaletteTop(box)),
+                          boxPitch + 1, boxPitch + 1});
+    return places;
+}
+
 }  // namespace
 
 void LayOutPmsForm(PMSForm& form) {
@@ -61,6 +78,7 @@ void LayOutPmsForm(PMSForm& form) {
     const int columns = paletteColumns * boxPitch + 1;
     const int rows = static_cast<int>(palette.size()) / paletteColumns * boxPitch + 1;
     PlaceByPixels(form.Pic, column1, 252, columns, rows);
+    form.Pic.SetPressPlaces(PalettePlaces());
     PlaceByPixels(form.OkKnop, column1, 312, 136, 28);
     PlaceByPixels(form.CancelKnop, 160, 312, 136, 28);
     form.OkKnop.SetCaption("OK");
@@ -68,16 +86,12 @@ void LayOutPmsForm(PMSForm& form) {
 }
 
 void DrawPmsPalette(Surface& surface) {
-    int x = 0, y = 0;
-    for (const Colour colour : palette) {
+    for (int box = 0; box < static_cast<int>(palette.size()); ++box) {
+        const int x = PaletteLeft(box), y = PaletteTop(box);
+        const Colour colour = palette[static_cast<std::size_t>(box)];
         surface.Line(x, y, x + boxPitch, y + boxPitch, black, Box::Outline);
         surface.Line(x + boxInset, y + boxInset, x + boxPitch - boxInset, y + boxPitch - boxInset, colour,
                      Box::Filled);
-        x += boxPitch;
-        if (x == paletteColumns * boxPitch) {
-            x = 0;
-            y += boxPitch;
-        }
     }
 }
 

@@ -8,6 +8,17 @@
 
 namespace coinlet {
 
+namespace {
+
+/// The button of the pointer that a key stands for on what keys press.
+int ButtonOfKey(int code, int shift) {
+    if (!IsPlainKey(shift)) return noButton;
+    if (code == keyReturn || code == keySpace) return leftButton;
+    return code == keyF10 && (shift & shiftHeld) != 0 ? rightButton : noButton;
+}
+
+}  // namespace
+
 Control::Control(Container& container, std::string_view name, int index, ControlKind kind)
     : Element(container.HostForm(), name, index),
       TabIndex(container.HostForm().controlsMade_++),
@@ -20,6 +31,8 @@ Control::~Control() {
     std::erase(container_->children_, this);
     Form& form = OwnerForm();
     if (form.focus_ == this) form.focus_ = nullptr;
+    if (form.lastFocus_ == this) form.lastFocus_ = nullptr;
+    if (form.keyed_ == this) form.keyed_ = nullptr;
     if (form.DefaultButton == this) form.DefaultButton = nullptr;
 }
 
@@ -64,6 +77,7 @@ bool Control::EndPress(int button) {
 void Control::PointerPressed(int button, int shift, float x, float y) {
     if (!Answers()) return;
     OwnerForm().heldButtons_ |= button;
+    if (button != noButton) OwnerForm().keyed_ = nullptr;
     if (button == leftButton) {
         leftPressed_ = true;
         if (TakesFocusByPress()) SetFocus();
@@ -85,16 +99,44 @@ void Control::PointerReleased(int button, int shift, float x, float y) {
     if (clicks && Answers()) Clicked();
 }
 
-void Control::PointerClicked() {
+Control::PressPlace Control::Middle() const {
     const float units = PointerUnitsPerPixel();
     const int column = PixelWidth() / 2, row = PixelHeight() / 2;
-    const float x = static_cast<float>(column) * units, y = static_cast<float>(row) * units;
+    return {static_cast<float>(column) * units, static_cast<float>(row) * units};
+}
+
+void Control::PointerClicked() {
+    const auto [x, y] = Middle();
     PointerPressed(leftButton, 0, x, y);
     PointerReleased(leftButton, 0, x, y);
 }
 
+void Control::LetKeysPress() {
+    MakeFocusable();
+    keysPress_ = true;
+}
+
+Control::PressPlace Control::KeyPressPlace() const {
+    return Middle();
+}
+
+bool Control::WantsKey(int code, int shift) const {
+    return keysPress_ && ButtonOfKey(code, shift) != noButton;
+}
+
+void Control::PressByKey(int button) {
+    const auto [x, y] = KeyPressPlace();
+    PointerPressed(button, 0, x, y);
+    PointerReleased(button, 0, x, y);
+}
+
 void Control::KeyPressed(int code, int shift) {
-    if (Answers()) KeyDown(code, shift);
+    if (!Answers()) return;
+    KeyDown(code, shift);
+    if (!keysPress_ || !Answers()) return;
+    const int button = ButtonOfKey(code, shift);
+    spaceIsDown_ = code == keySpace && button != noButton;
+    if (button != noButton && !spaceIsDown_) PressByKey(button);
 }
 
 void Control::CharacterTyped(int character) {
@@ -102,7 +144,10 @@ void Control::CharacterTyped(int character) {
 }
 
 void Control::KeyReleased(int code, int shift) {
-    if (Answers()) KeyUp(code, shift);
+    const bool presses = code == keySpace && std::exchange(spaceIsDown_, false);
+    if (!Answers()) return;
+    KeyUp(code, shift);
+    if (presses && Answers()) PressByKey(leftButton);
 }
 
 void Control::FocusGained() {
@@ -110,6 +155,7 @@ void Control::FocusGained() {
 }
 
 void Control::FocusLost() {
+    spaceIsDown_ = false;
     LostFocus();
 }
 

@@ -76,11 +76,25 @@ public:
     int TabIndex;
     /// Whether the tab key stops here. Controls that take no focus have it false.
     bool TabStop = false;
+    /// Whether the tab key stops here now. Of several controls that are one choice, one does.
+    virtual bool StopsTab() const { return TabStop && CanFocus(); }
     /// True for controls that can have the focus at all.
     bool CanFocus() const { return takesFocus_ && Shown() && Reachable(); }
     /// Gives it the focus, if it can have it.
     void SetFocus();
     bool HasFocus() const;
+
+    /// For what is pressed by the pointer and is no button: lets it have the focus, by the tab key or by
+    /// code, and then lets keys press it. Enter acts as a press and a release of the left button at its
+    /// KeyPressPlace, and so does Space when it comes up where it went down; Shift and F10 act as those of
+    /// the right button.
+    void LetKeysPress();
+    bool KeysPress() const { return keysPress_; }
+    /// Where keys press it, in the units of a pointer event: in the middle.
+    struct PressPlace {
+        float x, y;
+    };
+    virtual PressPlace KeyPressPlace() const;
 
     Event<> Click;
     PointerEvent MouseDown, MouseMove, MouseUp;
@@ -116,13 +130,13 @@ public:
 
     /// True for keys that mean something to the control itself, such as the arrows to a list; others may mean
     /// something to its form. A field that is typed in wants them all.
-    virtual bool WantsKey(int /*code*/, int /*shift*/) const { return false; }
+    virtual bool WantsKey(int code, int shift) const;
     /// True if the Enter key, while this has the focus, is the form's default button's.
     virtual bool PassesEnterOn() const { return false; }
 
 protected:
     /// True if a press of the left button gives it the focus, if it can have it.
-    virtual bool TakesFocusByPress() const { return true; }
+    virtual bool TakesFocusByPress() const { return !keysPress_; }
     void MakeFocusable() { takesFocus_ = TabStop = true; }
     /// What a finished click does.
     virtual void Clicked() { Click(); }
@@ -135,12 +149,17 @@ protected:
     bool ContainsPoint(float x, float y) const;
 
 private:
+    PressPlace Middle() const;
+    void PressByKey(int button);
+
     Container* container_;
     ControlKind kind_;
     double left_ = 0, top_ = 0, width_ = 0, height_ = 0;
     bool enabled_ = true;
     bool takesFocus_ = false;
     bool leftPressed_ = false;
+    bool keysPress_ = false;
+    bool spaceIsDown_ = false;
 };
 
 }  // namespace coinlet

@@ -58,6 +58,10 @@ constexpr bool IsStepKey(int code) {
 }
 /// The shift state of a key or pointer event, added up.
 constexpr int shiftHeld = 1, controlHeld = 2, altHeld = 4;
+/// True unless a key is held that makes a command of every other one.
+constexpr bool IsPlainKey(int shift) {
+    return (shift & (controlHeld | altHeld)) == 0;
+}
 
 /// An event by its name, to be raised from outside: `raise` takes `arguments` numbers (missing ones are 0).
 struct NamedEvent {

@@ -37,6 +37,7 @@ void Form::MoveFocus(Control* control) {
     if (control == focus_ || (control && !control->CanFocus())) return;
     Control* const former = focus_;
     focus_ = control;
+    lastFocus_ = nullptr;
     if (former) former->FocusLost();
     // What is told of the loss may have moved the focus on, or taken away what it needs.
     if (focus_ != control || !control) return;
@@ -45,6 +46,13 @@ void Form::MoveFocus(Control* control) {
     } else {
         focus_ = nullptr;
     }
+}
+
+void Form::SettleFocus() {
+    if (!focus_ || focus_->CanFocus()) return;
+    Control* const lost = focus_;
+    MoveFocus(nullptr);
+    if (!focus_) lastFocus_ = lost;
 }
 
 std::vector<Control*> Form::TabOrder() const {
@@ -58,11 +66,11 @@ std::vector<Control*> Form::TabOrder() const {
 void Form::MoveFocusByTab(bool backward) {
     auto order = TabOrder();
     if (backward) std::ranges::reverse(order);
-    // Round about from the one behind the focus; without a focus find gives the end, which is the start.
-    const auto focused = std::ranges::find(order, Focus());
+    // Round about from the one behind the focus, or behind the place where it was lost; without either find
+    // gives the end, which is the start.
+    const auto focused = std::ranges::find(order, focus_ ? focus_ : lastFocus_);
     if (focused != order.end()) std::rotate(order.begin(), focused + 1, order.end());
-    const auto next =
-        std::ranges::find_if(order, [](const Control* c) { return c->TabStop && c->CanFocus(); });
+    const auto next = std::ranges::find_if(order, &Control::StopsTab);
     if (next != order.end()) MoveFocus(*next);
 }
 
@@ -70,6 +78,7 @@ void Form::KeyDown(Control* target, int code, int shift) {
     if (!loaded_) return;
     Control* const control = target ? target : Focus();
     const bool spare = !control || !control->WantsKey(code, shift);
+    keyed_ = control;
     if (control) control->KeyPressed(code, shift);
     if (!loaded_) return;
     if (spare && Form_SpareKey(code, shift)) return;
@@ -79,7 +88,8 @@ void Form::KeyDown(Control* target, int code, int shift) {
 
 void Form::KeyUp(Control* target, int code, int shift) {
     if (!loaded_) return;
-    if (Control* control = target ? target : Focus()) control->KeyReleased(code, shift);
+    keyed_ = target ? target : Focus();
+    if (keyed_) keyed_->KeyReleased(code, shift);
     if (loaded_) Form_KeyReleased(code, shift);
 }
 

@@ -50,6 +50,9 @@ public:
     /// form itself lives on until its handlers have returned. Does nothing on a form that isn't loaded.
     void Unload();
 
+    /// The control that the user's last key went to, or nullptr if he has pressed a button of the pointer
+    /// since, or none had the focus.
+    Control* KeyedControl() const { return keyed_; }
     /// True while the user holds a button of the pointer that went down over a control of the form, or a key
     /// in its place.
     bool PointerHeld() const { return heldButtons_ != 0 || ButtonsHeldByKeys != 0; }
@@ -75,6 +78,9 @@ public:
     /// Moves the focus and tells both controls; nullptr takes it away. A control that can't have it changes
     /// nothing.
     void MoveFocus(Control* control);
+    /// Takes the focus away from a control that was hidden or disabled with it, and tells that. The tab key
+    /// goes on from its place. To be called after whatever the user does.
+    void SettleFocus();
     /// Gives the focus to the next (or previous) control in tab order, round about.
     void MoveFocusByTab(bool backward);
     /// The controls in tab order.
@@ -126,6 +132,8 @@ private:
     std::vector<Timer*> timers_;
     std::uint64_t elementRevision_ = 0;
     Control* focus_ = nullptr;
+    Control* lastFocus_ = nullptr;  ///< Who had it before it was taken away.
+    Control* keyed_ = nullptr;
     int controlsMade_ = 0;
     int heldButtons_ = 0;  ///< Their numbers added up.
     bool loaded_ = false;

@@ -11,7 +11,7 @@ namespace coinlet {
 
 enum class Alignment { Left, Right, Center };
 
-/// A text that the user reads. It takes pointer events and no focus.
+/// A text that the user reads. It takes pointer events and, unless keys may press it, no focus.
 class Label : public Control, public FontProperties {
 public:
     Label(Container& container, std::string_view name, int index = noIndex);

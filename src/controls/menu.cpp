@@ -1,6 +1,7 @@
 #include "controls/menu.h"
 
 #include "controls/form.h"
+#include "controls/menu_letters.h"
 
 #include <algorithm>
 
@@ -38,6 +39,11 @@ bool MenuItem::CanBeChosen() const {
 void MenuItem::VisitProperties(PropertyVisitor& visitor) {
     Element::VisitProperties(visitor);
     VisitField(visitor, "Caption", Caption);
+    VisitReadOnly(visitor, "Letter", PropertyKind::Text, [this] {
+        const auto& menu = parent_ ? parent_->entries_ : OwnerForm().Menus();
+        const auto place = static_cast<std::size_t>(std::ranges::find(menu, this) - menu.begin());
+        return MenuLetters(menu)[place].letter;
+    });
     VisitField(visitor, "Checked", Checked);
     VisitField(visitor, "Enabled", Enabled);
     VisitField(visitor, "Visible", Visible);

@@ -4,6 +4,8 @@
 #include "controls/form.h"
 
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace coinlet {
 
@@ -13,6 +15,56 @@ PictureBox::PictureBox(Container& container, std::string_view name, int index)
 void PictureBox::LetHaveFocus() {
     MakeFocusable();
     TabStop = false;
+}
+
+void PictureBox::SetPressPlaces(std::vector<Rectangle> places) {
+    places_ = std::move(places);
+    place_ = places_.empty() ? -1 : 0;
+    LetKeysPress();
+}
+
+Control::PressPlace PictureBox::KeyPressPlace() const {
+    if (place_ < 0) return Control::KeyPressPlace();
+    const Rectangle& place = places_[static_cast<std::size_t>(place_)];
+    return {static_cast<float>(std::floor(place.x + place.width / 2)),
+            static_cast<float>(std::floor(place.y + place.height / 2))};
+}
+
+/// Of the places whose middles lie farther in the direction of the key the nearest one; to turn aside counts
+/// double.
+int PictureBox::PlaceAfterKey(int code) const {
+    const int last = static_cast<int>(places_.size()) - 1;
+    if (code == keyHome) return 0;
+    if (code == keyEnd) return last;
+    const bool sideways = code == keyLeft || code == keyRight;
+    if (!sideways && code != keyUp && code != keyDown) return place_;
+    const double direction = code == keyLeft || code == keyUp ? -1 : 1;
+    const auto middle = [this](int number) {
+        const Rectangle& place = places_[static_cast<std::size_t>(number)];
+        return std::pair(place.x + place.width / 2, place.y + place.height / 2);
+    };
+    const auto [x, y] = middle(place_);
+    int nearest = place_;
+    double least = std::numeric_limits<double>::infinity();
+    for (int i = 0; i <= last; ++i) {
+        const auto [otherX, otherY] = middle(i);
+        const double along = direction * (sideways ? otherX - x : otherY - y);
+        const double aside = std::abs(sideways ? otherY - y : otherX - x);
+        if (along <= 0 || along + 2 * aside >= least) continue;
+        least = along + 2 * aside;
+        nearest = i;
+    }
+    return nearest;
+}
+
+bool PictureBox::WantsKey(int code, int shift) const {
+    const bool walks = code >= keyEnd && code <= keyDown;
+    return Control::WantsKey(code, shift) || (place_ >= 0 && walks && IsPlainKey(shift));
+}
+
+void PictureBox::KeyPressed(int code, int shift) {
+    if (place_ >= 0 && Answers() && IsPlainKey(shift)) place_ = PlaceAfterKey(code);
+    Control::KeyPressed(code, shift);
 }
 
 double PictureBox::SizeToTell(double assigned, int pixels) const {
@@ -74,6 +126,7 @@ void PictureBox::VisitProperties(PropertyVisitor& visitor) {
         [this](int mode) { surface.SetScaleMode(mode); });
     VisitReadOnly(visitor, "ScaleWidth", PropertyKind::Number, [this] { return ScaleWidth(); });
     VisitReadOnly(visitor, "ScaleHeight", PropertyKind::Number, [this] { return ScaleHeight(); });
+    if (place_ >= 0) VisitReadOnly(visitor, "PlaceNumber", PropertyKind::Number, [this] { return place_; });
     VisitFont(visitor, surface);
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "controls/control.h"
+#include "surface/geometry.h"
 #include "surface/surface.h"
+
+#include <vector>
 
 namespace coinlet {
 
@@ -40,10 +43,21 @@ public:
     /// Gives the surface a picture.
     virtual void SetPicture(const coinlet::Image& picture) { surface.SetPicture(picture); }
 
+    /// Gives the picture places that are pressed each for itself, in the units of the scale. Keys press it
+    /// then (see LetKeysPress), in the middle of the place that the user is at; the arrows lead to the next
+    /// place in their direction, Home and End to the first and the last.
+    void SetPressPlaces(std::vector<Rectangle> places);
+    const std::vector<Rectangle>& PressPlaces() const { return places_; }
+    /// The one that the user is at, from 0, or -1 without any.
+    int PlaceNumber() const { return place_; }
+
     /// Lets code give it the focus. No press gives it, and no tab key while `TabStop` is false, as it is.
     void LetHaveFocus();
 
     float PointerUnitsPerPixel() const override;
+    PressPlace KeyPressPlace() const override;
+    bool WantsKey(int code, int shift) const override;
+    void KeyPressed(int code, int shift) override;
     void VisitProperties(PropertyVisitor& visitor) override;
 
     Form& HostForm() override { return OwnerForm(); }
@@ -56,6 +70,10 @@ protected:
 
 private:
     double SizeToTell(double assigned, int pixels) const;
+    int PlaceAfterKey(int code) const;
+
+    std::vector<Rectangle> places_;
+    int place_ = -1;
 };
 
 /// A picture of a form that no window shows: stock pictures, scratch pictures of a fixed content.

@@ -1,6 +1,7 @@
 #include "controls/platform.h"
 
 #include "base/text.h"
+#include "controls/menu.h"
 
 #include <algorithm>
 #include <utility>
@@ -57,7 +58,7 @@ void Platform::Activate(Form& form) {
 
 void Platform::Remove(Form& form) {
     if (!std::exchange(form.loaded_, false)) return;
-    form.focus_ = nullptr;
+    form.focus_ = form.lastFocus_ = nullptr;
     std::erase(forms_, &form);
     if (active_ == &form) active_ = nullptr;
     if (std::exchange(form.announced_, false)) FormUnloaded(form);
@@ -123,6 +124,16 @@ std::string Platform::PickFolder(const std::string& title, const std::string& st
     std::string folder = AskFolder(title, start);
     ThrowIfEnded();
     return folder;
+}
+
+void Platform::PopupMenu(MenuItem& menu) {
+    if (!ended_) ShowPopup(menu, menu.OwnerForm().KeyedControl());
+}
+
+void Platform::SettleFocus() {
+    // What is told of the loss may open or close forms.
+    for (Form* form : std::vector(forms_))
+        if (std::ranges::find(forms_, form) != forms_.end()) form->SettleFocus();
 }
 
 void Platform::End() {

@@ -69,8 +69,9 @@ public:
     /// there is no such folder.
     std::string PickFolder(const std::string& title, const std::string& start = {});
 
-    /// Pops up a menu at the pointer and returns at once; what is chosen comes as its own event.
-    virtual void PopupMenu(MenuItem& menu) = 0;
+    /// Pops up a menu and returns at once; what is chosen comes as its own event. It stands at the pointer,
+    /// or at the control whose key the user pressed for it.
+    void PopupMenu(MenuItem& menu);
     /// Puts the pointer on a place of a control, in the units of its pointer events. The control isn't told.
     /// Where windows may not do that, it stays where it is.
     virtual void MovePointer(const Control& control, float x, float y) = 0;
@@ -81,6 +82,10 @@ public:
     /// dialog isn't shown, a message gives its standard answer, a text is empty.
     [[noreturn]] void End();
     bool Ended() const { return ended_; }
+
+    /// Takes the focus of every form away from what was hidden or disabled with it: whoever lets events in
+    /// calls it after each.
+    void SettleFocus();
 
     /// The loaded forms; the last one is in front and the only one the user can reach.
     const std::vector<Form*>& Forms() const { return forms_; }
@@ -95,6 +100,8 @@ protected:
     /// taken off. When FormUnloaded comes the form may be half destroyed: its address alone counts.
     virtual void FormLoaded(Form& form) = 0;
     virtual void FormUnloaded(Form& form) = 0;
+    /// Pops up a menu at a control, or at the pointer if that is nullptr, and returns at once.
+    virtual void ShowPopup(MenuItem& menu, const Control* at) = 0;
     virtual void ServeEvents() = 0;
     virtual void ServeEventsFor(double seconds) = 0;
     virtual Answer AskMessage(const Message& message) = 0;

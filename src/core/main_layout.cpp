@@ -145,6 +145,7 @@ void LayOutCanvas(MainForm& main) {
     main.TopInfoPic.Move(8010, 270, Twips(sidePanelWidth), Twips(rulerHeight));
     main.TopInfoPic.surface.SetBackColor(formColour);
     main.InfoPic.Move(8010, 570, Twips(sidePanelWidth), Twips(sidePanelHeight));
+    main.InfoPic.SetPressPlaces(SwatchPlaces());
     // Over the back, which one doesn't need while one picks colours.
     main.Label16.Move(main.InfoPic.Left() + Twips(sidePanelBackLeft),
                       main.InfoPic.Top() + Twips(sidePanelBackTop), Twips(sidePanelBackSide),
@@ -244,6 +245,7 @@ void LayOutTools(MainForm& main) {
     main.ColorLabel.BackColor = accentColour;
     main.ColorLabel.ToolTipText = " Click to change Colors ";
     Place(main.ColorLabel, 10, 292, 150, 24);
+    main.ColorLabel.LetKeysPress();
 
     for (const Slider& slider : sliders) {
         ScrollBar& bar = main.*slider.bar;

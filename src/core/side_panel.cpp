@@ -70,6 +70,13 @@ std::optional<int> SwatchAt(float x, float y) {
     return {};
 }
 
+std::vector<Rectangle> SwatchPlaces() {
+    std::vector<Rectangle> places;
+    for (int row = 0; row < sidePanelRows; ++row)
+        places.push_back({swatchLeft, static_cast<double>(RowTop(row)), rowHeight + 1, rowHeight + 1});
+    return places;
+}
+
 void FillSwatch(Surface& panel, int row, float x, float y, Colour colour) {
     panel.DrawMode = copyPen;
     panel.FillColor = colour;

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace coinlet {
 
@@ -31,6 +32,9 @@ void DrawEmptyRows(Surface& panel, Colour textColour);
 
 /// The row whose swatch is at that place; the swatch's own edge isn't part of it.
 std::optional<int> SwatchAt(float x, float y);
+
+/// Where the swatches are, row by row.
+std::vector<Rectangle> SwatchPlaces();
 
 /// Fills the swatch of a row with a colour, from the place in it that was pressed: what is of one colour
 /// there is filled, and the swatch gets a white frame.

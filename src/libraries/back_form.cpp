@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace coinlet {
 
@@ -43,6 +44,13 @@ int CellAt(float x, float y) {
     return -1;
 }
 
+std::vector<Rectangle> CellPlaces() {
+    std::vector<Rectangle> places;
+    for (int cell = 0; cell < cellsARow; ++cell)
+        places.push_back({static_cast<double>(cell * cellSide), 0, cellSide, cellSide});
+    return places;
+}
+
 }  // namespace
 
 BackForm::BackForm(Context& context) : Form(context.services.ForForms(), "BackForm"), context_(context) {
@@ -51,6 +59,7 @@ BackForm::BackForm(Context& context) : Form(context.services.ForForms(), "BackFo
     HScroll1.Change = [this] { HScroll1_Change(); };
     HScroll1.Scroll = [this] { HScroll1_Change(); };
     Pic.MouseDown = [this](int, int, float x, float y) { Pic_MouseDown(x, y); };
+    Pic.SetPressPlaces(CellPlaces());
     ExportKnop.Click = [this] { ExportKnop_Click(); };
     CancelKnop.Click = [this] { Unload(); };
 }

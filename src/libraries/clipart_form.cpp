@@ -15,6 +15,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace coinlet {
 
@@ -44,6 +45,13 @@ int ClipartAt(float x, float y) {
     return 0;
 }
 
+std::vector<Rectangle> ThumbnailPlaces() {
+    std::vector<Rectangle> places;
+    for (int i = 0; i < cliparts; ++i)
+        places.push_back({static_cast<double>(i * thumbnailWidth), 0, thumbnailWidth, thumbnailHeight});
+    return places;
+}
+
 }  // namespace
 
 ClipartForm::ClipartForm(Context& context)
@@ -52,6 +60,7 @@ ClipartForm::ClipartForm(Context& context)
     Combo1.Change = [this] { Combo1_Change(); };
     Combo1.Click = [this] { Combo1_Change(); };
     Pic.MouseDown = [this](int, int, float x, float y) { Pic_MouseDown(x, y); };
+    Pic.SetPressPlaces(ThumbnailPlaces());
     VScroll2.Change = [this] { VScroll2_Change(); };
     VScroll2.Scroll = [this] { VScroll2_Change(); };
     BWKnop.Click = [this] { BWKnop_Click(); };

@@ -29,7 +29,7 @@ void EndAtFault(Handler& handler) {
 class EventGate {
 public:
     /// `mirror` makes all windows equal to their forms.
-    EventGate(const Platform& platform, std::function<void()> mirror)
+    EventGate(Platform& platform, std::function<void()> mirror)
         : platform_(platform), mirror_(std::move(mirror)) {}
 
     /// Runs a handler and mirrors. What widgets report because they are being mirrored is no event, and after
@@ -40,6 +40,7 @@ public:
         ++depth_;
         try {
             EndAtFault(handler);
+            platform_.SettleFocus();
             Mirror();
         } catch (const ProgramEnded&) {
             // The windows are hidden by now, and every event loop is on its way out.
@@ -75,7 +76,7 @@ private:
             if (object) object->deleteLater();
     }
 
-    const Platform& platform_;
+    Platform& platform_;
     std::function<void()> mirror_;
     bool mirroring_ = false;
     int depth_ = 0;

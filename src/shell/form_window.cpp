@@ -47,6 +47,22 @@ const Container* AsContainer(const Control& control) {
     }
 }
 
+/// Whether a control doesn't show by its own look that it has the focus.
+bool NeedsRing(const Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::TextBox:
+        case ControlKind::ListBox:
+        case ControlKind::ComboBox:
+        case ControlKind::ScrollBar:
+        case ControlKind::Label:
+            return true;
+        case ControlKind::PictureBox:
+            return control.KeysPress() && static_cast<const PictureBox&>(control).PressPlaces().empty();
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
@@ -221,9 +237,11 @@ void FormWindow::resizeEvent(QResizeEvent*) {
 }
 
 void FormWindow::MirrorFocus() {
-    if (!isVisible()) return;
     const Control* focused = form_->Focus();
     ControlView* view = focused ? ViewOf(*focused) : nullptr;
+    ring_.Surround(view && NeedsRing(*focused) ? &view->Widget() : nullptr);
+    // The menus give the keyboard back by themselves.
+    if (!isVisible() || menus_.HasKeyboard()) return;
     QWidget* wanted = view ? &view->KeyboardWidget() : this;
     if (focusWidget() == wanted) return;
     wanted->setFocus(Qt::TabFocusReason);

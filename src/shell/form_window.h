@@ -2,6 +2,7 @@
 
 #include "controls/form.h"
 #include "shell/control_view.h"
+#include "shell/focus_ring.h"
 #include "shell/menu_view.h"
 #include "shell/outlines.h"
 #include "shell/screen_room.h"
@@ -67,6 +68,7 @@ private:
     RoomyArea* area_;
     PaintedWidget* face_;
     Outlines outlines_;
+    FocusRing ring_;
     std::vector<ControlView*> views_;
     std::map<const Container*, QWidget*> containers_;
 

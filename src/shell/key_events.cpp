@@ -59,7 +59,9 @@ bool PressKey(Form& form, EventGate& gate, const QKeyEvent& event) {
     const QString text = event.text();
     gate.Enter([&] {
         if (code != 0) form.KeyDown(nullptr, code, shift);
-        if (form.Loaded() && !text.isEmpty())
+        // With Ctrl or Alt a key is a command, and no letter.
+        const bool types = IsPlainKey(shift) && !event.modifiers().testFlag(Qt::MetaModifier);
+        if (form.Loaded() && types && !text.isEmpty())
             form.KeyTyped(nullptr, static_cast<int>(text.toUcs4().constFirst()));
     });
     return code == keyEscape || !form.Loaded();

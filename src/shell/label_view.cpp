@@ -15,7 +15,7 @@ namespace {
 class LabelView : public ViewOf<Label> {
 public:
     LabelView(Label& label, PaintedWidget& widget, EventGate& gate) : ViewOf(label, widget, gate) {
-        widget.setFocusPolicy(Qt::NoFocus);
+        widget.setFocusPolicy(label.KeysPress() ? Qt::TabFocus : Qt::NoFocus);
         widget.Paint = [this](QPainter& painter, const QRect&) { Paint(painter); };
     }
 

@@ -2,22 +2,52 @@
 
 #include "controls/form.h"
 #include "controls/menu.h"
+#include "controls/menu_letters.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/qt_text.h"
 
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include <algorithm>
 #include <utility>
 
 namespace coinlet {
 
+namespace {
+
+/// The caption with the toolkit's mark before the letter by which it is chosen.
+QString MarkedCaption(const MenuItem& item, const MenuLetter& letter) {
+    // The style would write a rule's text over the rule.
+    if (item.IsSeparator()) return {};
+    const auto plain = [](std::string_view part) {
+        return ToQString(part).replace(QLatin1Char('&'), QLatin1String("&&"));
+    };
+    // What isn't in the bar has no key that opens it.
+    const bool popsUp = !item.Parent() && !item.Visible;
+    if (letter.letter.empty() || popsUp) return plain(item.Caption);
+    const std::string_view caption = item.Caption;
+    return plain(caption.substr(0, letter.place)) + QLatin1Char('&') + plain(caption.substr(letter.place));
+}
+
+}  // namespace
+
+void StartAtFirstEntry(QMenu& menu) {
+    const auto actions = menu.actions();
+    const auto first = std::ranges::find_if(actions, [](const QAction* action) {
+        return action->isVisible() && action->isEnabled() && !action->isSeparator();
+    });
+    if (first != actions.end()) menu.setActiveAction(*first);
+}
+
 MenuView::MenuView(Form& form, QWidget& owner, EventGate& gate)
     : form_(&form), owner_(owner), gate_(gate), bar_(std::make_unique<QMenuBar>(&owner)) {
     bar_->setNativeMenuBar(false);
     bar_->hide();
+    auto* key = new QShortcut(Qt::Key_F10, &owner);
+    QObject::connect(key, &QShortcut::activated, &owner, [this] { OpenFirst(); });
 }
 
 MenuView::~MenuView() = default;
@@ -61,27 +91,38 @@ void MenuView::Add(MenuItem& item, QMenu* parent) {
             bar_->addAction(action);
         }
     }
-    entries_.push_back({&item, action, menu, {}, {}, {}});
+    entries_.push_back({&item, action, menu, {}, {}, {}, {}});
     for (MenuItem* entry : item.Entries())
         Add(*entry, menu);
 }
 
+bool MenuView::MirrorTexts() {
+    // A letter depends on what stands before it in the menu.
+    const auto isStale = [](const Entry& entry) {
+        return entry.caption != entry.item->Caption || entry.look.visible != entry.item->Visible;
+    };
+    if (std::ranges::none_of(entries_, isStale)) return false;
+    for (Entry& entry : entries_) {
+        const auto& menu = entry.item->Parent() ? entry.item->Parent()->Entries() : form_->Menus();
+        const auto place = static_cast<std::size_t>(std::ranges::find(menu, entry.item) - menu.begin());
+        entry.caption = entry.item->Caption;
+        entry.action->setSeparator(entry.item->IsSeparator());
+        if (Differs(entry.text, MarkedCaption(*entry.item, MenuLetters(menu)[place])))
+            entry.action->setText(entry.text);
+    }
+    return true;
+}
+
 bool MenuView::Mirror() {
-    bool changed = false;
+    bool changed = MirrorTexts();
     for (Entry& entry : entries_) {
         const MenuItem& item = *entry.item;
         const Look look{item.Checked, item.Enabled, item.Visible};
-        const bool captionChanged = Differs(entry.caption, item.Caption);
         const bool shortcutChanged = Differs(entry.shortcut, item.Shortcut);
         // A choice toggles the mark of a checked entry by itself.
         const bool lookChanged = Differs(entry.look, look) || entry.action->isChecked() != look.checked;
-        if (!captionChanged && !shortcutChanged && !lookChanged) continue;
+        if (!shortcutChanged && !lookChanged) continue;
         changed = true;
-        if (captionChanged) {
-            entry.action->setSeparator(item.IsSeparator());
-            // The style would write a rule's text over the rule.
-            entry.action->setText(item.IsSeparator() ? QString() : ToQString(entry.caption));
-        }
         if (shortcutChanged)
             entry.action->setShortcut(QKeySequence(ToQString(entry.shortcut), QKeySequence::PortableText));
         entry.action->setCheckable(look.checked);
@@ -102,6 +143,20 @@ QMenuBar* MenuView::Bar() const {
         return !entry.item->Parent() && entry.item->Visible;
     });
     return filled ? bar_.get() : nullptr;
+}
+
+bool MenuView::HasKeyboard() const {
+    return bar_->hasFocus();
+}
+
+void MenuView::OpenFirst() {
+    if (!Bar()) return;
+    const auto titles = bar_->actions();
+    const auto first = std::ranges::find_if(
+        titles, [](const QAction* title) { return title->isVisible() && title->isEnabled(); });
+    if (first == titles.end()) return;
+    bar_->setActiveAction(*first);
+    StartAtFirstEntry(*(*first)->menu());
 }
 
 QMenu* MenuView::PopupOf(const MenuItem& menu) const {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QString>
 
 #include <memory>
 #include <string>
@@ -16,7 +17,11 @@ class EventGate;
 class Form;
 class MenuItem;
 
-/// Shows the menus of a form: a bar of those that are visible, and popups.
+/// Has the keyboard start at the first entry of an open menu that can be chosen.
+void StartAtFirstEntry(QMenu& menu);
+
+/// Shows the menus of a form: a bar of those that are visible, and popups. Alt with a letter, Alt alone and
+/// F10 lead into the bar; the letters are the program's.
 class MenuView {
 public:
     /// `owner` is the window in which the entries' standard keys act.
@@ -31,6 +36,8 @@ public:
 
     /// The bar, or nullptr while there is nothing to show in it.
     QMenuBar* Bar() const;
+    /// True while the arrow keys walk the bar.
+    bool HasKeyboard() const;
     /// The popup of a menu, or nullptr if it isn't one of this form's.
     QMenu* PopupOf(const MenuItem& menu) const;
 
@@ -43,12 +50,15 @@ private:
         MenuItem* item;
         QAction* action;
         QMenu* menu;  ///< Of an entry that has entries of its own, else nullptr.
+        QString text;
         std::string caption, shortcut;
         Look look;
     };
 
     void Add(MenuItem& item, QMenu* parent);
+    void OpenFirst();
     void Choose(const QAction* action);
+    bool MirrorTexts();
     static void Collect(const std::vector<MenuItem*>& items, std::vector<const MenuItem*>& all);
 
     Form* form_;

@@ -1,5 +1,7 @@
+#include "base/numbers.h"
 #include "controls/picture_box.h"
 #include "shell/control_view.h"
+#include "shell/focus_ring.h"
 #include "shell/frame_pace.h"
 #include "shell/look.h"
 #include "shell/outlines.h"
@@ -44,6 +46,8 @@ protected:
         const QRect changed = TakeChanges();
         if (!changed.isEmpty()) Widget().update(changed);
         outlines_.Mirror(Widget());
+        const int place = model().HasFocus() ? model().PlaceNumber() : -1;
+        if (Differs(markedPlace_, place)) Widget().update();
     }
 
 private:
@@ -72,6 +76,19 @@ private:
         }
         outlines_.Paint(painter);
         if (frame > 0) PaintFrame(painter);
+        if (markedPlace_ >= 0) PaintFocusRing(painter, MarkedPlace());
+    }
+
+    /// The place that keys press, with a little room around it.
+    QRect MarkedPlace() const {
+        constexpr int room = 2;
+        const auto& places = model().PressPlaces();
+        if (markedPlace_ >= static_cast<int>(places.size())) return {};
+        const auto& [x, y, width, height] = places[static_cast<std::size_t>(markedPlace_)];
+        const double unit = model().ChildUnitsPerPixel();
+        const QRect place(RoundHalfEven(x / unit), RoundHalfEven(y / unit), RoundHalfEven(width / unit),
+                          RoundHalfEven(height / unit));
+        return place.adjusted(-room, -room, room, room) & Widget().rect();
     }
 
     /// Black on white, so that it shows on every design.
@@ -88,6 +105,7 @@ private:
 
     std::uint64_t revision_ = ~std::uint64_t{0};
     QSize size_;
+    int markedPlace_ = -1;
     FramePace pace_;
     Outlines outlines_;
 };

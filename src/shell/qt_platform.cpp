@@ -4,6 +4,7 @@
 #include "controls/menu.h"
 #include "shell/dialogs.h"
 #include "shell/form_window.h"
+#include "shell/menu_view.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -167,11 +168,17 @@ std::string QtPlatform::AskFolder(const std::string& title, const std::string& s
     return ShowFolderPicker(FrontWindow(), title, start);
 }
 
-void QtPlatform::PopupMenu(MenuItem& menu) {
+void QtPlatform::ShowPopup(MenuItem& menu, const Control* at) {
     FormWindow* window = WindowOf(menu.OwnerForm());
     if (!window) return;
     gate_.Mirror();
-    if (QMenu* popup = window->PopupOf(menu)) popup->popup(QCursor::pos());
+    QMenu* popup = window->PopupOf(menu);
+    if (!popup) return;
+    const ControlView* view = at && at->Shown() ? window->ViewOf(*at) : nullptr;
+    if (!view) return popup->popup(QCursor::pos());
+    const QWidget& button = view->Widget();
+    popup->popup(button.mapToGlobal(QPoint(0, button.height())));
+    StartAtFirstEntry(*popup);
 }
 
 void QtPlatform::MovePointer(const Control& control, float x, float y) {

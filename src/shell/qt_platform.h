@@ -36,7 +36,6 @@ public:
     /// once. True when it has ended; while the windows are being made equal to the forms, nothing happens.
     bool Leave(const std::function<void()>& farewell);
 
-    void PopupMenu(MenuItem& menu) override;
     void MovePointer(const Control& control, float x, float y) override;
     bool IsPointerOver(const Control& control) const override;
     void ShowPointer() override { MirrorHourglass(); }
@@ -50,6 +49,7 @@ protected:
     void RunModal(Form& dialog) override;
     void FormLoaded(Form& form) override;
     void FormUnloaded(Form& form) override;
+    void ShowPopup(MenuItem& menu, const Control* at) override;
     void ServeEvents() override;
     void ServeEventsFor(double seconds) override;
     Answer AskMessage(const Message& message) override;

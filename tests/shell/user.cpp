@@ -59,10 +59,12 @@ QPoint User::PlaceOf(const MenuItem& item) {
         const QString caption = QString::fromStdString(item.Caption);
         if (const auto* bar = window->findChild<QMenuBar*>(); bar && !item.Parent()) {
             for (QAction* action : bar->actions())
-                if (action->text() == caption) place = ToScreen(*bar, bar->actionGeometry(action).center());
+                if (action->text().remove(QLatin1Char('&')) == caption)
+                    place = ToScreen(*bar, bar->actionGeometry(action).center());
         } else if (const QMenu* menu = window->PopupOf(*item.Parent())) {
             for (QAction* action : menu->actions())
-                if (action->text() == caption) place = ToScreen(*menu, menu->actionGeometry(action).center());
+                if (action->text().remove(QLatin1Char('&')) == caption)
+                    place = ToScreen(*menu, menu->actionGeometry(action).center());
         }
     });
     return place;

@@ -34,9 +34,10 @@ public:
     std::vector<std::string> prompts;
     std::vector<std::string> foldersOffered;  ///< Where pickers began.
     std::vector<MenuItem*> popups;
-    std::vector<std::string> log;  ///< "show NAME", "hide NAME", "end".
-    int served = 0;                ///< Calls of DoEvents and Wait that served events.
-    double waited = 0;             ///< Seconds.
+    const Control* popupAt = nullptr;  ///< What the last of them stands at; the pointer if it is nullptr.
+    std::vector<std::string> log;      ///< "show NAME", "hide NAME", "end".
+    int served = 0;                    ///< Calls of DoEvents and Wait that served events.
+    double waited = 0;                 ///< Seconds.
 
     /// Runs what a user does; like every place where events enter the program it ends an ending here. False
     /// if the program ended.
@@ -48,7 +49,6 @@ public:
         return !Ended();
     }
 
-    void PopupMenu(MenuItem& menu) override { popups.push_back(&menu); }
     void MovePointer(const Control& control, float, float) override { pointerOver = &control; }
     bool IsPointerOver(const Control& control) const override { return pointerOver == &control; }
 
@@ -59,6 +59,10 @@ protected:
     }
     void FormLoaded(Form& form) override { log.push_back("show " + std::string(form.Name())); }
     void FormUnloaded(Form& form) override { log.push_back("hide " + std::string(form.Name())); }
+    void ShowPopup(MenuItem& menu, const Control* at) override {
+        popups.push_back(&menu);
+        popupAt = at;
+    }
     void ServeEvents() override {
         ++served;
         if (whenServing) Do(whenServing);

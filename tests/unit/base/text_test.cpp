@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 
+#include "base/order_key.h"
+
 #include <array>
 #include <gtest/gtest.h>
 #include <map>
@@ -254,6 +256,22 @@ TEST(Lines, AnEndAfterTheLastLineStartsNoFurtherOne) {
     EXPECT_EQ(Lines("a\r\n"), Texts{"a"});
     EXPECT_EQ(Lines("\r\n"), Texts{""});
     EXPECT_EQ(Lines("a\n\n"), (Texts{"a", ""}));
+}
+
+TEST(BeginsWith, CountsLettersWithoutAccentAndCase) {
+    EXPECT_TRUE(BeginsWith("\u00C9t\u00E9", "et"));
+    EXPECT_TRUE(BeginsWith("ete", "\u00E9T"));
+    EXPECT_TRUE(BeginsWith("\u00C6on", "ae"));
+    EXPECT_TRUE(BeginsWith("\u00C6on", "a"));
+    EXPECT_TRUE(BeginsWith("tag", "tag"));
+    EXPECT_FALSE(BeginsWith("tag", "tags"));
+    EXPECT_FALSE(BeginsWith("tag", "ag"));
+    EXPECT_TRUE(BeginsWith("", ""));
+    EXPECT_TRUE(BeginsWith("x", ""));
+    EXPECT_FALSE(BeginsWith("", "x"));
+    // A byte that is no character is itself and nothing else.
+    EXPECT_TRUE(BeginsWith("\xFFx", "\xFF"));
+    EXPECT_FALSE(BeginsWith("\xFEx", "\xFF"));
 }
 
 }  // namespace

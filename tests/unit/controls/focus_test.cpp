@@ -77,6 +77,37 @@ TEST_F(FocusTest, AHiddenOrDisabledControlHasItNoMore) {
     EXPECT_EQ(form.Focus(), nullptr);
 }
 
+TEST_F(FocusTest, WhatIsHiddenOrDisabledLosesItForGood) {
+    form.B.SetFocus();
+    log.Take();
+    form.SettleFocus();
+    EXPECT_EQ(form.Focus(), &form.B);
+    EXPECT_EQ(log.Take(), Lines{});
+    form.Frame1.Visible = false;
+    form.SettleFocus();
+    EXPECT_EQ(log.Take(), Lines{"B.LostFocus"});
+    form.Frame1.Visible = true;
+    form.SettleFocus();
+    EXPECT_EQ(form.Focus(), nullptr);
+    // The tab key goes on from where it was.
+    form.MoveFocusByTab(false);
+    EXPECT_EQ(form.Focus(), &form.C);
+    form.C.SetEnabled(false);
+    form.MoveFocusByTab(true);
+    EXPECT_EQ(form.Focus(), &form.B);
+    // Whatever got it since, that place is forgotten.
+    form.OkKnop.SetFocus();
+    form.OkKnop.SetEnabled(false);
+    form.SettleFocus();
+    EXPECT_EQ(form.OkKnop.State(), ButtonState::Disabled);
+    form.OkKnop.SetEnabled(true);
+    EXPECT_EQ(form.OkKnop.State(), ButtonState::Normal);
+    form.A.SetFocus();
+    form.MoveFocus(nullptr);
+    form.MoveFocusByTab(false);
+    EXPECT_EQ(form.Focus(), &form.A);
+}
+
 TEST_F(FocusTest, ALostFocusHandlerMayMoveItOn) {
     form.A.SetFocus();
     log.Take();

@@ -1,6 +1,9 @@
 // Loading, dialogs one above the other, serving events, and the end of the program.
 
 #include "controls/label.h"
+#include "controls/menu.h"
+#include "controls/text_box.h"
+#include "controls/vista_button.h"
 #include "event_log.h"
 #include "support/test_platform.h"
 
@@ -291,6 +294,63 @@ TEST_F(PlatformTest, AfterTheEndEveryCallReturnsAtOnce) {
     EXPECT_TRUE(platform.messages.empty());
     EXPECT_THROW(platform.End(), ProgramEnded);
     EXPECT_EQ(TakeLog(), Lines{});
+}
+
+TEST_F(PlatformTest, APopupStandsAtTheControlThatAKeyWentToElseAtThePointer) {
+    struct PopupForm : SampleForm {
+        using SampleForm::SampleForm;
+        MenuItem Menu{*this, "Menu", "Menu"};
+        VistaButton Button{*this, "Button"};
+        TextBox Text{*this, "Text"};
+    } form{services.ForForms(), "Popup", platform};
+    form.Button.Move(0, 0, 300, 300);
+    form.Button.Click = [&] { platform.PopupMenu(form.Menu); };
+    platform.ShowMain(form);
+    form.Button.SetFocus();
+    const auto space = [&] {
+        form.KeyDown(nullptr, keySpace, 0);
+        form.KeyUp(nullptr, keySpace, 0);
+    };
+    space();
+    EXPECT_EQ(platform.popups, std::vector{&form.Menu});
+    EXPECT_EQ(platform.popupAt, &form.Button);
+    form.Button.PointerClicked();
+    EXPECT_EQ(platform.popups.size(), 2U);
+    EXPECT_EQ(platform.popupAt, nullptr);
+    space();
+    EXPECT_EQ(platform.popupAt, &form.Button);
+    // What the user does elsewhere counts too, and a control that has ended no more.
+    form.Text.PointerPressed(rightButton, 0, 0, 0);
+    EXPECT_EQ(form.KeyedControl(), nullptr);
+    {
+        TextBox passing(form, "Passing");
+        form.KeyDown(&passing, 'A', 0);
+        EXPECT_EQ(form.KeyedControl(), &passing);
+    }
+    EXPECT_EQ(form.KeyedControl(), nullptr);
+    platform.Do([&] { platform.End(); });
+    const auto before = platform.popups.size();
+    platform.PopupMenu(form.Menu);
+    EXPECT_EQ(platform.popups.size(), before);
+}
+
+TEST_F(PlatformTest, TheFocusIsSettledOnEveryForm) {
+    struct FieldForm : SampleForm {
+        using SampleForm::SampleForm;
+        TextBox Text{*this, "Text"};
+    } below{services.ForForms(), "Below", platform}, above{services.ForForms(), "Above", platform};
+    platform.ShowMain(below);
+    below.Text.SetFocus();
+    platform.doings = {[&] {
+        above.Text.SetFocus();
+        below.Text.Visible = above.Text.Visible = false;
+        platform.SettleFocus();
+        below.Text.Visible = above.Text.Visible = true;
+        EXPECT_EQ(below.Focus(), nullptr);
+        EXPECT_EQ(above.Focus(), nullptr);
+        above.Unload();
+    }};
+    platform.ShowModal(above);
 }
 
 }  // namespace

@@ -1,0 +1,51 @@
+#include "shell/focus_ring.h"
+
+#include "shell/look.h"
+#include "shell/painted_widget.h"
+
+#include <QRegion>
+
+namespace coinlet {
+
+namespace {
+
+/// The edge of a button that has the focus.
+constexpr Colour ringColour = RGB(60, 127, 177);
+constexpr int ringWidth = 2;
+
+}  // namespace
+
+void FocusRing::Surround(QWidget* widget) {
+    if (!widget) {
+        if (ring_) ring_->hide();
+        return;
+    }
+    if (!ring_) {
+        auto* ring = new PaintedWidget(widget->parentWidget());
+        ring->setAttribute(Qt::WA_TransparentForMouseEvents);
+        ring->setFocusPolicy(Qt::NoFocus);
+        ring->Paint = [](QPainter& painter, const QRect& dirty) {
+            painter.fillRect(dirty, ToQColor(ringColour));
+        };
+        ring_ = ring;
+    }
+    if (ring_->parentWidget() != widget->parentWidget()) ring_->setParent(widget->parentWidget());
+    const QRect place = widget->geometry();
+    const QRect around = place.adjusted(-ringWidth, -ringWidth, ringWidth, ringWidth);
+    if (ring_->geometry() != around || ring_->mask().isEmpty()) {
+        ring_->setGeometry(around);
+        ring_->setMask(QRegion(ring_->rect()) - place.translated(-around.topLeft()));
+    }
+    ring_->raise();
+    ring_->show();
+}
+
+void PaintFocusRing(QPainter& painter, const QRect& frame) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(ToQColor(ringColour));
+    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    painter.setPen(ToQColor(white));
+    painter.drawRect(frame.adjusted(1, 1, -2, -2));
+}
+
+}  // namespace coinlet
