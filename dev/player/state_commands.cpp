@@ -123,6 +123,10 @@ void Tick(ScriptRun& run, const Arguments& arguments) {
         if (Timer* const hover = button->HoverTimer()) hover->Tick();
         return;
     }
+    if (const auto* const list = dynamic_cast<const ListBox*>(&element)) {
+        if (Timer* const typing = list->TypingTimer()) typing->Tick();
+        return;
+    }
     auto* const timer = dynamic_cast<Timer*>(&element);
     if (!timer) Fail(address.text + " is no timer and has none");
     if (timer->Enabled && timer->Interval > 0) timer->Tick();

@@ -1,5 +1,6 @@
 #include "controls/check_box.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace coinlet {
@@ -46,6 +47,39 @@ void OptionButton::SetValue(bool value) {
         if (option && option != this) option->Mark(false);
     }
     Click();
+}
+
+std::vector<OptionButton*> OptionButton::Choices() const {
+    std::vector<OptionButton*> choices;
+    for (Control* neighbour : Parent().Children()) {
+        auto* const option = dynamic_cast<OptionButton*>(neighbour);
+        if (option && option->TabStop && option->CanFocus()) choices.push_back(option);
+    }
+    std::ranges::stable_sort(choices, {}, &Control::TabIndex);
+    return choices;
+}
+
+bool OptionButton::StopsTab() const {
+    if (!ToggleControl::StopsTab()) return false;
+    const auto choices = Choices();
+    const auto chosen = std::ranges::find_if(choices, &OptionButton::Value);
+    return (chosen != choices.end() ? *chosen : choices.front()) == this;
+}
+
+void OptionButton::KeyPressed(int code, int shift) {
+    ToggleControl::KeyPressed(code, shift);
+    if (!Answers() || !WantsKey(code, shift)) return;
+    auto choices = Choices();
+    if (code == keyLeft || code == keyUp) std::ranges::reverse(choices);
+    const auto self = std::ranges::find(choices, this);
+    if (self == choices.end() || choices.size() == 1) return;
+    OptionButton& next = self + 1 == choices.end() ? *choices.front() : **(self + 1);
+    next.SetFocus();
+    if (next.HasFocus()) next.SetValue(true);
+}
+
+bool OptionButton::WantsKey(int code, int shift) const {
+    return code >= keyLeft && code <= keyDown && IsPlainKey(shift);
 }
 
 }  // namespace coinlet

@@ -6,6 +6,7 @@
 #include "surface/font_properties.h"
 
 #include <string>
+#include <vector>
 
 namespace coinlet {
 
@@ -46,15 +47,24 @@ protected:
 };
 
 /// One of several choices: of the option buttons that lie in one container at most one is chosen. Becoming
-/// chosen, by the user or in code, raises its `Click`; becoming unchosen raises nothing.
+/// chosen, by the user or in code, raises its `Click`; becoming unchosen raises nothing. The tab key stops at
+/// the chosen one of them, or at the first while none is; the arrows lead to the next one, round about, and
+/// choose it.
 class OptionButton : public ToggleControl {
 public:
     OptionButton(Container& container, std::string_view name, int index = noIndex);
 
     void SetValue(bool value) override;
+    bool StopsTab() const override;
+    void KeyPressed(int code, int shift) override;
+    bool WantsKey(int code, int shift) const override;
 
 protected:
     void Clicked() override { SetValue(true); }
+
+private:
+    /// Those of the choice that can have the focus, in tab order.
+    std::vector<OptionButton*> Choices() const;
 };
 
 }  // namespace coinlet

@@ -51,7 +51,7 @@ void ComboBox::KeyPressed(int code, int shift) {
     if (!Answers() || (code != keyUp && code != keyDown)) return;
     // From the row that was typed, as from one that was chosen.
     const int start = ListIndex() >= 0 ? ListIndex() : rows_.Find(text_);
-    const int row = RowAfterKey(code, start, ListCount());
+    const int row = RowAfterKey(code, start, ListCount(), 1);
     if (row != start) UserPicks(row);
 }
 

@@ -1,6 +1,7 @@
 #include "controls/list_box.h"
 
 #include "base/text.h"
+#include "controls/form.h"
 
 #include <algorithm>
 #include <deque>
@@ -68,8 +69,7 @@ int RowList::Find(std::string_view row) const {
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
-int RowAfterKey(int code, int current, int count) {
-    constexpr int page = 10;
+int RowAfterKey(int code, int current, int count, int page) {
     const auto stepped = [&](int rows) {
         return std::clamp(current + rows, std::min(0, count - 1), count - 1);
     };
@@ -139,13 +139,50 @@ void ListBox::UserActivates() {
 void ListBox::KeyPressed(int code, int shift) {
     Control::KeyPressed(code, shift);
     if (!Answers()) return;
-    if (code == keyReturn) return UserActivates();
-    const int row = RowAfterKey(code, ListIndex(), ListCount());
+    if (code == keyReturn) {
+        EndTyping();
+        return UserActivates();
+    }
+    const int row = RowAfterKey(code, ListIndex(), ListCount(), VisibleRows());
+    if (row == ListIndex()) return;
+    EndTyping();
+    UserPicks(row);
+}
+
+bool ListBox::WantsKey(int code, int shift) const {
+    const bool types = code == keySpace || (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z');
+    return IsStepKey(code) || (code == keyReturn && !PassesEnterOn()) || (types && IsPlainKey(shift));
+}
+
+int ListBox::RowPixels() const {
+    constexpr int gap = 2;
+    return OwnerForm().Fonts().Measure(CurrentFont(), "").height + gap;
+}
+
+int ListBox::VisibleRows() const {
+    return std::max(1, (PixelHeight() - 2 * listFrame) / RowPixels());
+}
+
+void ListBox::CharacterTyped(int character) {
+    Control::CharacterTyped(character);
+    if (!Answers()) return;
+    const int row = typed_.RowFor(rows_, ListIndex(), Utf8(static_cast<char32_t>(std::max(character, 0))));
+    if (typed_.Typed().empty()) return;
+    // Made anew, it counts from this letter on.
+    typing_ = std::make_unique<Timer>(OwnerForm(), "Typing", this);
+    typing_->Interval = typeAheadPause;
+    typing_->Tick = [this] { EndTyping(); };
     if (row != ListIndex()) UserPicks(row);
 }
 
-bool ListBox::WantsKey(int code, int) const {
-    return IsStepKey(code) || (code == keyReturn && !PassesEnterOn());
+void ListBox::FocusLost() {
+    EndTyping();
+    Control::FocusLost();
+}
+
+void ListBox::EndTyping() {
+    typed_.Forget();
+    typing_.reset();
 }
 
 void ListBox::VisitProperties(PropertyVisitor& visitor) {

@@ -2,11 +2,14 @@
 
 #include "controls/control.h"
 #include "controls/house_colours.h"
+#include "controls/timer.h"
+#include "controls/type_ahead.h"
 #include "surface/colour.h"
 #include "surface/font_properties.h"
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -53,7 +56,8 @@ private:
 };
 
 /// A list with one row chosen, or none (-1). Another `ListIndex`, by the user or in code, raises `Click`;
-/// the user's click on the chosen row raises it again; removing rows and clearing raise nothing.
+/// the user's click on the chosen row raises it again; removing rows and clearing raise nothing. Letters that
+/// the user types lead to a row (see TypeAhead).
 class ListBox : public Control, public FontProperties {
 public:
     ListBox(Container& container, std::string_view name, int index = noIndex);
@@ -84,8 +88,18 @@ public:
     void UserPicks(int index);
     /// The user's double click, or Enter, on the chosen row.
     virtual void UserActivates();
-    /// Arrows, page keys, Home and End move the choice; Enter activates it.
+    /// The height of a row, in pixels.
+    int RowPixels() const;
+    /// How many whole rows are seen at once; at least 1.
+    int VisibleRows() const;
+
+    /// Arrows, page keys, Home and End move the choice, the page keys by the rows that are seen; Enter
+    /// activates it.
     void KeyPressed(int code, int shift) override;
+    void CharacterTyped(int character) override;
+    void FocusLost() override;
+    /// Runs from the first letter that the user types until a pause ends them; else there is none.
+    Timer* TypingTimer() const { return typing_.get(); }
     bool WantsKey(int code, int shift) const override;
     /// A list that does something on Enter keeps the key.
     bool PassesEnterOn() const override { return !DblClick; }
@@ -103,11 +117,19 @@ protected:
     void ChooseSilently(int index) { rows_.Choose(index); }
 
 private:
+    void EndTyping();
+
     RowList rows_;
+    TypeAhead typed_;
+    std::unique_ptr<Timer> typing_;
 };
 
-/// The row that a key leads to from row `current` (-1: none) of `count`; `current` for other keys.
-int RowAfterKey(int code, int current, int count);
+/// The width of the frame around the rows of a list, in pixels.
+constexpr int listFrame = 1;
+
+/// The row that a key leads to from row `current` (-1: none) of `count`, of which `page` are seen at once;
+/// `current` for other keys.
+int RowAfterKey(int code, int current, int count, int page);
 
 /// The number of rows, and each row as a property of its own, `List(i)`; `set` is empty for rows that can
 /// only be read.

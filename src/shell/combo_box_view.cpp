@@ -1,4 +1,5 @@
 #include "controls/combo_box.h"
+#include "controls/type_ahead.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
@@ -10,17 +11,41 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
 #include <string>
+#include <utility>
 
 namespace coinlet {
 
 namespace {
+
+/// The list that drops down: letters lead to rows as they do in lists that stand by themselves.
+class DroppedRows : public QListView {
+public:
+    /// `combo` gives the control while there is one.
+    explicit DroppedRows(std::function<const ComboBox*()> combo) : combo_(std::move(combo)) {}
+
+    void keyboardSearch(const QString& letter) override {
+        const ComboBox* combo = combo_();
+        if (!combo) return;
+        if (pause_.isValid() && pause_.hasExpired(typeAheadPause)) typed_.Forget();
+        pause_.start();
+        const int row = typed_.RowFor(combo->Rows(), currentIndex().row(), ToUtf8(letter));
+        if (row >= 0) setCurrentIndex(model()->index(row, 0));
+    }
+
+private:
+    std::function<const ComboBox*()> combo_;
+    TypeAhead typed_;
+    QElapsedTimer pause_;
+};
 
 /// Opens its list at the row that the text tells, typed or chosen.
 class DropDown : public QComboBox {
@@ -43,6 +68,7 @@ public:
     ComboBoxView(ComboBox& combo, QComboBox& widget, EventGate& gate)
         : ViewOf(combo, widget, gate, Handling::WidgetToo, Handling::WidgetToo),
           combo_(widget),
+          list_(*new DroppedRows([this] { return Shown() ? &model() : nullptr; })),
           rows_(*new RowModel(&widget)) {
         constexpr int rowsAtOnce = 16;
         widget.setEditable(true);
@@ -51,7 +77,8 @@ public:
         widget.setMaxVisibleItems(rowsAtOnce);
         // Else the widget would measure every row of a long list before it is first shown.
         widget.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        if (auto* list = qobject_cast<QListView*>(widget.view())) list->setUniformItemSizes(true);
+        widget.setView(&list_);
+        list_.setUniformItemSizes(true);
         widget.setModel(&rows_);
         KeepToOneLine(*widget.lineEdit());
         Watch(*widget.lineEdit());
@@ -84,7 +111,9 @@ protected:
         const int cursor = combo_.lineEdit()->cursorPosition();
         combo_.setCurrentIndex(chosen_);
         if (combo_.lineEdit()->text() != shownText_) combo_.lineEdit()->setText(shownText_);
-        combo_.lineEdit()->setCursorPosition(std::min(cursor, static_cast<int>(shownText_.size())));
+        // Behind a choice one types on.
+        const auto end = static_cast<int>(shownText_.size());
+        combo_.lineEdit()->setCursorPosition(choiceChanged && chosen_ >= 0 ? end : std::min(cursor, end));
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -93,7 +122,8 @@ protected:
             // A field that is come to by key, or that its form starts on, has its text selected: typing
             // replaces it. Selected later, since the mirror may have a text to set first.
             const auto reason = static_cast<const QFocusEvent*>(event)->reason();
-            if (reason != Qt::MouseFocusReason && reason != Qt::PopupFocusReason)
+            if (reason != Qt::MouseFocusReason && reason != Qt::PopupFocusReason &&
+                reason != Qt::MenuBarFocusReason)
                 QMetaObject::invokeMethod(combo_.lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
         }
         if (event->type() != QEvent::KeyPress) return usedUp;
@@ -106,6 +136,7 @@ private:
     void Pick(int index) {
         if (!Shown()) return;
         Gate().Enter([&] { model().UserPicks(index); });
+        if (Shown()) combo_.lineEdit()->end(false);
     }
     void Edit(const QString& text) {
         if (!Shown()) return;
@@ -115,6 +146,7 @@ private:
     }
 
     QComboBox& combo_;
+    DroppedRows& list_;
     RowModel& rows_;
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;

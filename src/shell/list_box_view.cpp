@@ -34,9 +34,17 @@ QPixmap FolderMark(int depth, bool open, const QColor& colour, qreal ratio) {
     return mark;
 }
 
+/// Rows, and below them the room that is left where the next one isn't whole.
+class RowsView : public QListView {
+public:
+    using QListView::QListView;
+
+    void LeaveRoomBelow(int pixels) { setViewportMargins(0, 0, 0, pixels); }
+};
+
 class ListBoxView : public ViewOf<ListBox> {
 public:
-    ListBoxView(ListBox& list, QListView& widget, EventGate& gate)
+    ListBoxView(ListBox& list, RowsView& widget, EventGate& gate)
         : ViewOf(list, widget, gate), list_(widget), rows_(*new RowModel(&widget)) {
         widget.setModel(&rows_);
         widget.setUniformItemSizes(true);
@@ -47,6 +55,9 @@ public:
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         widget.setContextMenuPolicy(Qt::NoContextMenu);
+        // The room below is a part of the list.
+        widget.setBackgroundRole(QPalette::Base);
+        widget.setAutoFillBackground(true);
         Watch(*widget.viewport());
         const auto* folders = dynamic_cast<const DirListBox*>(&list);
         if (!folders) return;
@@ -72,6 +83,7 @@ protected:
         const bool foreChanged = Differs(fore_, list.ForeColor);
         const bool backChanged = Differs(back_, list.BackColor);
         if (foreChanged || backChanged) list_.setPalette(FieldPalette(fore_, back_));
+        MirrorHeight(list);
         rows_.Mirror(list.Rows());
         // The widget goes to a row by itself when it gets the focus.
         const QModelIndex chosen = rows_.index(list.ListIndex(), 0);
@@ -95,8 +107,20 @@ protected:
     }
 
 private:
-    QListView& list_;
+    void MirrorHeight(const ListBox& list) {
+        // The font is measured again only where it may have become another one.
+        const bool sizeChanged = Differs(height_, list.PixelHeight());
+        if (!Differs<FontProperties, FontProperties>(measured_, list) && !sizeChanged) return;
+        rows_.RowHeight = list.RowPixels();
+        const int room = height_ - 2 * listFrame - list.VisibleRows() * rows_.RowHeight;
+        list_.LeaveRoomBelow(std::max(0, room));
+        list_.doItemsLayout();
+    }
+
+    RowsView& list_;
     RowModel& rows_;
+    int height_ = -1;
+    FontProperties measured_{.FontName = {}};
     FontProperties font_{.FontName = {}};
     Colour fore_ = -2, back_ = -2;
 };
@@ -104,7 +128,7 @@ private:
 }  // namespace
 
 ControlView* MakeListBoxView(Control& control, QWidget& parent, EventGate& gate) {
-    return new ListBoxView(static_cast<ListBox&>(control), *new QListView(&parent), gate);
+    return new ListBoxView(static_cast<ListBox&>(control), *new RowsView(&parent), gate);
 }
 
 }  // namespace coinlet

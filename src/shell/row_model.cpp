@@ -2,6 +2,8 @@
 
 #include "shell/qt_text.h"
 
+#include <QSize>
+
 namespace coinlet {
 
 bool RowModel::Mirror(const RowList& rows) {
@@ -27,6 +29,7 @@ int RowModel::rowCount(const QModelIndex& parent) const {
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DecorationRole && rows_ && index.isValid() && Mark) return Mark(index.row());
+    if (role == Qt::SizeHintRole && RowHeight > 0) return QSize(1, RowHeight);
     const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
     if (!text || !rows_ || !index.isValid()) return {};
     return ToQString(rows_->Row(index.row()));

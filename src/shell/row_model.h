@@ -17,6 +17,9 @@ public:
     /// What stands before the text of a row; empty: nothing.
     std::function<QVariant(int row)> Mark;
 
+    /// How high a row is; 0: as high as its letters need.
+    int RowHeight = 0;
+
     /// Tells whoever shows the rows if they have changed since the last call; true if so.
     bool Mirror(const RowList& rows);
     /// The list is gone: no rows.

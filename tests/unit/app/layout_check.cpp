@@ -191,7 +191,7 @@ void ExpectTextsWhole(const Form& form, const std::string& when) {
 void ExpectReadingOrder(const Form& form, const std::string& when) {
     const Control* before = nullptr;
     for (const Control* control : form.TabOrder()) {
-        if (!control->TabStop || !control->CanFocus()) continue;
+        if (!control->StopsTab()) continue;
         if (before != nullptr) {
             const Place last = PlaceOnForm(*before), next = PlaceOnForm(*control);
             // Two in one row may stand a little higher or lower than each other.

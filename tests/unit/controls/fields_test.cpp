@@ -398,6 +398,9 @@ TEST_F(FieldsTest, ARowListCountsItsChanges) {
 TEST_F(FieldsTest, KeysStepThroughTheRows) {
     for (int i = 0; i < 25; ++i)
         form.List.AddItem(std::to_string(i));
+    // Letters of 8 pixels in rows of 10, and the frame: of ten rows and most of another one sees ten.
+    form.List.SetHeight((2 + 10 * 10 + 9) * 15);
+    EXPECT_EQ(form.List.VisibleRows(), 10);
     const std::vector<std::pair<int, int>> steps = {
         {keyDown, 0},      {keyDown, 1},      {keyUp, 0},   {keyUp, 0},   {keyPageDown, 10},
         {keyPageDown, 20}, {keyPageDown, 24}, {keyHome, 0}, {keyEnd, 24}, {keyPageUp, 14}};
