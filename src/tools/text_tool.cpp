@@ -130,6 +130,8 @@ void TextTool::PlaatsKnop_Click() {
     main.TextLabel.FontSize = *style.size;
     main.TextLabel.Visible = true;
     context_.session.TextPlacing = true;
+    // Keys now move the text, and place it.
+    main.Pic.SetFocus();
     PrintForTurning();
 }
 
@@ -159,6 +161,10 @@ void TextTool::Place(GesturePoint pointer) {
     }
     main.TextLabel.Visible = false;
     context_.session.TextPlacing = false;
+    // The next text replaces this one.
+    if (!main.Text1.Shown()) return;
+    main.Text1.SetFocus();
+    main.Text1.SelectText();
 }
 
 /// The text runs upward from the pointer, to its left.

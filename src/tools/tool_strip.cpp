@@ -29,8 +29,12 @@ void ShowEraserControls(Context& context) {
 }
 
 void ShowTextPanel(Context& context) {
-    context.main.Frame4.Visible = false;
-    context.main.Frame6.Visible = true;
+    MainForm& main = context.main;
+    main.Frame4.Visible = false;
+    main.Frame6.Visible = true;
+    // What one types replaces the text that stands there.
+    main.Text1.SetFocus();
+    main.Text1.SelectText();
 }
 
 void ArmPick(Context& context) {
@@ -189,6 +193,7 @@ void ToolStrip::ExitKnop_Click() {
     main.Frame6.Visible = false;
     main.Frame4.Visible = true;
     main.Knop[pickTool].SetEnabled(true);
+    main.Knop[textTool].SetFocus();
     ShowHint(context_, key::toolsAreBack);
 }
 
