@@ -52,8 +52,7 @@ TEST_F(ProgramKeyboard, EachMenuOpensByItsLetterAndHasAllItsEntries) {
 TEST_F(ProgramKeyboard, EntriesAreChosenByLetters) {
     ASSERT_EQ(Title(), "Coinlet Designer (Nederlands)");
     Key("Alt_L");
-    for (const MenuItem* item :
-         {&form.Help, &form.HelpLanguage, static_cast<const MenuItem*>(&form.HelpTaal[2])})
+    for (const MenuItem* item : {&form.Help, &form.HelpLanguage, &form.HelpTaal[2]})
         Key(LetterOf(*item));
     EXPECT_TRUE(Comes([&] { return Title() == "Coinlet Designer (English)"; })) << Title();
     // A dialog opens, and Escape leaves it.
