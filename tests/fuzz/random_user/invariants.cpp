@@ -110,10 +110,10 @@ std::string FaultFinder::FaultOfForm(const Form& form) {
     return FaultOfOptions(form);
 }
 
-std::string FaultFinder::Find(player::Life& life) {
+std::string FaultFinder::Find(const Platform& platform) {
     // A form that was opened since may lie where another one lay.
-    if (forms_ != life.platform.Forms()) {
-        forms_ = life.platform.Forms();
+    if (forms_ != platform.Forms()) {
+        forms_ = platform.Forms();
         sound_.clear();
     }
     for (const Form* const form : forms_) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "controls/platform.h"
 #include "player/life.h"
 
 #include <cstdint>
@@ -16,7 +17,7 @@ class FaultFinder {
 public:
     /// What is wrong with the program as it stands, though no doing of any user may make it so; "" if
     /// nothing.
-    std::string Find(player::Life& life);
+    std::string Find(const Platform& platform);
 
 private:
     std::string FaultOfForm(const Form& form);

@@ -115,7 +115,7 @@ RandomUser::RandomUser(std::uint32_t seed, std::size_t steps, std::vector<std::s
 
 std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
     if (life) {
-        if (const std::string fault = faults_.Find(*life); !fault.empty()) player::Fail(fault);
+        if (const std::string fault = faults_.Find(life->platform); !fault.empty()) player::Fail(fault);
         if (life->platform.Ended()) CheckFilesAfterEnd();
     }
     if (step_ == steps_) return std::nullopt;
