@@ -265,6 +265,17 @@ void FormWindow::Detach() {
     gate_.Retire(*this);
 }
 
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    const bool keysAreLost = event->type() == QEvent::ActivationChange && !isActiveWindow();
+    if (!form_ || !keysAreLost || form_->ButtonsHeldByKeys == noButton) return;
+    // Those that hold a button of the pointer would come up in another window, and the stroke go on for ever.
+    gate_.Enter([this] {
+        for (const int code : {keySpace, keyF10})
+            form_->KeyUp(nullptr, code, 0);
+    });
+}
+
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!form_) return;

@@ -44,6 +44,7 @@ public:
     QMenu* PopupOf(const MenuItem& menu) const { return menus_.PopupOf(menu); }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

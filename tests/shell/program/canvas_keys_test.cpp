@@ -69,6 +69,25 @@ TEST_F(ProgramCanvasKeys, SpaceHeldDownDrawsAlongTheArrows) {
     }
 }
 
+TEST_F(ProgramCanvasKeys, AKeyThatComesUpElsewhereEndsItsStroke) {
+    Key("d");
+    Keys("shift+Down", 5);
+    HoldKey("space");
+    Keys("Right", 30);
+    ASSERT_TRUE(Shows({29, 50}, ink));
+    Key("ctrl+s");
+    EXPECT_EQ(screen.TitleOf(Front()), "Save Coinlet");
+    LetGoKey("space");
+    Key("Escape");
+    ASSERT_TRUE(MainIsInFront());
+    MoveTo(OnCanvas({100, 100}));
+    MoveTo(OnCanvas({200, 100}));
+    Key("Left");
+    ASSERT_TRUE(PointerComesTo({199, 100}));
+    EXPECT_EQ(ColourAt(OnCanvas({150, 100})), paper);
+    EXPECT_EQ(ColourAt(OnCanvas({65, 75})), paper);
+}
+
 TEST_F(ProgramCanvasKeys, ShiftTurnsAPreviewWhileThePointerRests) {
     Key("l");
     MoveTo(OnCanvas({100, 100}));
