@@ -95,10 +95,12 @@ bool ToolStrip::TakesKey(int code, int shift) {
     MainForm& main = context_.main;
     const auto tool = ToolOfKey(code);
     if (!tool || shift != 0 || main.PointerHeld()) return false;
-    const VistaButton& button = main.Knop[*tool];
+    VistaButton& button = main.Knop[*tool];
     if (!button.Shown() || !button.Reachable()) return true;
     // First, since the tool may have another place for it.
     main.Pic.SetFocus();
+    // The key is the button's, so that what pops up stands there.
+    main.KeyUp(&button, code, shift);
     button.Click();
     return true;
 }
