@@ -196,6 +196,51 @@ TEST_F(Keyboard, FieldsAndPlacesArePressedByKeys) {
     });
 }
 
+TEST_F(Keyboard, LettersLeadToRowsUntilASecondHasPassed) {
+    Run(form, [&](User& user) {
+        user.Has([&] { form.List1.AddItem("B\u00E9ret"), platform.Mirror(); });
+        FocusOn(user, form.List1);
+        user.Type("ber");
+        EXPECT_TRUE(user.Sees([&] { return form.List1.Text() == "B\u00E9ret"; }));
+        EXPECT_TRUE(user.Sees([&] { return form.List1.TypingTimer() == nullptr; }));
+        user.Type("CR");
+        EXPECT_TRUE(user.Sees([&] { return form.List1.Text() == "Crown"; }));
+    });
+}
+
+TEST_F(Keyboard, ListsShowWholeRows) {
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            for (int i = 0; i < 30; ++i)
+                form.List1.AddItem("row");
+            platform.Mirror();
+            const auto& list = dynamic_cast<const QAbstractItemView&>(WidgetOf(form.List1));
+            const int row = form.List1.RowPixels();
+            EXPECT_EQ(list.visualRect(list.model()->index(0, 0)).height(), row);
+            EXPECT_EQ(list.viewport()->height(), form.List1.VisibleRows() * row);
+        });
+    });
+}
+
+TEST_F(Keyboard, ADroppedListIsSearchedByLettersAndTheCaretStandsBehindTheChoice) {
+    Run(form, [&](User& user) {
+        user.Has([&] { form.Combo1.AddItem("\u00C9tude"), platform.Mirror(); });
+        user.Click(form.Combo1, 112, 11);
+        EXPECT_TRUE(user.Sees([&] { return QApplication::activePopupWidget() != nullptr; }));
+        user.Type("et");
+        user.Key("Return");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "\u00C9tude"; }));
+        user.Type("s");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "\u00C9tudes"; }));
+        // So it does where the arrows choose.
+        user.Key("Home");
+        user.Key("Down");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "Arial"; }));
+        user.Type("x");
+        EXPECT_TRUE(user.Sees([&] { return form.Combo1.Text() == "Arialx"; }));
+    });
+}
+
 // Around what has the keys lies a ring; on a picture with places it lies around the place.
 TEST_F(Keyboard, OneSeesWhereTheKeysGo) {
     constexpr Colour ring = RGB(60, 127, 177);
