@@ -9,6 +9,7 @@
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
@@ -35,6 +36,8 @@ public:
 protected:
     virtual void ShowText(const QString& text) = 0;
     virtual void SelectShownText() = 0;
+    /// What the user types next is another text.
+    virtual void StartOver() { SelectShownText(); }
     virtual void ShowLocked(bool locked) = 0;
 
     void MirrorContent() override {
@@ -47,7 +50,7 @@ protected:
         if (Differs(text_, box.Text())) {
             ShowText(ToQString(text_).replace(QLatin1String("\r\n"), QLatin1String("\n")));
         }
-        if (Differs(selections_, box.Selections())) SelectShownText();
+        if (Differs(selections_, box.Selections())) StartOver();
     }
 
     void Edited(const QString& text) {
@@ -80,6 +83,17 @@ public:
 
 protected:
     void SelectShownText() override { line_.selectAll(); }
+    /// The former text is no longer the field's to take back.
+    void StartOver() override {
+        line_.setText(line_.text());
+        line_.selectAll();
+    }
+    /// With nothing of its own to take back a field leaves the key to the menus.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool usedUp = TextBoxView::eventFilter(watched, event);
+        if (event->type() != QEvent::ShortcutOverride || line_.isUndoAvailable()) return usedUp;
+        return usedUp || static_cast<const QKeyEvent&>(*event).matches(QKeySequence::Undo);
+    }
     void ShowText(const QString& text) override {
         const int cursor = line_.cursorPosition();
         line_.setText(text);
