@@ -4,7 +4,9 @@ into its packages.
 """
 
 import io
+import itertools
 import pathlib
+import struct
 import subprocess
 
 from PIL import Image
@@ -25,6 +27,9 @@ TOOLS = [
     "text", "get_pms", "remove", "replace", "copy", "flip_image", "holes", "about",
 ]
 ICON_SIDE = 14
+# So many times larger are the icons that screens with finer pixels show; the program scales them down to what such
+# a screen has for an icon, and makes the half-tones of the edges itself.
+ICON_FINENESS = 6
 START_PICTURE_SIDE = 175
 PRINT_PREVIEW_SIDE = 140
 METAL_SIDE = 100
@@ -47,10 +52,13 @@ BODY_DISABLED = (244, 244, 244)
 BODY_PRESSED = (165, 211, 236)
 
 
-def render(drawing, side):
-    """A drawing of the given side in pixels, with its coverage (RGBA)."""
-    command = ["rsvg-convert", "--width", str(side), "--height", str(side), str(HERE / drawing)]
-    png = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
+def render(drawing, side, crisp=False):
+    """A drawing of the given side in pixels, with its coverage (RGBA). Crisp: each pixel is covered or not."""
+    text = (HERE / drawing).read_text()
+    if crisp:
+        text = text.replace("<svg ", '<svg shape-rendering="crispEdges" ', 1)
+    command = ["rsvg-convert", "--width", str(side), "--height", str(side)]
+    png = subprocess.run(command, check=True, input=text.encode(), stdout=subprocess.PIPE).stdout
     picture = Image.open(io.BytesIO(png)).convert("RGBA")
     if picture.size != (side, side):
         raise SystemExit(f"{drawing}: {picture.size} instead of {side} by {side}")
@@ -87,15 +95,53 @@ def frame(icon, tint, body):
     return result
 
 
-def tool_icons():
+def tool_icons(fineness=1):
     """All strips below each other; a strip is the normal, the disabled and the pressed frame side by side."""
-    sheet = Image.new("RGB", (3 * ICON_SIDE, len(TOOLS) * ICON_SIDE), MASK)
+    side = fineness * ICON_SIDE
+    sheet = Image.new("RGB", (3 * side, len(TOOLS) * side), MASK)
     for row, tool in enumerate(TOOLS):
-        icon = render(f"icons/{tool}.svg", ICON_SIDE)
+        icon = render(f"icons/{tool}.svg", side, crisp=fineness > 1)
         frames = [frame(icon, same, BODY_NORMAL), frame(icon, pale, BODY_DISABLED), frame(icon, deep, BODY_PRESSED)]
         for column, picture in enumerate(frames):
-            sheet.paste(picture, (column * ICON_SIDE, row * ICON_SIDE))
+            sheet.paste(picture, (column * side, row * side))
     return sheet
+
+
+def few_colours(picture):
+    """The picture in 256 colours, of which the mask is one to the bit."""
+    inks = Image.new("RGB", (picture.width * picture.height, 1))
+    inks.putdata([pixel for pixel in picture.getdata() if pixel != MASK] or [MASK])
+    palette = inks.quantize(colors=255, dither=Image.Dither.NONE).getpalette()[: 255 * 3]
+    result = picture.quantize(palette=palette_of(palette), dither=Image.Dither.NONE)
+    result.putdata([255 if pixel == MASK else index for pixel, index in zip(picture.getdata(), result.getdata())])
+    result.putpalette(palette + list(MASK))
+    return result
+
+
+def palette_of(colours):
+    image = Image.new("P", (1, 1))
+    image.putpalette(colours)
+    return image
+
+
+def save_in_runs(picture, file):
+    """A picture with a palette as a bitmap file of run lengths, 8 bits a pixel."""
+    data = bytearray()
+    for y in reversed(range(picture.height)):
+        row = [picture.getpixel((x, y)) for x in range(picture.width)]
+        for index, group in itertools.groupby(row):
+            length = len(list(group))
+            while length:
+                data += bytes((min(length, 255), index))
+                length -= min(length, 255)
+        data += b"\0\0"
+    data += b"\0\1"
+    palette = picture.getpalette()
+    entries = b"".join(bytes((*reversed(palette[i : i + 3]), 0)) for i in range(0, len(palette), 3))
+    start = 14 + 40 + len(entries)
+    header = struct.pack("<2sIII", b"BM", start + len(data), 0, start)
+    info = struct.pack("<IiiHHIIiiII", 40, picture.width, picture.height, 1, 8, 1, len(data), 0, 0, len(entries) // 4, 0)
+    file.write_bytes(header + info + entries + data)
 
 
 def on_white(picture):
@@ -133,6 +179,7 @@ def make(_data):
     CORE_STOCK.mkdir(parents=True, exist_ok=True)
     SHELL_STOCK.mkdir(parents=True, exist_ok=True)
     tool_icons().save(CORE_STOCK / "tool_icons.bmp")
+    save_in_runs(few_colours(tool_icons(ICON_FINENESS)), CORE_STOCK / "fine_tool_icons.bmp")
     on_white(render("start_picture.svg", START_PICTURE_SIDE)).save(CORE_STOCK / "start_picture.bmp")
     for job in ("print_all_designs", "print_all_cliparts"):
         on_white(render(f"{job}.svg", PRINT_PREVIEW_SIDE)).save(CORE_STOCK / f"{job}.bmp")

@@ -1,11 +1,19 @@
 #include "controls/vista_button_drawing.h"
 
 #include "base/numbers.h"
+#include "controls/fine_button.h"
+#include "controls/form.h"
 #include "surface/device.h"
+#include "surface/fine_picture.h"
+#include "surface/finer_edition.h"
+#include "surface/text_layout.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace coinlet {
 
@@ -136,6 +144,49 @@ void FillGradient(int x1, int y1, int x2, int y2, Colour colorTop, Colour colorB
     GradientFill(hDC, vertices, mesh, GRADIENT_FILL_RECT_V);
 }
 
+/// One side of a button on the pixels that a screen has for it.
+struct Side {
+    int length = 0;  ///< In pixels of the button.
+    int pixels = 0;  ///< On the screen.
+
+    double Scale() const { return length > 0 ? static_cast<double>(pixels) / length : 1; }
+    int Scaled(int lengths) const { return static_cast<int>(std::floor(lengths * Scale() + 0.5)); }
+    /// Where the button's pixel `edge` begins. Both halves are rounded alike, so that the button is as
+    /// symmetrical as it is told.
+    int At(int edge) const { return 2 * edge <= length ? Scaled(edge) : pixels - Scaled(length - edge); }
+};
+
+/// A button's pixels, drawn as the blocks that they are on the screen's.
+class Face {
+public:
+    Face(Surface& surface, int width, int height)
+        : surface_(surface), x_{width, surface.PixelWidth()}, y_{height, surface.PixelHeight()} {}
+
+    int Width() const { return x_.length; }
+    int Height() const { return y_.length; }
+    bool IsPlain() const { return x_.length == x_.pixels && y_.length == y_.pixels; }
+    Surface& Pixels() const { return surface_; }
+    const Side& X() const { return x_; }
+    const Side& Y() const { return y_; }
+
+    /// The rectangle with these corners, both included, whichever way round.
+    void Fill(int x1, int y1, int x2, int y2, Colour colour) const {
+        const int left = x_.At(std::min(x1, x2)), right = x_.At(std::max(x1, x2) + 1);
+        const int top = y_.At(std::min(y1, y2)), bottom = y_.At(std::max(y1, y2) + 1);
+        if (left < right && top < bottom)
+            surface_.Line(left, top, right - 1, bottom - 1, colour, Box::Filled);
+    }
+    /// The right and bottom edges are left out.
+    void Gradient(int x1, int y1, int x2, int y2, Colour top, Colour bottom) const {
+        FillGradient(x_.At(x1), y_.At(y1), x_.At(x2), y_.At(y2), top, bottom, surface_.hDC());
+    }
+    void Dot(int x, int y, Colour colour) const { Fill(x, y, x, y, colour); }
+
+private:
+    Surface& surface_;
+    Side x_, y_;
+};
+
 /// The width of one frame of the picture's strip, or 0 if there is nothing to show: no picture, or a strip of
 /// no frames, whose width nobody can tell.
 int FrameWidth(const ButtonLook& look) {
@@ -149,12 +200,19 @@ int FrameNumber(const ButtonLook& look) {
     return look.pictures == 3 && look.enabled && look.mouseDown ? 2 : 0;
 }
 
-/// Draws the picture before a text of that width. Returns how many of the frame's columns are lost at the
-/// left: above 0 the pair of picture and text is wider than the button.
-int DrawPicture(Surface& face, const ButtonLook& look, int textWidth) {
+/// The part of the picture's frame that shows, and where.
+struct PicturePlace {
+    PixelRect to;           ///< Empty: none of it shows.
+    int left = 0, top = 0;  ///< Of that part in the strip.
+    /// How many of the frame's columns are lost at the left: above 0 the pair of picture and text is wider
+    /// than the button.
+    int clipX = 0;
+};
+
+/// Where the picture stands on a button of that size, before a text of that width.
+PicturePlace PlacePicture(int W, int H, const ButtonLook& look, int textWidth) {
     const int frame = FrameWidth(look);
-    if (frame == 0) return 0;
-    const int W = face.PixelWidth(), H = face.PixelHeight();
+    if (frame == 0) return {};
     const int pictureHeight = look.strip->PixelHeight();
     constexpr int gap = 5;
 
@@ -180,34 +238,67 @@ int DrawPicture(Surface& face, const ButtonLook& look, int textWidth) {
         y = margin;
     }
     // A negative size would copy a mirror image.
-    if (width <= clipX || height <= clipY) return clipX;
-
-    const int left = FrameNumber(look) * frame + clipX;
-    width -= clipX;
-    height -= clipY;
-    if (look.useMaskColor) {
-        TransparentBlt(face.hDC(), x, y, width, height, look.strip->hDC(), left, clipY, width, height,
-                       look.maskColor);
-    } else {
-        BitBlt(face.hDC(), x, y, width, height, look.strip->hDC(), left, clipY, SRCCOPY);
-    }
-    return clipX;
+    if (width <= clipX || height <= clipY) return {.to = {}, .clipX = clipX};
+    return {.to = {x, y, x + width - clipX, y + height - clipY},
+            .left = FrameNumber(look) * frame + clipX,
+            .top = clipY,
+            .clipX = clipX};
 }
 
-void DrawCaption(Surface& face, const ButtonLook& look) {
-    const int W = face.PixelWidth(), H = face.PixelHeight();
-    SetTextColor(face.hDC(), look.enabled ? look.foreColor : disabledText);
-    RECT text{0, 0, W, H};
-    const int textHeight = DrawTextA(face.hDC(), look.caption, text, DT_CENTER | DT_WORDBREAK | DT_CALCRECT);
-    const int clipX = DrawPicture(face, look, text.right - text.left);
+void DrawPicture(const Face& face, const ButtonLook& look, const PicturePlace& place,
+                 const Image& finerStrip) {
+    if (place.to.Empty()) return;
+    const int width = place.to.Width(), height = place.to.Height();
+    if (face.IsPlain()) {
+        const DeviceContext target = face.Pixels().hDC(), source = look.strip->hDC();
+        if (look.useMaskColor) {
+            TransparentBlt(target, place.to.left, place.to.top, width, height, source, place.left, place.top,
+                           width, height, look.maskColor);
+        } else {
+            BitBlt(target, place.to.left, place.to.top, width, height, source, place.left, place.top,
+                   SRCCOPY);
+        }
+        return;
+    }
+    const Image source = finerStrip.Empty() ? look.strip->Image() : finerStrip;
+    const int times = source.Height() / look.strip->PixelHeight();
+    const int x = face.X().At(place.to.left), y = face.Y().At(place.to.top);
+    PaintFinely(
+        face.Pixels(), {x, y, x + face.X().Scaled(width), y + face.Y().Scaled(height)}, source,
+        {times * place.left, times * place.top, times * (place.left + width), times * (place.top + height)},
+        look.useMaskColor ? std::optional(look.maskColor) : std::nullopt);
+}
+
+/// Where picture and caption stand on a button of that size.
+struct Inside {
+    PicturePlace picture;
+    RECT text;
+    unsigned textFlags = 0;
+};
+
+Inside LayOut(const FontEngine& fonts, int W, int H, const ButtonLook& look) {
+    const FontSpec font = look.font.CurrentFont();
+    const TextLayout measured = LayOutText(fonts, font, look.caption, W);
+    const auto textHeight = static_cast<double>(measured.Height());
+    const PicturePlace picture = PlacePicture(W, H, look, WidestLine(fonts, font, measured));
 
     constexpr int behindPicture = 8;
     const int frame = FrameWidth(look);
-    text = {.left = frame > 0 ? frame + behindPicture - clipX : margin,
-            .top = RoundHalfEven((H - textHeight) / 2.0),
-            .right = W - margin,
-            .bottom = RoundHalfEven((H + textHeight) / 2.0)};
-    DrawTextA(face.hDC(), look.caption, text, clipX > 0 ? DT_WORDBREAK : DT_WORDBREAK | DT_CENTER);
+    return {.picture = picture,
+            .text = {.left = frame > 0 ? frame + behindPicture - picture.clipX : margin,
+                     .top = RoundHalfEven((H - textHeight) / 2),
+                     .right = W - margin,
+                     .bottom = RoundHalfEven((H + textHeight) / 2)},
+            .textFlags = picture.clipX > 0 ? DT_WORDBREAK : DT_WORDBREAK | DT_CENTER};
+}
+
+Colour CaptionColour(const ButtonLook& look) {
+    return look.enabled ? look.foreColor : disabledText;
+}
+
+void DrawCaption(Surface& face, const ButtonLook& look, Inside inside) {
+    SetTextColor(face.hDC(), CaptionColour(look));
+    DrawTextA(face.hDC(), look.caption, inside.text, inside.textFlags);
 }
 
 /// Where the upper part of the body ends.
@@ -216,11 +307,10 @@ int UpperPartHeight(int height) {
 }
 
 /// The glossy body: an upper and a lower part, each with a column at either side.
-void DrawBody(Surface& face, std::size_t state) {
-    const int W = face.PixelWidth(), H = face.PixelHeight(), M = UpperPartHeight(H);
+void DrawBody(const Face& face, std::size_t state) {
+    const int W = face.Width(), H = face.Height(), M = UpperPartHeight(H);
     const auto fill = [&](int x1, int y1, int x2, int y2, std::size_t colours) {
-        FillGradient(x1, y1, x2, y2, bodyColours[colours][state], bodyColours[colours + 1][state],
-                     face.hDC());
+        face.Gradient(x1, y1, x2, y2, bodyColours[colours][state], bodyColours[colours + 1][state]);
     };
     fill(2, 2, W - 2, M, 0);
     fill(2, M, W - 2, H - 2, 2);
@@ -230,41 +320,45 @@ void DrawBody(Surface& face, std::size_t state) {
     fill(W - 2, M, W - 1, H - 3, 6);
 }
 
-void DrawPressMarks(Surface& face) {
-    const int W = face.PixelWidth(), H = face.PixelHeight();
+void DrawPressMarks(const Face& face) {
+    const int W = face.Width(), H = face.Height();
     for (const auto& mark : upperPressMarks)
-        face.Line(mark.first, mark.row, mark.last, mark.row, mark.colour, Box::Outline);
+        face.Fill(mark.first, mark.row, mark.last, mark.row, mark.colour);
     for (const auto& mark : upperPressMarks)
-        face.Line(W - 1 - mark.first, mark.row, W - 1 - mark.last, mark.row, mark.colour, Box::Outline);
+        face.Fill(W - 1 - mark.first, mark.row, W - 1 - mark.last, mark.row, mark.colour);
     for (const auto& mark : lowerPressMarks)
-        face.Line(mark.first, H - 1 - mark.row, mark.last, H - 1 - mark.row, mark.colour, Box::Outline);
-    face.PSet(2, 3, pressDots);
-    face.PSet(W - 3, 3, pressDots);
+        face.Fill(mark.first, H - 1 - mark.row, mark.last, H - 1 - mark.row, mark.colour);
+    face.Dot(2, 3, pressDots);
+    face.Dot(W - 3, 3, pressDots);
 }
 
-void DrawFocusGlow(Surface& face) {
-    const int W = face.PixelWidth(), H = face.PixelHeight(), M = UpperPartHeight(H);
-    face.Line(3, 2, W - 4, 2, upperGlowLine, Box::Outline);
-    face.Line(3, H - 3, W - 4, H - 3, lowerGlowLine, Box::Outline);
-    FillGradient(2, 3, 3, M, upperGlowStart, upperGlowEnd, face.hDC());
-    FillGradient(W - 2, 3, W - 3, M, upperGlowStart, upperGlowEnd, face.hDC());
-    FillGradient(2, M, 3, H - 3, lowerGlowStart, lowerGlowEnd, face.hDC());
-    FillGradient(W - 2, M, W - 3, H - 3, lowerGlowStart, lowerGlowEnd, face.hDC());
+void DrawFocusGlow(const Face& face) {
+    const int W = face.Width(), H = face.Height(), M = UpperPartHeight(H);
+    face.Fill(3, 2, W - 4, 2, upperGlowLine);
+    face.Fill(3, H - 3, W - 4, H - 3, lowerGlowLine);
+    face.Gradient(2, 3, 3, M, upperGlowStart, upperGlowEnd);
+    face.Gradient(W - 2, 3, W - 3, M, upperGlowStart, upperGlowEnd);
+    face.Gradient(2, M, 3, H - 3, lowerGlowStart, lowerGlowEnd);
+    face.Gradient(W - 2, M, W - 3, H - 3, lowerGlowStart, lowerGlowEnd);
 }
 
-void DrawFrame(Surface& face, std::size_t state) {
-    const int W = face.PixelWidth(), H = face.PixelHeight();
-    face.Line(0, 0, W - 1, H - 1, frameColours[outline][state], Box::Outline);
-    face.Line(3, 1, W - 4, 1, frameColours[topLine][state], Box::Outline);
-    face.Line(3, H - 2, W - 4, H - 2, frameColours[bottomLine][state], Box::Outline);
+void DrawFrame(const Face& face, std::size_t state) {
+    const int W = face.Width(), H = face.Height();
+    const Colour frame = frameColours[outline][state];
+    face.Fill(0, 0, W - 1, 0, frame);
+    face.Fill(0, H - 1, W - 1, H - 1, frame);
+    face.Fill(0, 0, 0, H - 1, frame);
+    face.Fill(W - 1, 0, W - 1, H - 1, frame);
+    face.Fill(3, 1, W - 4, 1, frameColours[topLine][state]);
+    face.Fill(3, H - 2, W - 4, H - 2, frameColours[bottomLine][state]);
     // One corner after the other: on buttons so small that corners overlap, the later one shows.
     for (const bool atBottom : {false, true}) {
         for (const bool atRight : {false, true}) {
             for (std::size_t i = 0; i < cornerPixels.size(); ++i) {
                 const CornerPixel& pixel = cornerPixels[i];
                 if (pixel.atBottom != atBottom) continue;
-                face.PSet(atRight ? W - 1 - pixel.x : pixel.x, atBottom ? H - 1 - pixel.row : pixel.row,
-                          frameColours[topLine + 1 + i][state]);
+                face.Dot(atRight ? W - 1 - pixel.x : pixel.x, atBottom ? H - 1 - pixel.row : pixel.row,
+                         frameColours[topLine + 1 + i][state]);
             }
         }
     }
@@ -274,21 +368,79 @@ bool HasBody(const ButtonLook& look, ButtonState state) {
     return !look.noBackground || state == ButtonState::Hover || state == ButtonState::Pressed;
 }
 
+/// The look of a button as everybody can see it.
+ButtonLook LookOf(const VistaButton& button) {
+    ButtonLook look;
+    look.caption = button.Caption();
+    look.foreColor = button.ForeColor();
+    look.font = button.Font();
+    if (const Image& picture = button.Picture(); !picture.Empty()) {
+        look.strip = std::make_unique<Surface>(button.OwnerForm().Fonts(), picture.Width(), picture.Height());
+        look.strip->SetPicture(picture);
+    }
+    look.pictures = button.Pictures();
+    look.useMaskColor = button.UseMaskColor();
+    look.maskColor = button.MaskColor();
+    look.noBackground = button.NoBackground();
+    look.backColor = button.BackColor();
+    look.pictureOffset = button.PictureOffset();
+    look.enabled = button.Enabled();
+    look.mouseDown = button.State() == ButtonState::Pressed;
+    return look;
+}
+
+enum class Letters { Drawn, LeftOut };
+
+void Draw(const Face& face, ButtonState state, const ButtonLook& look, Letters letters,
+          const Image& finerStrip = {}) {
+    Surface& pixels = face.Pixels();
+    static_cast<FontProperties&>(pixels) = look.font;
+    pixels.SetBackColor(look.backColor);
+    pixels.Cls();
+    const bool hasBody = HasBody(look, state);
+    const auto column = static_cast<std::size_t>(state);
+    if (hasBody) {
+        DrawBody(face, column);
+        if (state == ButtonState::Pressed) DrawPressMarks(face);
+        if (state == ButtonState::Focused) DrawFocusGlow(face);
+    }
+    // Picture and caption lie on the body and under the frame.
+    const Inside inside = LayOut(pixels.Fonts(), face.Width(), face.Height(), look);
+    DrawPicture(face, look, inside.picture, finerStrip);
+    if (letters == Letters::Drawn) DrawCaption(pixels, look, inside);
+    if (hasBody) DrawFrame(face, column);
+}
+
 }  // namespace
 
 void DrawButton(Surface& face, ButtonState state, const ButtonLook& look) {
-    static_cast<FontProperties&>(face) = look.font;
-    face.SetBackColor(look.backColor);
-    face.Cls();
-    if (!HasBody(look, state)) return DrawCaption(face, look);
+    Draw(Face(face, face.PixelWidth(), face.PixelHeight()), state, look, Letters::Drawn);
+}
 
-    const auto column = static_cast<std::size_t>(state);
-    DrawBody(face, column);
-    if (state == ButtonState::Pressed) DrawPressMarks(face);
-    if (state == ButtonState::Focused) DrawFocusGlow(face);
-    // The caption lies on the body and under the frame.
-    DrawCaption(face, look);
-    DrawFrame(face, column);
+void DrawFineButton(Surface& face, const VistaButton& button) {
+    const Face blocks(face, button.PixelWidth(), button.PixelHeight());
+    const Image finer = blocks.IsPlain() ? Image() : FinerEditionOf(button.Picture());
+    Draw(blocks, button.State(), LookOf(button), Letters::LeftOut, finer);
+}
+
+ButtonCaption CaptionOf(const VistaButton& button) {
+    const ButtonLook look = LookOf(button);
+    const FontEngine& fonts = button.OwnerForm().Fonts();
+    const Inside inside = LayOut(fonts, button.PixelWidth(), button.PixelHeight(), look);
+    const TextLayout layout =
+        LayOutText(fonts, look.font.CurrentFont(), look.caption, inside.text.right - inside.text.left);
+    return {.lines = {layout.lines.begin(), layout.lines.end()},
+            .left = inside.text.left,
+            .right = inside.text.right,
+            .top = inside.text.top,
+            .lineHeight = layout.lineHeight,
+            .centred = (inside.textFlags & DT_CENTER) != 0,
+            .colour = CaptionColour(look)};
+}
+
+PixelRect UncutPart(const Surface& face, const VistaButton& button) {
+    const Side x{button.PixelWidth(), face.PixelWidth()}, y{button.PixelHeight(), face.PixelHeight()};
+    return {x.At(1), y.At(1), x.At(button.PixelWidth() - 1), y.At(button.PixelHeight() - 1)};
 }
 
 }  // namespace coinlet

@@ -3,6 +3,7 @@
 #include "core/materials.h"
 #include "core/stock_bytes.h"
 #include "surface/codecs.h"
+#include "surface/finer_edition.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +12,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr int iconSide = 14, framesAStrip = 3, tagSide = 100;
+constexpr int iconSide = 14, fineness = 6, framesAStrip = 3, tagSide = 100;
 constexpr std::size_t toolIcons = 16;
 
 Image Cut(const Image& sheet, int left, int top, int width, int height) {
@@ -22,12 +23,12 @@ Image Cut(const Image& sheet, int left, int top, int width, int height) {
 }
 
 /// The strips lie below each other in one bitmap, in the order of the buttons.
-std::array<Image, toolIcons> CutIcons(const Image& sheet) {
+std::array<Image, toolIcons> CutIcons(const Image& sheet, int side) {
     std::array<Image, toolIcons> strips;
     int top = 0;
     for (Image& strip : strips) {
-        strip = Cut(sheet, 0, top, framesAStrip * iconSide, iconSide);
-        top += iconSide;
+        strip = Cut(sheet, 0, top, framesAStrip * side, side);
+        top += side;
     }
     return strips;
 }
@@ -52,7 +53,18 @@ Image At(const std::array<Image, count>& pictures, int index) {
 }  // namespace
 
 Image ToolIconStrip(int index) {
-    static const std::array strips = CutIcons(DecodeBmp(stock_bytes::ToolIcons()).value());
+    static const std::array strips = [] {
+        const std::array cut = CutIcons(DecodeBmp(stock_bytes::ToolIcons()).value(), iconSide);
+        for (int i = 0; i < static_cast<int>(cut.size()); ++i)
+            HasFinerEdition(At(cut, i), [i] { return FineToolIconStrip(i); });
+        return cut;
+    }();
+    return At(strips, index);
+}
+
+Image FineToolIconStrip(int index) {
+    static const std::array strips =
+        CutIcons(DecodeBmp(stock_bytes::FineToolIcons()).value(), fineness * iconSide);
     return At(strips, index);
 }
 

@@ -8,6 +8,8 @@ namespace coinlet {
 /// disabled and pressed, with the buttons' usual mask colour, RGB(0,255,0), around the drawing. The empty
 /// picture for an index outside 0 to 15.
 Image ToolIconStrip(int index);
+/// Its finer edition: six times as large and without half-tones; each pixel is of the mask colour or isn't.
+Image FineToolIconStrip(int index);
 
 /// What the preview of the image browser shows until the user picks a picture: 175 by 175 pixels.
 Image StartPicture();

@@ -3,6 +3,7 @@
 #include "controls/placing.h"
 #include "core/canvas_dialog.h"
 #include "designers/arc_form.h"
+#include "surface/finer_edition.h"
 
 #include <array>
 
@@ -53,9 +54,10 @@ void PlaceTriangles(TriangleDrawing& panel) {
     panel.Check1[0].SetValue(true);
 }
 
-/// The picture of a quarter of a circle: 0 and 1 are the upper ones, 0 and 2 those on the left.
-Image QuarterIcon(const ArcForm& form, int quarter) {
-    constexpr int side = 20, radius = 15, penWidth = 3, edge = 2;
+/// The picture of a quarter of a circle: 0 and 1 are the upper ones, 0 and 2 those on the left. In its own
+/// size, or so many times as large.
+Image QuarterIcon(const ArcForm& form, int quarter, int times = 1) {
+    const int side = 20 * times, radius = 15 * times, penWidth = 3 * times, edge = 2 * times + times / 2;
     constexpr Colour mask = RGB(0, 255, 0);
     constexpr std::array<ArcAngles, 4> quarters{
         {{1.5708, 3.1416}, {0, 1.5708}, {3.1416, 4.7124}, {4.7124, 0}}};
@@ -85,6 +87,8 @@ void PlaceSegments(ArcForm& form) {
         knop.SetCaption("");
         knop.SetPictures(1);
         knop.SetPicture(QuarterIcon(form, i));
+        constexpr int fineness = 6;
+        HasFinerEdition(knop.Picture(), [&form, i] { return QuarterIcon(form, i, fineness); });
         knop.ToolTipText = hints.at(static_cast<std::size_t>(i));
         PlaceByPixels(knop, inset + i % 2 * (knopWidth + between), knopsTop + i / 2 * (knopHeight + between),
                       knopWidth, knopHeight);

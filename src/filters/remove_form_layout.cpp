@@ -5,6 +5,7 @@
 #include "core/canvas_dialog.h"
 #include "filters/dialog_looks.h"
 #include "filters/remove_form.h"
+#include "surface/finer_edition.h"
 
 #include <array>
 
@@ -18,16 +19,18 @@ constexpr int glassInterval = 25;  // milliseconds
 /// What a button leaves is told by its caption, by a swatch on it and by a label beside it.
 constexpr int swatchSide = 12;
 
-Image Swatch(const RemoveForm& form, Colour upper, Colour lower) {
-    Surface swatch(form.Fonts(), swatchSide, swatchSide);
-    constexpr int inner = swatchSide - 2;
+/// The swatch in its own size, or so many times as large.
+Image Swatch(const RemoveForm& form, Colour upper, Colour lower, int times = 1) {
+    const int side = swatchSide * times, edge = times, inner = side - 2 * edge;
+    Surface swatch(form.Fonts(), side, side);
+    swatch.SetBackColor(RGB(60, 60, 60));
     for (int y = 0; y < inner; ++y) {
         const auto mixed = [&](int (*channel)(Colour)) {
             return (channel(upper) * (inner - 1 - y) + channel(lower) * y) / (inner - 1);
         };
-        swatch.Line(1, y + 1, inner, y + 1, RGB(mixed(Red), mixed(Green), mixed(Blue)), Box::Filled);
+        swatch.Line(edge, y + edge, edge + inner - 1, y + edge, RGB(mixed(Red), mixed(Green), mixed(Blue)),
+                    Box::Filled);
     }
-    swatch.Line(0, 0, swatchSide - 1, swatchSide - 1, RGB(60, 60, 60), Box::Outline);
     return swatch.Image();
 }
 
@@ -46,11 +49,12 @@ constexpr std::array<RemovalRow, 3> channelRows{{
 }};
 
 void Place(VistaButton& button, Label& label, const RemovalRow& row, const RemoveForm& form) {
-    constexpr int buttonWidth = 76, buttonHeight = 24;
+    constexpr int buttonWidth = 76, buttonHeight = 24, fineness = 6;
     button.SetCaption(row.caption);
     button.SetUseMaskColor(false);
     button.SetPictures(1);
     button.SetPicture(Swatch(form, row.upper, row.lower));
+    HasFinerEdition(button.Picture(), [&form, row] { return Swatch(form, row.upper, row.lower, fineness); });
     PlaceButtonRow(button, label, row.label, {column, row.top, columnWidth, buttonWidth, buttonHeight});
 }
 

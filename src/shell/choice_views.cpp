@@ -3,11 +3,13 @@
 #include "controls/check_box.h"
 #include "controls/text_lines.h"
 #include "shell/control_view.h"
+#include "shell/device_pixels.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
+#include <QAccessible>
 #include <QPolygonF>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
@@ -48,8 +50,10 @@ protected:
         const bool fontChanged = Differs<FontProperties, FontProperties>(font_, choice);
         if (fontChanged) letters_ = ToQFont(font_);
         const Look look{choice.ForeColor, choice.BackColor, choice.Value(), choice.HasFocus()};
+        const bool ticked = look_.value != look.value;
         const bool lookChanged = Differs(look_, look);
         if (captionChanged || fontChanged || lookChanged) this->Widget().update();
+        if (ticked) AnnounceTick();
     }
     std::string_view CaptionText() const override { return caption_; }
 
@@ -60,11 +64,17 @@ private:
         friend bool operator==(const Look&, const Look&) = default;
     };
 
+    void AnnounceTick() {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(&this->Widget(), changed);
+        QAccessible::updateAccessibility(&event);
+    }
+
     void Paint(QPainter& painter) const {
         const QWidget& widget = this->Widget();
-        painter.fillRect(widget.rect(), ToQColor(look_.back));
-        const int top = (widget.height() - toggleMark) / 2;
-        PaintMark(painter, QRectF(0.5, top + 0.5, toggleMark - 1, toggleMark - 1));
+        DevicePixels(painter).Fill(widget.rect(), ToQColor(look_.back));
+        PaintMark(painter, (widget.height() - toggleMark) / 2);
 
         painter.setFont(letters_);
         painter.setPen(ToQColor(widget.isEnabled() ? look_.fore : disabledTextColour));
@@ -80,21 +90,33 @@ private:
         widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
     }
 
-    void PaintMark(QPainter& painter, const QRectF& box) const {
-        painter.save();
+    /// At the left, `top` pixels from the upper edge; its outline lies on whole pixels of the screen.
+    void PaintMark(QPainter& painter, int top) const {
+        DevicePixels screen(painter);
+        const QRect place = screen.Of(QRect(0, top, toggleMark, toggleMark));
+        const int thickness = screen.Thickness(1);
+        const double half = thickness / 2.0;
+        const QRectF outline = QRectF(place).adjusted(half, half, -half, -half);
         painter.setRenderHint(QPainter::Antialiasing);
         const bool enabled = this->Widget().isEnabled();
-        painter.setPen(ToQColor(edgeColour));
+        painter.setPen(QPen(ToQColor(edgeColour), thickness));
         painter.setBrush(ToQColor(enabled ? fieldColour : RGB(110, 110, 120)));
         if (round_) {
-            painter.drawEllipse(box);
+            painter.drawEllipse(outline);
         } else {
-            painter.drawRoundedRect(box, 1.5, 1.5);
+            constexpr double corner = 1.5;
+            painter.drawRoundedRect(outline, corner * thickness, corner * thickness);
         }
+        if (!look_.value) return;
+        painter.translate(place.topLeft());
+        painter.scale(place.width() / double{toggleMark}, place.height() / double{toggleMark});
         painter.setPen(ToQColor(fieldTextColour));
-        if (look_.value && round_) PaintDot(painter, box);
-        if (look_.value && !round_) PaintTick(painter, box);
-        painter.restore();
+        const QRectF box(0.5, 0.5, toggleMark - 1, toggleMark - 1);
+        if (round_) {
+            PaintDot(painter, box);
+        } else {
+            PaintTick(painter, box);
+        }
     }
 
     bool round_;

@@ -4,6 +4,7 @@
 #include "controls/frame.h"
 #include "controls/menu.h"
 #include "controls/picture_box.h"
+#include "shell/device_pixels.h"
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
@@ -80,7 +81,7 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
     setAcceptDrops(form.TakesDrops());
     face_->setAttribute(Qt::WA_OpaquePaintEvent);
     face_->Paint = [this](QPainter& painter, const QRect& dirty) {
-        painter.fillRect(dirty, ToQColor(backColor_));
+        DevicePixels(painter).Fill(dirty, ToQColor(backColor_));
         outlines_.Paint(painter);
     };
     area_->setWidget(face_);

@@ -1,5 +1,6 @@
 #include "controls/frame.h"
 #include "shell/control_view.h"
+#include "shell/device_pixels.h"
 #include "shell/look.h"
 #include "shell/outlines.h"
 #include "shell/painted_widget.h"
@@ -49,18 +50,18 @@ private:
     void Paint(QPainter& painter) const {
         constexpr int captionLeft = 8;
         const QRect box = Widget().rect();
-        painter.fillRect(box, ToQColor(look_.back));
         const QString caption = ToQString(caption_);
         painter.setFont(letters_);
         const QFontMetrics metrics = painter.fontMetrics();
         const int captionHeight = caption.isEmpty() ? 0 : metrics.height();
-        if (look_.border) {
-            painter.setPen(ToQColor(edgeColour));
-            painter.drawRect(box.adjusted(0, captionHeight / 2, -1, -1));
+        const QRect room(captionLeft - 3, 0, metrics.horizontalAdvance(caption) + 6, captionHeight);
+        {
+            DevicePixels screen(painter);
+            screen.Fill(box, ToQColor(look_.back));
+            if (look_.border) screen.Frame(box.adjusted(0, captionHeight / 2, 0, 0), ToQColor(edgeColour));
+            if (!caption.isEmpty()) screen.Fill(room, ToQColor(look_.back));
         }
         if (!caption.isEmpty()) {
-            const QRect room(captionLeft - 3, 0, metrics.horizontalAdvance(caption) + 6, captionHeight);
-            painter.fillRect(room, ToQColor(look_.back));
             painter.setPen(ToQColor(Widget().isEnabled() ? look_.fore : disabledTextColour));
             painter.drawText(room, Qt::AlignCenter, caption);
         }

@@ -1,6 +1,7 @@
 #include "controls/form.h"
 #include "controls/label.h"
 #include "shell/control_view.h"
+#include "shell/device_pixels.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
@@ -52,10 +53,10 @@ private:
 
     void Paint(QPainter& painter) const {
         const QRect box = Widget().rect();
-        if (!look_.transparent) painter.fillRect(box, ToQColor(look_.back));
-        if (look_.border) {
-            painter.setPen(ToQColor(edgeColour));
-            painter.drawRect(box.adjusted(0, 0, -1, -1));
+        {
+            DevicePixels screen(painter);
+            if (!look_.transparent) screen.Fill(box, ToQColor(look_.back));
+            if (look_.border) screen.Frame(box, ToQColor(edgeColour));
         }
         painter.setFont(letters_);
         painter.setPen(ToQColor(Widget().isEnabled() ? look_.fore : disabledTextColour));

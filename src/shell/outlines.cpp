@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/shapes.h"
+#include "shell/device_pixels.h"
 #include "shell/look.h"
 
 #include <QPainter>
@@ -94,28 +95,35 @@ Outlines::Look Outlines::LookOf(const Control& control) {
 }
 
 void Outlines::Paint(QPainter& painter) const {
-    painter.save();
+    DevicePixels screen(painter);
     for (const auto& [control, look] : items_) {
         if (!look.visible) continue;
-        QPen pen(ToQColor(look.border), look.width);
+        // The pen lies about the middle of the pixels that an outline of one pixel's width would have.
+        const int thickness = screen.Thickness(look.width), hair = screen.Thickness(1);
+        const int before = hair / 2, behind = hair - before;
+        QPen pen(ToQColor(look.border), thickness);
         pen.setJoinStyle(Qt::MiterJoin);
         if (look.dotted) pen.setDashPattern({3, 3});
         painter.setPen(pen);
         painter.setBrush(look.filled ? QBrush(ToQColor(look.fill)) : QBrush(Qt::NoBrush));
-        const QRect corners(look.x1, look.y1, look.x2 - look.x1, look.y2 - look.y1);
+        // Of the pixels of the two corners, whichever way round.
+        const auto place = [&](int x, int y) { return screen.Of(QRect(x, y, 1, 1)); };
+        const QRect first = place(look.x1, look.y1), last = place(look.x2, look.y2);
+        const QRect box(QPoint(first.left() + before, first.top() + before),
+                        QPoint(last.right() - behind, last.bottom() - behind));
         switch (look.figure) {
             case Figure::Rectangle:
-                painter.drawRect(corners);
+                painter.drawRect(box);
                 break;
             case Figure::Ellipse:
-                painter.drawEllipse(corners);
+                painter.drawEllipse(box);
                 break;
             case Figure::Line:
-                painter.drawLine(look.x1, look.y1, look.x2, look.y2);
+                painter.drawLine(first.topLeft() + QPoint(before, before),
+                                 last.topLeft() + QPoint(before, before));
                 break;
         }
     }
-    painter.restore();
 }
 
 }  // namespace coinlet

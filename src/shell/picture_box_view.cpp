@@ -1,6 +1,7 @@
 #include "base/numbers.h"
 #include "controls/picture_box.h"
 #include "shell/control_view.h"
+#include "shell/device_pixels.h"
 #include "shell/focus_ring.h"
 #include "shell/frame_pace.h"
 #include "shell/look.h"
@@ -11,6 +12,7 @@
 
 #include <QRegion>
 
+#include <cmath>
 #include <cstdint>
 
 namespace coinlet {
@@ -60,7 +62,11 @@ private:
         const QSize size(surface.PixelWidth(), surface.PixelHeight());
         if (Differs(size_, size)) return Widget().rect();
         const int frame = FrameWidth();
-        return {changed.left + frame, changed.top + frame, changed.Width(), changed.Height()};
+        const QRect place(changed.left + frame, changed.top + frame, changed.Width(), changed.Height());
+        // Where a pixel is no whole number of the screen's, it shares some with its neighbours.
+        const double scale = Widget().devicePixelRatioF();
+        const int shared = scale == std::floor(scale) ? 0 : 1;
+        return place.isEmpty() ? place : place.adjusted(-shared, -shared, shared, shared);
     }
 
     void Paint(QPainter& painter, const QRect& dirty) const {
@@ -69,10 +75,13 @@ private:
         const QImage pixels = ViewPixels(surface.Pixels());
         const int frame = FrameWidth();
         const QRect place = pixels.rect().translated(frame, frame);
-        const QRect covered = dirty & place;
-        if (!covered.isEmpty()) painter.drawImage(covered, pixels, covered.translated(-frame, -frame));
-        for (const QRect& rest : QRegion(dirty) - place) {
-            painter.fillRect(rest, ToQColor(surface.BackColor()));
+        {
+            DevicePixels screen(painter);
+            for (const QRect& rest : QRegion(dirty) - place)
+                screen.Fill(rest, ToQColor(surface.BackColor()));
+            // The painter may take a pixel of the screen more than `dirty` covers by half.
+            const QRect shown = screen.Of(place);
+            PaintPixels(painter, pixels, shown, screen.Of(dirty).adjusted(-1, -1, 1, 1) & shown);
         }
         outlines_.Paint(painter);
         if (frame > 0) PaintFrame(painter);
@@ -91,16 +100,40 @@ private:
         return place.adjusted(-room, -room, room, room) & Widget().rect();
     }
 
+    /// The part of a picture at `place` that lies in `part`, enlarged without smoothing. Each pixel of the
+    /// screen shows the one that its middle lies in, whatever part is painted: parts would not match if the
+    /// painter enlarged each by itself.
+    static void PaintPixels(QPainter& painter, const QImage& pixels, const QRect& place, const QRect& part) {
+        if (pixels.isNull() || part.isEmpty()) return;
+        if (place.size() == pixels.size()) {
+            painter.drawImage(part, pixels, part.translated(-place.topLeft()));
+            return;
+        }
+        const auto source = [](int target, int targets, int sources) {
+            return static_cast<int>((2LL * target + 1) * sources / (2LL * targets));
+        };
+        QImage enlarged(part.size(), QImage::Format_RGB32);
+        for (int y = 0; y < part.height(); ++y) {
+            const int row = source(part.top() + y - place.top(), place.height(), pixels.height());
+            const auto* from = reinterpret_cast<const QRgb*>(pixels.constScanLine(row));
+            auto* to = reinterpret_cast<QRgb*>(enlarged.scanLine(y));
+            for (int x = 0; x < part.width(); ++x)
+                to[x] = from[source(part.left() + x - place.left(), place.width(), pixels.width())];
+        }
+        painter.drawImage(part.topLeft(), enlarged);
+    }
+
     /// Black on white, so that it shows on every design.
     void PaintFrame(QPainter& painter) const {
-        QPen dots(ToQColor(black), 1);
+        DevicePixels screen(painter);
+        screen.Frame(Widget().rect(), ToQColor(white));
+        const int thickness = screen.Thickness(1);
+        QPen dots(ToQColor(black), thickness, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
         dots.setDashPattern({3, 3});
-        painter.setBrush(Qt::NoBrush);
-        const QRect frame = Widget().rect().adjusted(0, 0, -1, -1);
-        painter.setPen(ToQColor(white));
-        painter.drawRect(frame);
         painter.setPen(dots);
-        painter.drawRect(frame);
+        painter.setBrush(Qt::NoBrush);
+        const int before = thickness / 2, behind = thickness - before;
+        painter.drawRect(screen.Of(Widget().rect()).adjusted(before, before, -behind, -behind));
     }
 
     std::uint64_t revision_ = ~std::uint64_t{0};

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "surface/device.h"
+#include "surface/text_layout.h"
 #include "surface/text_stamp.h"
 
 #include <algorithm>
@@ -9,8 +10,8 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <optional>
 #include <utility>
-#include <vector>
 
 namespace coinlet {
 namespace {
@@ -35,46 +36,6 @@ FontSpec SelectedFont(const Surface& surface) {
     return surface.DeviceFont ? ToFontSpec(*surface.DeviceFont) : surface.CurrentFont();
 }
 
-// What a rectangle's lines are measured with.
-struct Ruler {
-    const FontEngine& fonts;
-    FontSpec font;
-    int Width(std::string_view text) const { return fonts.Measure(font, text).width; }
-    int LineHeight() const { return fonts.Measure(font, {}).height; }
-};
-
-// The longest front part of `text` that ends with a word, or is all of it, and fits; at least one word.
-std::string_view FrontThatFits(std::string_view text, const Ruler& ruler, std::int64_t width) {
-    std::size_t taken = 0;
-    while (taken < text.size()) {
-        const auto word = text.find_first_not_of(' ', taken);
-        const auto end =
-            word == std::string_view::npos ? text.size() : std::min(text.find(' ', word), text.size());
-        if (taken > 0 && ruler.Width(text.substr(0, end)) > width) break;
-        taken = end;
-    }
-    return text.substr(0, taken);
-}
-
-void AddWrapped(std::string_view text, const Ruler& ruler, std::int64_t width,
-                std::vector<std::string_view>& lines) {
-    do {
-        const std::string_view line = FrontThatFits(text, ruler, width);
-        lines.push_back(line);
-        text.remove_prefix(line.size());
-        text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    } while (!text.empty());
-}
-
-std::vector<std::string_view> LaidOutLines(std::string_view text, const Ruler& ruler, std::int64_t width,
-                                           unsigned flags) {
-    if ((flags & DT_WORDBREAK) == 0) return DrawnLines(text);
-    std::vector<std::string_view> lines;
-    for (const std::string_view line : DrawnLines(text))
-        AddWrapped(line, ruler, width, lines);
-    return lines;
-}
-
 int Saturated(std::int64_t value) {
     return static_cast<int>(
         std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
@@ -89,27 +50,26 @@ std::int64_t HalfDown(std::int64_t value) {
 
 int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigned flags) {
     Surface& target = hDC.Target();
-    const Ruler ruler = {target.Fonts(), SelectedFont(target)};
+    const FontEngine& fonts = target.Fonts();
+    const FontSpec font = SelectedFont(target);
     const std::int64_t room = std::int64_t{rectangle.right} - rectangle.left;
-    const auto lines = LaidOutLines(text, ruler, room, flags);
-    const std::int64_t lineHeight = ruler.LineHeight();
-    const std::int64_t height = lineHeight * static_cast<std::int64_t>(lines.size());
+    const TextLayout layout =
+        LayOutText(fonts, font, text, (flags & DT_WORDBREAK) != 0 ? std::optional(room) : std::nullopt);
+    const std::int64_t height = layout.Height();
 
     if ((flags & DT_CALCRECT) != 0) {
-        int widest = 0;
-        for (const std::string_view line : lines)
-            widest = std::max(widest, ruler.Width(line));
-        rectangle.right = Saturated(std::int64_t{rectangle.left} + widest);
+        rectangle.right = Saturated(std::int64_t{rectangle.left} + WidestLine(fonts, font, layout));
         rectangle.bottom = Saturated(rectangle.top + height);
         return Saturated(height);
     }
 
     const PixelRect clip = {rectangle.left, rectangle.top, rectangle.right, rectangle.bottom};
     std::int64_t y = rectangle.top;
-    for (const std::string_view line : lines) {
-        const std::int64_t margin = (flags & DT_CENTER) != 0 ? HalfDown(room - ruler.Width(line)) : 0;
-        StampText(target, {ruler.font, line}, Saturated(rectangle.left + margin), Saturated(y), clip);
-        y += lineHeight;
+    for (const std::string_view line : layout.lines) {
+        const bool centred = (flags & DT_CENTER) != 0;
+        const std::int64_t margin = centred ? HalfDown(room - fonts.Measure(font, line).width) : 0;
+        StampText(target, {font, line}, Saturated(rectangle.left + margin), Saturated(y), clip);
+        y += layout.lineHeight;
     }
     return Saturated(height);
 }

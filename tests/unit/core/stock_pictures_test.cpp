@@ -3,6 +3,7 @@
 
 #include "core/materials.h"
 #include "support/block_fonts.h"
+#include "surface/fine_picture.h"
 #include "surface/surface.h"
 
 #include <algorithm>
@@ -107,6 +108,40 @@ TEST(ToolIconStrip, ShowsTheButtonThroughTheHoleOfHoles) {
 TEST(ToolIconStrip, IsEmptyForNoTool) {
     for (const int none : {-1, 16, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
         EXPECT_TRUE(ToolIconStrip(none).Empty()) << none;
+}
+
+/// Scaled down to the strip's own size on the grey that the strip is blended with, it is the strip: the same
+/// drawing, up to what a few points of a curve more or less make of an edge.
+TEST_P(ToolIcons, FineOnesShowTheSameDrawing) {
+    const Image strip = ToolIconStrip(GetParam()), fine = FineToolIconStrip(GetParam());
+    ASSERT_EQ(fine.Width(), 6 * strip.Width());
+    ASSERT_EQ(fine.Height(), 6 * strip.Height());
+    const test::BlockFonts fonts;
+    constexpr int bodies[] = {228, 244, -1};  // The pressed body has no one colour that both were laid on.
+    for (const Frame frame : {normal, disabled}) {
+        const Colour body = RGB(bodies[frame], bodies[frame], bodies[frame]);
+        Surface small(fonts, side, side);
+        small.SetBackColor(body);
+        PaintFinely(small, {0, 0, side, side}, fine, {frame * 6 * side, 0, (frame + 1) * 6 * side, 6 * side},
+                    mask);
+        int far = 0;
+        double sum = 0;
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
+                const Colour wanted = strip.At(frame * side + x, y), found = small.Point(x, y);
+                const int off = std::abs(Green(wanted == mask ? body : wanted) - Green(found));
+                sum += off;
+                far += off > 60 ? 1 : 0;
+            }
+        }
+        EXPECT_LE(sum / (side * side), 8) << "frame " << frame;
+        EXPECT_LE(far, 6) << "frame " << frame;
+    }
+}
+
+TEST(FineToolIconStrip, IsEmptyForNoTool) {
+    for (const int none : {-1, 16, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+        EXPECT_TRUE(FineToolIconStrip(none).Empty()) << none;
 }
 
 TEST(StartPicture, IsADrawingOnWhite) {

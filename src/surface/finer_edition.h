@@ -1,0 +1,16 @@
+#pragma once
+
+#include "surface/image.h"
+
+#include <functional>
+
+namespace coinlet {
+
+/// Says that `picture`, and every copy of it, has an edition with a whole number of times more pixels a side,
+/// for screens that are as fine. `make` gives it; it is asked only there. It is forgotten with the last copy.
+void HasFinerEdition(const Image& picture, std::function<Image()> make);
+
+/// The finer edition, or the empty picture where none is known or what was made isn't such a one.
+Image FinerEditionOf(const Image& picture);
+
+}  // namespace coinlet
