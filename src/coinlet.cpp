@@ -1,5 +1,6 @@
 #include "app/application.h"
 #include "app/named_document.h"
+#include "core/accessible_names.h"
 #include "launch/application_folder.h"
 #include "launch/command_line.h"
 #include "launch/user_folders.h"
@@ -72,6 +73,8 @@ int main(int argc, char** argv) {
         .screenGrab = shell.GetScreenGrab(),
         .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
     Application application(services);
+    const AccessibleNames names(application.GetContext());
+    shell.NameControlsBy(names);
     return shell.Run(
         [&] {
             application.Start();

@@ -18,6 +18,15 @@ std::string TextOfLine(const std::string& line) {
     return separator.empty() ? std::string() : line.substr(keyLength + separator.front().size());
 }
 
+/// The first row of the table with that key, or nullptr.
+const std::string* LineOf(const Context& context, std::string_view key) {
+    const ListBox& table = context.main.InfoList;
+    for (int i = 0; i < table.ListCount(); ++i) {
+        if (table.List(i).compare(0, keyLength, key) == 0) return &table.List(i);
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 void LoadLanguage(Context& context, const std::string& languageName) {
@@ -38,14 +47,15 @@ void LoadLanguage(Context& context, const std::string& languageName) {
 }
 
 std::string LookupInfoText(Context& context, std::string_view key) {
-    const ListBox& table = context.main.InfoList;
-    for (int i = 0; i < table.ListCount(); ++i) {
-        const std::string& line = table.List(i);
-        if (line.compare(0, keyLength, key) != 0) continue;
-        context.main.NummerLabel.Caption = key;
-        return TextOfLine(line);
-    }
-    return {};
+    const std::string* line = LineOf(context, key);
+    if (!line) return {};
+    context.main.NummerLabel.Caption = key;
+    return TextOfLine(*line);
+}
+
+std::string InfoText(const Context& context, std::string_view key) {
+    const std::string* line = LineOf(context, key);
+    return line ? TextOfLine(*line) : std::string();
 }
 
 void ShowHint(Context& context, std::string_view key) {

@@ -16,6 +16,9 @@ void LoadLanguage(Context& context, const std::string& languageName);
 /// the window. An unknown key gives an empty text and leaves the number as it was.
 std::string LookupInfoText(Context& context, std::string_view key);
 
+/// The same text without showing its number.
+std::string InfoText(const Context& context, std::string_view key);
+
 /// Shows the text of a key as the hint at the foot of the window.
 void ShowHint(Context& context, std::string_view key);
 

@@ -3,12 +3,14 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "controls/form.h"
+#include "controls/platform.h"
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
 #include "shell/qt_text.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -46,7 +48,6 @@ ControlView::ControlView(Control& control, QWidget& widget, EventGate& gate, Han
     // The form says where the focus goes, by a press or by the tab key; a widget follows.
     widget.setFocusPolicy(Qt::TabFocus);
     Watch(widget);
-    widget.setAccessibleName(ToQString(control.Name()));
 }
 
 void ControlView::Watch(QWidget& part) {
@@ -100,10 +101,35 @@ bool ControlView::IsOf(const Control& control) const {
            index_ == control.Index();
 }
 
+/// What names a control to who doesn't see it: its caption, else the tooltip, else a name of its own. A
+/// control that has neither has no name: that of the code says nothing to anybody.
 void ControlView::UpdateAccessibleName() {
     const std::string_view caption = TrimBlanks(CaptionText());
     const std::string_view toolTip = TrimBlanks(toolTip_);
-    widget_->setAccessibleName(ToQString(!caption.empty() ? caption : !toolTip.empty() ? toolTip : name_));
+    const QString name = ToQString(!caption.empty()   ? caption
+                                   : !toolTip.empty() ? toolTip
+                                                      : std::string_view(ownName_));
+    widget_->setAccessibleName(name);
+    // The part of a combo box that is typed in has the keys, and with them the reader's ear.
+    for (auto* part : widget_->findChildren<QLineEdit*>())
+        part->setAccessibleName(name);
+}
+
+void ControlView::SetOwnName(const std::string& name) {
+    if (Differs(ownName_, name)) UpdateAccessibleName();
+}
+
+bool ControlView::IsWithinReach() const {
+    return control_ && control_->Shown() && control_->Reachable() &&
+           control_->OwnerForm().GetPlatform().FrontForm() == &control_->OwnerForm();
+}
+
+void ControlView::ClickByTool() {
+    if (IsWithinReach()) gate_.Enter([this] { control_->PointerClicked(); });
+}
+
+void ControlView::FocusByTool() {
+    if (IsWithinReach()) gate_.Enter([this] { control_->SetFocus(); });
 }
 
 void ControlView::Press(int button, int shift, float x, float y, bool) {

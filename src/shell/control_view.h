@@ -36,6 +36,13 @@ public:
     void Abandon();
     /// The focus has come to the control, by a key or because its form says so.
     virtual void FocusComes() {}
+    /// What assistive tools call the control where neither its caption nor its tooltip does.
+    void SetOwnName(const std::string& name);
+    /// An assistive tool does for the user what he can do himself: a click, moving the focus, a value of a
+    /// slider. Nothing happens on what he couldn't reach.
+    void ClickByTool();
+    void FocusByTool();
+    virtual void SetByTool(int /*value*/) {}
     /// Shapes and lines that lie in the control, for views of containers.
     virtual void GatherOutlines() {}
 
@@ -69,6 +76,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     void UpdateAccessibleName();
+    /// True if the user can do something to the control now: it is there, and its form is in front.
+    bool IsWithinReach() const;
 
 private:
     void MirrorPlace();
@@ -95,6 +104,7 @@ private:
     bool enabled_ = true;
     int mousePointer_ = defaultPointer;
     std::string toolTip_;
+    std::string ownName_;
 };
 
 /// A view that knows the type of its control.

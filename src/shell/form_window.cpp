@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "controls/frame.h"
 #include "controls/menu.h"
+#include "controls/name_giver.h"
 #include "controls/picture_box.h"
 #include "shell/device_pixels.h"
 #include "shell/event_gate.h"
@@ -153,6 +154,7 @@ void FormWindow::AddView(Control& control) {
     if (parent == containers_.end()) return;
     ControlView* view = MakeView(control, *parent->second, gate_);
     if (!view) return;
+    namesRevision_ = 0;  // It has none yet.
     views_.push_back(view);
     if (const Container* container = AsContainer(control)) containers_[container] = &view->Widget();
 }
@@ -172,7 +174,14 @@ void FormWindow::Mirror() {
     outlines_.Mirror(*face_);
     for (ControlView* view : views_)
         view->Mirror();
+    MirrorNames();
     MirrorFocus();
+}
+
+void FormWindow::MirrorNames() {
+    if (!names_ || !Differs(namesRevision_, names_->Revision() + 1)) return;
+    for (ControlView* view : views_)
+        view->SetOwnName(names_->NameOf(*view->Shown()));
 }
 
 void FormWindow::MirrorFrame() {

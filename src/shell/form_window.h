@@ -17,6 +17,7 @@
 
 namespace coinlet {
 
+class NameGiver;
 class PaintedWidget;
 class RoomyArea;
 
@@ -28,6 +29,8 @@ public:
     FormWindow(Form& form, EventGate& gate, QWidget* behind);
     ~FormWindow() override;
 
+    /// Who names what has no caption; nullptr: nobody. It must outlive the window.
+    void NameBy(const NameGiver* names) { names_ = names; }
     /// Shows the window: a dialog in the middle of the one behind it, but not beyond the screen.
     void Open();
     /// Makes widgets for controls that have come, and lets go of those that have gone. What serves events
@@ -57,6 +60,7 @@ private:
     void AddView(Control& control);
     void MirrorFrame();
     void MirrorFocus();
+    void MirrorNames();
     void WatchScreen();
     void FitToScreen();
     void LayOut();
@@ -73,6 +77,8 @@ private:
     std::vector<ControlView*> views_;
     std::map<const Container*, QWidget*> containers_;
 
+    const NameGiver* names_ = nullptr;
+    std::uint64_t namesRevision_ = 0;
     std::uint64_t elements_ = 0;
     bool synced_ = false;
     std::string caption_;

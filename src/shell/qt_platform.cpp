@@ -2,6 +2,7 @@
 
 #include "controls/control.h"
 #include "controls/menu.h"
+#include "shell/accessible_controls.h"
 #include "shell/dialogs.h"
 #include "shell/form_window.h"
 #include "shell/menu_view.h"
@@ -37,6 +38,7 @@ private:
 };
 
 QtPlatform::QtPlatform() : gate_(*this, [this] { MirrorAll(); }) {
+    DescribeControls();
     ReadScreen();
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &connections_,
                      [this](Qt::ApplicationState state) { StateChanged(state); });
@@ -108,6 +110,7 @@ void QtPlatform::FormLoaded(Form& form) {
     gate_.Quietly([&] {
         // The window owns itself: it ends when no event is on its way to it any more.
         auto* window = new FormWindow(form, gate_, FrontWindow());
+        window->NameBy(names_);
         windows_.push_back(window);
         window->Open();
     });

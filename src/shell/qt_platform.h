@@ -19,6 +19,7 @@ class QWidget;
 namespace coinlet {
 
 class FormWindow;
+class NameGiver;
 
 /// The platform of the program with windows: each loaded form has one.
 class QtPlatform : public Platform {
@@ -40,6 +41,8 @@ public:
     bool IsPointerOver(const Control& control) const override;
     void ShowPointer() override { MirrorHourglass(); }
 
+    /// Who names controls to assistive tools; it must outlive the platform's windows.
+    void NameControlsBy(const NameGiver& names) { names_ = &names; }
     /// Makes all windows equal to their forms.
     void Mirror() { gate_.Mirror(); }
     /// The window of a form, or nullptr if it isn't loaded.
@@ -77,6 +80,7 @@ private:
     std::vector<FormWindow*> windows_;  ///< The last one is in front.
     std::vector<ModalLoop> loops_;
     FramePace pace_;
+    const NameGiver* names_ = nullptr;
     PointerWarps warps_;
     bool hourglass_ = false;
 

@@ -33,6 +33,10 @@ public:
         connect(&widget, &QScrollBar::valueChanged, this, [this](int value) { Step(value); });
     }
 
+    void SetByTool(int value) override {
+        if (IsWithinReach()) Gate().Enter([&] { model().SetValue(value); });
+    }
+
 protected:
     void MirrorContent() override {
         const ScrollBar& bar = model();

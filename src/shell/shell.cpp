@@ -104,6 +104,10 @@ ScreenGrab& Shell::GetScreenGrab() {
     return parts_->screenGrab;
 }
 
+void Shell::NameControlsBy(const NameGiver& names) {
+    parts_->platform.NameControlsBy(names);
+}
+
 int Shell::Run(const std::function<void()>& start, const ForeignEnd& end) {
     const FarewellAtExit farewell(end.isHere);
     const auto leave = [&] { return parts_->platform.Leave(end.isHere); };

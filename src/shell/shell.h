@@ -8,6 +8,7 @@ namespace coinlet {
 
 class Clipboard;
 class Desktop;
+class NameGiver;
 class Platform;
 class Printer;
 class ScreenGrab;
@@ -37,6 +38,9 @@ public:
     Clipboard& GetClipboard();
     Printer& GetPrinter();
     ScreenGrab& GetScreenGrab();
+
+    /// Who names to assistive tools what has no caption; it must outlive Run.
+    void NameControlsBy(const NameGiver& names);
 
     /// Runs `start`, which shows the main form, and serves events until the program has ended, by itself or
     /// in a foreign way. Returns the exit status.

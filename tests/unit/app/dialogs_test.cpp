@@ -5,6 +5,7 @@
 
 #include "app/application.h"
 #include "base/text.h"
+#include "core/accessible_names.h"
 #include "core/language.h"
 #include "core/main_form.h"
 #include "media/media_codecs.h"
@@ -116,6 +117,41 @@ protected:
     Application program_{
         {folder_ / "app", platform_, fonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
 };
+
+/// What a screen reader has to call a control by: its caption, else its tooltip, else the name that it is
+/// given.
+std::string ReadOut(const Control& control, const NameGiver& names) {
+    std::string caption;
+    if (const auto* button = dynamic_cast<const VistaButton*>(&control)) caption = button->Caption();
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) caption = box->Caption;
+    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) caption = option->Caption;
+    if (const auto* label = dynamic_cast<const Label*>(&control)) caption = label->Caption;
+    if (!TrimBlanks(caption).empty()) return std::string(TrimBlanks(caption));
+    const auto toolTip = TrimBlanks(control.ToolTipText);
+    return toolTip.empty() ? names.NameOf(control) : std::string(toolTip);
+}
+
+void ExpectNames(Form& form, const NameGiver& names) {
+    for (Control* control : Usable<Control>(form)) {
+        const bool isUsed = control->CanFocus() || control->Click || control->MouseDown;
+        const std::string name = ReadOut(*control, names);
+        if (isUsed) {
+            EXPECT_FALSE(name.empty()) << form.Name() << "." << control->Name() << " has no name";
+        }
+        // What only the code calls it says nothing to anybody; fields may be called by a word that both use.
+        const bool hasWordOfItsOwn =
+            control->Kind() == ControlKind::Button || control->Kind() == ControlKind::Label;
+        if (!hasWordOfItsOwn) {
+            EXPECT_NE(name, control->Name()) << form.Name();
+        }
+    }
+}
+
+TEST_P(EveryDialog, HasANameForWhatOneUsesInIt) {
+    const AccessibleNames names(program_.GetContext());
+    ExpectNames(Main(), names);
+    InDialog([&](Form& dialog) { ExpectNames(dialog, names); });
+}
 
 TEST_P(EveryDialog, LooksRightWhenItOpens) {
     InDialog([this](Form& dialog) {
