@@ -51,9 +51,11 @@ int PaletteTop(int box) {
 
 std::vector<Rectangle> PalettePlaces() {
     std::vector<Rectangle> places;
-    for (int box = 0; box < static_cast<int>(palette.size()); ++box)
+    places.reserve(palette.size());
+    for (int box = 0; box < static_cast<int>(palette.size()); ++box) {
         places.push_back({static_cast<double>(PaletteLeft(box)), static_cast<double>(PaletteTop(box)),
                           boxPitch + 1, boxPitch + 1});
+    }
     return places;
 }
 
