@@ -72,6 +72,7 @@ std::optional<int> SwatchAt(float x, float y) {
 
 std::vector<Rectangle> SwatchPlaces() {
     std::vector<Rectangle> places;
+    places.reserve(sidePanelRows);
     for (int row = 0; row < sidePanelRows; ++row)
         places.push_back({swatchLeft, static_cast<double>(RowTop(row)), rowHeight + 1, rowHeight + 1});
     return places;

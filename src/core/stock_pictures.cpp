@@ -54,7 +54,7 @@ Image At(const std::array<Image, count>& pictures, int index) {
 
 Image ToolIconStrip(int index) {
     static const std::array strips = [] {
-        const std::array cut = CutIcons(DecodeBmp(stock_bytes::ToolIcons()).value(), iconSide);
+        std::array cut = CutIcons(DecodeBmp(stock_bytes::ToolIcons()).value(), iconSide);
         for (int i = 0; i < static_cast<int>(cut.size()); ++i)
             HasFinerEdition(At(cut, i), [i] { return FineToolIconStrip(i); });
         return cut;
