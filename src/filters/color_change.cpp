@@ -51,9 +51,10 @@ ColorChange::ColorChange(Context& context)
     SetBoxes(picResult, colourPalettes[ownPalette].results);
     HScroll1.Bind(&ScrollBar::Change, [this](int index) { HScroll1_Change(index); });
     HScroll1.Bind(&ScrollBar::Scroll, [this](int index) { HScroll1_Change(index); });
-    for (ControlArray<PictureBox>* boxes : {&picTarget, &picResult})
+    for (ControlArray<PictureBox>* boxes : {&picTarget, &picResult}) {
         for (int i = boxes->First(); i <= boxes->Last(); ++i)
             (*boxes)[i].LetKeysPress();
+    }
     picTarget.Bind(&PictureBox::Click, [this](int index) { Box_Click(picTarget[index]); });
     picResult.Bind(&PictureBox::Click, [this](int index) { Box_Click(picResult[index]); });
     Combo1.Change = [this] { Combo1_Change(); };

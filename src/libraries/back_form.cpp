@@ -46,6 +46,7 @@ int CellAt(float x, float y) {
 
 std::vector<Rectangle> CellPlaces() {
     std::vector<Rectangle> places;
+    places.reserve(cellsARow);
     for (int cell = 0; cell < cellsARow; ++cell)
         places.push_back({static_cast<double>(cell * cellSide), 0, cellSide, cellSide});
     return places;

@@ -47,6 +47,7 @@ int ClipartAt(float x, float y) {
 
 std::vector<Rectangle> ThumbnailPlaces() {
     std::vector<Rectangle> places;
+    places.reserve(cliparts);
     for (int i = 0; i < cliparts; ++i)
         places.push_back({static_cast<double>(i * thumbnailWidth), 0, thumbnailWidth, thumbnailHeight});
     return places;
