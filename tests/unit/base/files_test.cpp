@@ -65,6 +65,12 @@ TEST(ReadFile, ClosesWhatItOpenedWhateverItsNumber) {
     EXPECT_TRUE(closed);
 }
 
+TEST(ReadFile, GivesNothingWhereReadingFails) {
+    const fs::path unreadable = "/proc/self/mem";  // nothing lies at address 0
+    if (!fs::exists(unreadable)) GTEST_SKIP() << "no /proc here";
+    EXPECT_EQ(Text(ReadFile(unreadable)), "(nothing)");
+}
+
 TEST(ReadFile, GivesNothingForWhatIsNoRegularFile) {
     const TemporaryFolder folder;
     fs::create_directory(folder / "folder");

@@ -6,7 +6,9 @@
 #include <QPainterPath>
 #include <QRawFont>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <string_view>
 
 namespace coinlet {
 namespace {
@@ -52,6 +54,14 @@ TEST(InFamily, GivesNothingForOtherFiles) {
     Bytes collection = font;
     collection[0] = 't', collection[1] = 't', collection[2] = 'c', collection[3] = 'f';
     EXPECT_FALSE(InFamily(collection, "New"));
+    // A directory that ends before its entry of the names.
+    Bytes shortened = font;
+    const std::string_view tag = "name";
+    std::uint8_t entries = 0;
+    while (!std::equal(tag.begin(), tag.end(), shortened.begin() + 12 + 16 * entries))
+        ++entries;
+    shortened[5] = entries;
+    EXPECT_FALSE(InFamily(shortened, "New"));
     // A directory that goes on beyond the end of the file, and one without names.
     Bytes nameless = font;
     nameless[5] = 255;

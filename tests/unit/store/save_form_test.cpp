@@ -254,6 +254,7 @@ TEST(SaveForm, ShowsThreeAndAHalfSecondsOfProgress) {
             captions.push_back(dialog.Label1.Caption);
             const int filled = 2 * (static_cast<int>(captions.size()) - 1);
             if (filled >= 299) return;
+            EXPECT_EQ(dialog.Bar.surface.Point(filled, 0), RGB(0, 240, 0));
             EXPECT_EQ(dialog.Bar.surface.Point(filled, 18), RGB(0, 240, 0));
             EXPECT_EQ(dialog.Bar.surface.Point(filled, 19), RGB(64, 0, 0));
             EXPECT_EQ(dialog.Bar.surface.Point(filled + 1, 0), filled < 298 ? RGB(64, 0, 0) : -1);
