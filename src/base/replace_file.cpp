@@ -176,8 +176,9 @@ private:
 }  // namespace
 
 FileCalls& SystemFileCalls() {
-    static RealFileCalls calls;
-    return calls;
+    // Never destroyed: where the toolkit ends the program by itself, work is kept after statics have gone.
+    static FileCalls* const calls = new RealFileCalls;
+    return *calls;
 }
 
 std::error_code ReplaceFile(const fs::path& path, std::span<const std::uint8_t> content, FileCalls& calls,

@@ -103,8 +103,9 @@ void SessionManager::Parts::Welcome(Parts& parts, unsigned long* mask, SmsCallba
     callbacks->register_client = {.callback = [](SmsConn member, SmPointer data, char* previous) -> Status {
                                       auto& self = *static_cast<Parts*>(data);
                                       std::free(previous);
-                                      // The member owns its name.
-                                      SmsRegisterClientReply(member, SmsGenerateClientID(member));
+                                      char* const name = SmsGenerateClientID(member);
+                                      SmsRegisterClientReply(member, name);  // takes a copy
+                                      std::free(name);
                                       self.members.push_back(member);
                                       // A newcomer is asked to save at once, to learn how it would be started
                                       // again.
