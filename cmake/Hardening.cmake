@@ -1,7 +1,8 @@
 # What makes a flaw in reading a file harmless instead of a way in: programs that load at a random place, tables of
 # functions that are read-only after the start, calls that know the size of their buffer, a guard before each return
 # address, and containers that stop the program at an index out of their range.
-# As parts of a program, not of a library: there each function could be replaced by another of its name, so that none
+
+# As parts of a program, not of a library: in that each function could be replaced by another of its name, so that none
 # is pulled into its callers, which costs lines and pixels up to a quarter.
 add_compile_options(-fPIE)
 add_link_options(-pie)

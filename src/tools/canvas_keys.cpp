@@ -30,7 +30,7 @@ CanvasKeys::CanvasKeys(Context& context, const GestureEngine& gestures)
 }
 
 void CanvasKeys::Pic_KeyDown(int code, int shift) {
-    if ((shift & (controlHeld | altHeld)) != 0) return;
+    if (!IsPlainKey(shift)) return;
     const bool withShift = (shift & shiftHeld) != 0;
     if (code == keySpace || (code == keyF10 && withShift)) Press(ButtonOfKey(code), shift);
     if (code == keyLeft) MoveBy(-1, 0, shift);

@@ -71,7 +71,7 @@ void FloatingClip::MoveTo(float left, double top) {
 
 bool FloatingClip::TakesKey(int code, int shift) {
     MainForm& main = context_.main;
-    if (!ImageFloats(context_) || (shift & (controlHeld | altHeld)) != 0) return false;
+    if (!ImageFloats(context_) || !IsPlainKey(shift)) return false;
     constexpr int step = 1, longStep = 10;
     const int pixels = (shift & shiftHeld) != 0 ? longStep : step;
     const auto by = [&](int columns, int rows) {
