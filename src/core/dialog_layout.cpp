@@ -4,7 +4,6 @@
 #include "controls/label.h"
 #include "controls/placing.h"
 #include "controls/vista_button.h"
-#include "core/dialog_layout.h"
 
 namespace coinlet {
 
