@@ -36,6 +36,11 @@ struct TextMask {
     std::vector<std::uint8_t> coverage;
 };
 
+/// What is looked at of a text: pixels from the point that it is drawn at, `right` and `bottom` excluded.
+struct TextWindow {
+    int left = 0, top = 0, right = 0, bottom = 0;
+};
+
 /// How the edges of letters are drawn.
 enum class Edges {
     Crisp,  ///< Each pixel is ink or not (0 or 255), so that a letter can be filled afterwards.
@@ -53,6 +58,13 @@ public:
     /// A text without ink gives a mask of no size.
     virtual TextMask Render(const FontSpec& font, std::string_view text, Edges edges,
                             double angle = 0) const = 0;
+
+    /// What Render gives, but of a text too large to be seen at once the mask may lack what lies outside
+    /// `window`: letters needn't cost more than what is seen of them, however large they are.
+    virtual TextMask RenderSeen(const FontSpec& font, std::string_view text, Edges edges, double angle,
+                                const TextWindow& /*window*/) const {
+        return Render(font, text, edges, angle);
+    }
 
     /// The names of the fonts that the screen offers, sorted, each once; "Arial" is always one of them.
     virtual std::vector<std::string> Families() const = 0;

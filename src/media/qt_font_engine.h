@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/windowed_fonts.h"
+#include "base/font.h"
 #include "media/added_fonts.h"
 #include "media/recent.h"
 
@@ -14,7 +14,7 @@ namespace coinlet {
 /// Fonts of the desktop, drawn by Qt. Needs a QGuiApplication, and is used by its thread alone.
 /// Buttons and labels print the same captions again and again, so the latest masks and measures are kept; of
 /// large texts only the last mask, since outlines and shadows print one text many times.
-class QtFontEngine final : public WindowedFonts {
+class QtFontEngine final : public FontEngine {
 public:
     TextExtent Measure(const FontSpec& font, std::string_view text) const override;
     TextMask Render(const FontSpec& font, std::string_view text, Edges edges,

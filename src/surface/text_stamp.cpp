@@ -1,7 +1,5 @@
 #include "surface/text_stamp.h"
 
-#include "base/windowed_fonts.h"
-
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -62,11 +60,8 @@ void StampText(Surface& target, const Lettering& lettering, int x, int y, const 
     const PixelRect bounds = Intersection(clip, {0, 0, target.PixelWidth(), target.PixelHeight()});
     if (bounds.Empty()) return;
     const auto& [font, text, edges, angle] = lettering;
-    const auto* windowed = dynamic_cast<const WindowedFonts*>(&target.Fonts());
-    StampMask(target,
-              windowed ? windowed->RenderSeen(font, text, edges, angle, WindowFrom(x, y, bounds))
-                       : target.Fonts().Render(font, text, edges, angle),
-              x, y, bounds);
+    StampMask(target, target.Fonts().RenderSeen(font, text, edges, angle, WindowFrom(x, y, bounds)), x, y,
+              bounds);
 }
 
 std::vector<std::string_view> DrawnLines(std::string_view text) {

@@ -4,7 +4,6 @@
 #include "designers/circel_text.h"
 
 #include "base/text.h"
-#include "base/windowed_fonts.h"
 #include "designers/rotated_text.h"
 #include "support/world.h"
 
@@ -18,7 +17,7 @@ namespace {
 
 /// A letter is a dot. A cell is as high as its font has points, and as wide as its letter comes in the
 /// alphabet. Keeps what was asked for.
-class DotFonts : public WindowedFonts {
+class DotFonts : public FontEngine {
 public:
     struct Asked {
         FontSpec font;
