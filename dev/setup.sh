@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing for building and running the program ("run"), also for its packages ("package"), for
-# its tests ("test"), or for making its pictures, fonts and manuals anew ("assets").
+# its tests ("test"), for its targets of libFuzzer ("fuzz"), or for making its pictures, fonts and manuals anew ("assets").
 # Changes nothing when all is there.
 set -euo pipefail
 
@@ -11,6 +11,7 @@ run_packages+=("${display_fonts[@]}")
 package_packages=(dpkg-dev)
 test_packages=("${package_packages[@]}" lintian appstream desktop-file-utils
     libgtest-dev libbenchmark-dev libxcb1-dev libxcb-xtest0-dev libsm-dev xvfb xauth xdotool clang-format clang-tidy)
+fuzz_packages=("${test_packages[@]}" clang libclang-rt-14-dev llvm)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
     poppler-utils weasyprint faketime)
 
@@ -18,6 +19,7 @@ packages=("${run_packages[@]}")
 case "${1:-run}" in
     package) packages+=("${package_packages[@]}") ;;
     test) packages+=("${test_packages[@]}") ;;
+    fuzz) packages+=("${fuzz_packages[@]}") ;;
     assets) packages+=("${test_packages[@]}" "${assets_packages[@]}") ;;
 esac
 

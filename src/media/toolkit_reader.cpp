@@ -22,9 +22,10 @@ Pixel OnWhite(QRgb pixel) {
 }  // namespace
 
 QImage ReadByToolkit(std::span<const std::uint8_t> bytes, const char* format) {
-    // The reader's own limit is told in whole megabytes, above which it reads nothing.
-    constexpr int limit = static_cast<int>(maximumPictureBytes >> 20);
-    if (QImageReader::allocationLimit() < limit) QImageReader::setAllocationLimit(limit);
+    // A reader may make a larger picture than it tells beforehand. Its own limit is in whole megabytes.
+    constexpr std::size_t megabyte = std::size_t{1} << 20;
+    QImageReader::setAllocationLimit(
+        static_cast<int>((BytesWorthDecoding(bytes.size()) + megabyte - 1) / megabyte));
 
     QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                               static_cast<qsizetype>(bytes.size()));
@@ -35,7 +36,7 @@ QImage ReadByToolkit(std::span<const std::uint8_t> bytes, const char* format) {
     const QSize size = reader.size();
     if (size.isEmpty() || !IsWorthDecoding(size.width(), size.height(), bytes.size())) return {};
     QImage picture = reader.read();
-    return IsPictureSize(picture.width(), picture.height()) ? picture : QImage();
+    return IsWorthDecoding(picture.width(), picture.height(), bytes.size()) ? picture : QImage();
 }
 
 std::optional<Image> DecodeToolkitBytes(std::span<const std::uint8_t> bytes, const char* format) {

@@ -16,6 +16,9 @@ namespace coinlet {
 /// megabyte has more than 24 million pixels but to cost time and memory. `width` and `height` are what its
 /// header says, `fileSize` is in bytes. To be asked before anything is decoded.
 bool IsWorthDecoding(long long width, long long height, std::size_t fileSize);
+/// The memory that pictures worth decoding take, in bytes, for readers that make their picture before they
+/// tell its size.
+std::size_t BytesWorthDecoding(std::size_t fileSize);
 
 /// Decodes and encodes the picture formats that libraries serve.
 class PictureCodecs {

@@ -33,10 +33,14 @@ bool StartsWith(std::span<const std::uint8_t> bytes, std::string_view start) {
 
 }  // namespace
 
+std::size_t BytesWorthDecoding(std::size_t fileSize) {
+    constexpr std::size_t smallFile = 1'000'000, mostPixelsOfSmallFile = 24'000'000;
+    return fileSize >= smallFile ? maximumPictureBytes : mostPixelsOfSmallFile * sizeof(Pixel);
+}
+
 bool IsWorthDecoding(long long width, long long height, std::size_t fileSize) {
-    constexpr std::size_t smallFile = 1'000'000;
-    constexpr long long mostPixelsOfSmallFile = 24'000'000;
-    return IsPictureSize(width, height) && (fileSize >= smallFile || width * height <= mostPixelsOfSmallFile);
+    return IsPictureSize(width, height) &&
+           static_cast<std::size_t>(width * height) * sizeof(Pixel) <= BytesWorthDecoding(fileSize);
 }
 
 std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {

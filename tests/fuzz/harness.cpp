@@ -1,5 +1,7 @@
 #include "fuzz/harness.h"
 
+#include "fuzz/mutate.h"
+
 #include <cstdio>
 #include <cstdlib>
 

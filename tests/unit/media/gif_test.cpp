@@ -135,6 +135,18 @@ TEST(DecodeGif, ReadsAPictureAsWideAsGifsAre) {
     EXPECT_EQ(image->At(40000, 1), black);
 }
 
+TEST(DecodeGif, AScreenOfNoSizeEndsWithItsFrame) {
+    const GifBytes gif{.width = 0, .height = 0, .frames = {{1, 0, 2, 1, {1, 2}}}};
+    EXPECT_EQ(Decoded(gif.File()), (Rows{{0, red, green}}));
+}
+
+TEST(DecodeGif, RefusesAFrameThatLiesFarOutOfItsScreen) {
+    for (const int side : {0, 2010}) {  // A screen that is far larger than its frame isn't believed, either.
+        const GifBytes gif{.width = side, .height = side, .frames = {{7999, 7999, 1, 1, {1}}}};
+        EXPECT_FALSE(DecodeGifBytes(gif.File())) << side;
+    }
+}
+
 TEST(DecodeGif, RefusesWhatIsFarLargerThanItsFile) {
     for (const auto& [width, height] : {std::pair{8192, 8192}, {6000, 4001}, {16384, 1465}}) {
         // The frame may be small, or as large as the screen.
