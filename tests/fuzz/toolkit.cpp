@@ -29,7 +29,9 @@ void StartToolkit() {
 
 /// What the desktop's list of fonts loses when fonts are taken out of it is no loss of ours: the program
 /// takes none out. The name is that which the leak sanitizer asks for.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() {
     return "leak:libfontconfig";
 }
+// NOLINTEND(bugprone-reserved-identifier)

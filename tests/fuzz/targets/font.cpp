@@ -9,7 +9,9 @@
 
 #include <QFontDatabase>
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace coinlet::test {
 namespace {
@@ -40,16 +42,26 @@ public:
 
     Outcome Print(File file) {
         Forget();
-        if (const std::string wrong = FaultOfRenamed(file); !wrong.empty()) return {true, wrong};
+        if (std::string wrong = FaultOfRenamed(file); !wrong.empty()) return {true, std::move(wrong)};
         const auto* const text = reinterpret_cast<const char*>(file.data());
         const auto path = folder_.Write("font.ttf", std::string_view(text, file.size()));
         const std::string family = fonts_->AddFontFile(path);
         if (family.empty()) return {};
         if (fonts_->AddFontFile(path) != family) return {true, "added again, it has another name"};
+        if (fonts_->KnownAs("Another Name") != "Another Name") return {true, "it has another name, too"};
+        if (!Lists(family)) return {true, "the list of fonts hasn't got it"};
         return {true, FaultOfPrints(family)};
     }
 
 private:
+    /// The list is long, and every font adds to it: only some fonts are looked for.
+    bool Lists(const std::string& family) const {
+        constexpr std::size_t often = 16;
+        if (files_ % often != 1) return true;
+        const auto families = fonts_->Families();
+        return std::ranges::find(families, family) != families.end();
+    }
+
     std::string FaultOfPrints(const std::string& family) const {
         struct Way {
             double size;
@@ -62,7 +74,7 @@ private:
             const FontSpec font{.name = family, .size = way.size};
             const TextExtent extent = fonts_->Measure(font, text);
             if (extent.height < 0 || extent.width < 0) return "a line of negative size";
-            const std::string wrong = FaultOfMask(fonts_->Render(font, text, way.edges, way.angle));
+            std::string wrong = FaultOfMask(fonts_->Render(font, text, way.edges, way.angle));
             if (!wrong.empty()) return wrong;
         }
         return "";

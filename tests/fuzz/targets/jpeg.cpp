@@ -4,8 +4,27 @@
 #include "fuzz/judged_picture.h"
 #include "fuzz/targets/targets.h"
 
+#include <turbojpeg.h>
+
 namespace coinlet::test {
 namespace {
+
+/// A JPEG as other programs write them.
+Bytes Foreign(TJPF pixels, TJSAMP sampling, int flags) {
+    constexpr int width = 21, height = 18, quality = 70;
+    std::vector<unsigned char> bytes(static_cast<std::size_t>(width * height * tjPixelSize[pixels]));
+    std::uint32_t value = 0;
+    for (unsigned char& byte : bytes)
+        byte = static_cast<unsigned char>((value += 40503) >> 8);
+    const tjhandle codec = tjInitCompress();
+    unsigned char* buffer = nullptr;
+    unsigned long size = 0;
+    tjCompress2(codec, bytes.data(), width, 0, height, pixels, &buffer, &size, sampling, quality, flags);
+    Bytes file(buffer, buffer + size);
+    tjFree(buffer);
+    tjDestroy(codec);
+    return file;
+}
 
 std::vector<Bytes> Jpegs() {
     Bitmap bitmap(19, 13);
@@ -13,7 +32,9 @@ std::vector<Bytes> Jpegs() {
     for (Pixel& pixel : bitmap.Pixels())
         pixel = spareByte | (colour += 40503);
     const Image image(std::move(bitmap));
-    std::vector<Bytes> files;
+    std::vector<Bytes> files{Foreign(TJPF_GRAY, TJSAMP_GRAY, 0), Foreign(TJPF_CMYK, TJSAMP_444, 0),
+                             Foreign(TJPF_RGB, TJSAMP_420, TJFLAG_PROGRESSIVE),
+                             Foreign(TJPF_RGB, TJSAMP_411, 0)};
     for (const int quality : {5, 60, 100})
         if (auto bytes = EncodeJpegBytes(image, quality)) files.push_back(*std::move(bytes));
     return files;
