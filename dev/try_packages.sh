@@ -11,7 +11,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 deb=$(dev/package.sh deb "$@")
 archive=$(dev/package.sh tar "$@")
-libraries=(libqt6widgets6 libqt6printsupport6 libturbojpeg0)
+libraries=(libqt6widgets6 libqt6printsupport6 libturbojpeg0 libxcb-cursor0)
 
 work=$(mktemp -d)
 screen=

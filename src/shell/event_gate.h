@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/platform.h"
+#include "shell/busy_watch.h"
 
 #include <QObject>
 #include <QPointer>
@@ -28,15 +29,16 @@ void EndAtFault(Handler& handler) {
 /// windows are made equal to the forms.
 class EventGate {
 public:
-    /// `mirror` makes all windows equal to their forms.
-    EventGate(Platform& platform, std::function<void()> mirror)
-        : platform_(platform), mirror_(std::move(mirror)) {}
+    /// `mirror` makes all windows equal to their forms; `busy` is told of the work that events make.
+    EventGate(Platform& platform, std::function<void()> mirror, BusyWatch& busy)
+        : platform_(platform), mirror_(std::move(mirror)), busy_(busy) {}
 
     /// Runs a handler and mirrors. What widgets report because they are being mirrored is no event, and after
     /// the end of the program there are none: both are passed over.
     template <std::invocable Handler>
     void Enter(Handler handler) {
         if (mirroring_ || platform_.Ended()) return;
+        const BusyWatch::Work work(busy_);
         ++depth_;
         try {
             EndAtFault(handler);
@@ -78,6 +80,7 @@ private:
 
     Platform& platform_;
     std::function<void()> mirror_;
+    BusyWatch& busy_;
     bool mirroring_ = false;
     int depth_ = 0;
     std::vector<QPointer<QObject>> retired_;

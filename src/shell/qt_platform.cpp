@@ -6,6 +6,7 @@
 #include "shell/dialogs.h"
 #include "shell/form_window.h"
 #include "shell/menu_view.h"
+#include "shell/x11_busy_sign.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -22,8 +23,7 @@ namespace coinlet {
 /// While it lives, the focus comes and goes within the program: nothing is activated by that.
 class QtPlatform::OwnDialog {
 public:
-    explicit OwnDialog(QtPlatform& platform) : platform_(platform) {
-        platform_.Mirror();
+    explicit OwnDialog(QtPlatform& platform) : platform_(Mirrored(platform)), pause_(platform.busy_) {
         ++platform_.ownDialogs_;
     }
     ~OwnDialog() {
@@ -34,10 +34,19 @@ public:
     OwnDialog& operator=(const OwnDialog&) = delete;
 
 private:
+    static QtPlatform& Mirrored(QtPlatform& platform) {
+        platform.Mirror();
+        return platform;
+    }
+
     QtPlatform& platform_;
+    BusyWatch::Pause pause_;
 };
 
-QtPlatform::QtPlatform() : gate_(*this, [this] { MirrorAll(); }) {
+QtPlatform::QtPlatform()
+    : busy_(X11BusySign()),
+      gate_(
+          *this, [this] { MirrorAll(); }, busy_) {
     DescribeControls();
     ReadScreen();
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &connections_,
@@ -114,6 +123,7 @@ void QtPlatform::FormLoaded(Form& form) {
         windows_.push_back(window);
         window->Open();
     });
+    busy_.WindowsChanged();
 }
 
 void QtPlatform::FormUnloaded(Form& form) {
@@ -143,12 +153,14 @@ void QtPlatform::ServeEvents() {
                 window->SyncElements();
         });
     }
+    const BusyWatch::Pause pause(busy_);
     QCoreApplication::processEvents();
 }
 
 void QtPlatform::ServeEventsFor(double seconds) {
     constexpr double longest = 86400;
     gate_.Mirror();
+    const BusyWatch::Pause pause(busy_);
     QEventLoop loop;
     const auto milliseconds = static_cast<int>(std::ceil(std::min(seconds, longest) * 1000));
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/platform.h"
+#include "shell/busy_watch.h"
 #include "shell/event_gate.h"
 #include "shell/frame_pace.h"
 #include "shell/pointer_warps.h"
@@ -75,6 +76,7 @@ private:
     void FrontComesBack();
     void StateChanged(Qt::ApplicationState state);
 
+    BusyWatch busy_;
     EventGate gate_;
     QObject connections_;
     std::vector<FormWindow*> windows_;  ///< The last one is in front.

@@ -24,5 +24,5 @@ server=$!
 read -r display <"$folder/display" || { cat "$folder/log" >&2; exit 1; }
 
 # Nothing of the desktop that the tests are started on plays a part in them.
-unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE
-DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none XDG_RUNTIME_DIR="$folder" "$@"
+unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE XCURSOR_THEME XCURSOR_SIZE
+DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none XCURSOR_PATH="$folder" XDG_RUNTIME_DIR="$folder" "$@"
