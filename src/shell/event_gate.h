@@ -72,6 +72,13 @@ public:
         }
     }
 
+    /// Ends an object at once: no handler runs that an event to it may have started, though others may.
+    void End(QObject* object) {
+        delete object;
+        // What lay in it is gone too.
+        std::erase_if(retired_, [](const auto& one) { return one.isNull(); });
+    }
+
 private:
     void EndRetired() {
         for (const auto& object : std::exchange(retired_, {}))

@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QStyleFactory>
 #include <QToolTip>
 
@@ -118,6 +119,10 @@ void ApplyLook() {
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+    // The style keeps pictures of bars and boxes for the single one that they were painted for. Those of
+    // closed dialogs are of no more use, and would fill five times as much.
+    constexpr int keptPictures = 2048;  // Kilobytes.
+    QPixmapCache::setCacheLimit(keptPictures);
 }
 
 QPalette FieldPalette(Colour text, Colour ground) {

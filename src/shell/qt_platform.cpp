@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEventLoop>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -139,9 +140,13 @@ void QtPlatform::FormUnloaded(Form& form) {
 void QtPlatform::RunModal(Form& dialog) {
     const OwnDialog guard(*this);
     QEventLoop loop;
+    const QPointer<FormWindow> window = WindowOf(dialog);
     loops_.push_back({&dialog, &loop});
     loop.exec();
     loops_.pop_back();
+    // All events to its window came in this loop. The handler that showed it may go on for long, and others
+    // may come in the meantime: none of them is to wait for with the window.
+    if (window && !window->Shown()) gate_.End(window);
 }
 
 void QtPlatform::ServeEvents() {

@@ -38,6 +38,7 @@ pid_t Spawn(const std::vector<std::string>& command, const std::vector<std::stri
             int third = -1) {
     const auto pointers = [](const std::vector<std::string>& texts) {
         std::vector<char*> words;
+        words.reserve(texts.size() + 1);
         for (const std::string& text : texts)
             words.push_back(const_cast<char*>(text.c_str()));
         words.push_back(nullptr);
@@ -99,8 +100,7 @@ void Seat::StartScreen() {
 }
 
 void Seat::Start() {
-    // Where nothing lies that changes under the pointer.
-    MoveTo(1108, 738);
+    MoveAway();
     WaitFor([&] { return Windows().empty(); }, "empty screen");
     process_ = Spawn({program_.string(), "--folder", Application().string()},
                      {searchPath, "DISPLAY=" + display_, "HOME=" + (folder_ / "home").string(),
@@ -160,9 +160,10 @@ std::uint8_t Seat::CodeOf(std::uint32_t keysym) const {
                                        nullptr));
     if (!mapping) throw std::runtime_error("no keyboard");
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
-    for (int code = 0; code < count; ++code)
-        if (symbols[code * mapping->keysyms_per_keycode] == keysym)
-            return static_cast<std::uint8_t>(first + code);
+    const std::ptrdiff_t symbolsOfAKey = mapping->keysyms_per_keycode;
+    for (int code = 0; code < count; ++code) {
+        if (symbols[code * symbolsOfAKey] == keysym) return static_cast<std::uint8_t>(first + code);
+    }
     throw std::runtime_error("no such key");
 }
 
@@ -191,7 +192,21 @@ void Seat::ChooseByKeys(int menu, int entry) const {
     for (int i = 0; i < (menu == 0 ? entry + 1 : entry); ++i)
         Key(downKey);
     Key(enterKey);
-    MoveTo(1108, 738);
+    MoveAway();
+}
+
+void Seat::ChooseByKeys(const MenuItem& entry) const {
+    int menu = 0;
+    for (const Element* const element : form_.Elements()) {
+        const auto* const one = dynamic_cast<const MenuItem*>(element);
+        if (one == entry.Parent()) break;
+        if (one && !one->Parent() && one->Visible) ++menu;
+    }
+    const auto& entries = entry.Parent()->Entries();
+    const auto before = std::ranges::count_if(
+        entries.begin(), std::ranges::find(entries, &entry),
+        [](const MenuItem* one) { return one->Visible && one->Enabled && !one->IsSeparator(); });
+    ChooseByKeys(menu, static_cast<int>(before));
 }
 
 std::vector<Seat::Window> Seat::Windows() const {

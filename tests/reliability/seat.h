@@ -38,8 +38,11 @@ public:
     void Send(int signal) const;
     /// Kills the program, or waits for it if it has ended meanwhile.
     void Kill();
+    pid_t Process() const { return process_; }
 
     void MoveTo(int x, int y) const;
+    /// To where nothing lies that changes under the pointer.
+    void MoveAway() const { MoveTo(1108, 738); }
     void Press() const;
     /// Returns when the window system has it.
     void Release() const;
@@ -50,6 +53,8 @@ public:
     void Type(std::string_view letters) const;
     /// Takes an entry of a menu of the main window by keys. Both count from 0, what can't be chosen left out.
     void ChooseByKeys(int menu, int entry) const;
+    /// The same for an entry of the main form that lies in a menu of its menu bar.
+    void ChooseByKeys(const MenuItem& entry) const;
 
     struct Window {
         std::uint32_t id = 0;

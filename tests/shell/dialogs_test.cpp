@@ -227,6 +227,31 @@ TEST_F(Windows, DialogCanUnloadItselfInsideANestedWait) {
     });
 }
 
+TEST_F(Windows, NoClosedDialogIsKeptWhileTheHandlerThatShowedItGoesOn) {
+    constexpr int openings = 4;
+    int waiting = 0, windows = 0;
+    form.OkKnop.Click = [&] {
+        SmallDialog dialog(services);
+        platform.ShowModal(dialog);
+        // He opens the next one meanwhile.
+        ++waiting;
+        platform.Wait(waiting < openings ? 3600 : 0);
+    };
+    Run(form, [&](User& user) {
+        for (int i = 1; i <= openings; ++i) {
+            user.Click(form.OkKnop, 40, 14);
+            EXPECT_TRUE(user.Sees([&] { return platform.FrontForm()->Name() == "Small"; }));
+            user.Key("Escape");
+            EXPECT_TRUE(user.Sees([&] { return waiting == i; }));
+        }
+        user.Has([&] {
+            for (const QWidget* widget : QApplication::topLevelWidgets())
+                if (dynamic_cast<const FormWindow*>(widget)) ++windows;
+            EXPECT_EQ(windows, 1);
+        });
+    });
+}
+
 TEST_F(Windows, MessageBoxIsAnsweredByKeys) {
     std::vector<Answer> answers;
     const Message question{"Delete it?", "Question", MessageButtons::YesNo, MessageIcon::Question,

@@ -104,6 +104,7 @@ public:
     }
     std::vector<std::string> Rows() const {
         std::vector<std::string> rows;
+        rows.reserve(static_cast<std::size_t>(main.List2.ListCount()));
         for (int i = 0; i < main.List2.ListCount(); ++i)
             rows.push_back(main.List2.List(i));
         return rows;
