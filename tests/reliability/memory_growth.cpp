@@ -3,9 +3,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 namespace coinlet::test {
@@ -16,6 +18,25 @@ std::size_t ResidentBytes(pid_t process) {
     if (!(file >> all >> resident)) throw std::runtime_error("the program is gone");
     return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
+
+namespace {
+
+/// Waits until the process waits for something. What it has just done may still be on its way out of memory.
+void WaitForRest(pid_t process) {
+    using namespace std::chrono_literals;
+    if (process == ::getpid()) return;
+    constexpr int looks = 4;  // One alone could fall on an answer of the screen.
+    for (int atRest = 0; atRest < looks; std::this_thread::sleep_for(5ms)) {
+        std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+        std::string line;
+        std::getline(file, line);
+        const std::size_t name = line.rfind(')');
+        if (name == std::string::npos) throw std::runtime_error("the program is gone");
+        atRest = line.compare(name, 3, ") S") == 0 ? atRest + 1 : 0;
+    }
+}
+
+}  // namespace
 
 MemoryGrowth::MemoryGrowth(std::string what, pid_t process, int settled, int times)
     : what_(std::move(what)), process_(process), settled_(settled), times_(times), start_(Megabytes()) {
@@ -38,6 +59,7 @@ void MemoryGrowth::Done() {
     constexpr int rows = 10;
     const bool isRow = done_ == 1 || done_ == settled_ || done_ % std::max(1, times_ / rows) == 0;
     if (!isRow && done_ != times_) return;
+    WaitForRest(process_);
     last_ = Megabytes();
     if (done_ == settled_) atRest_ = last_;
     PrintRow(last_);

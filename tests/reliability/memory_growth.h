@@ -18,7 +18,7 @@ public:
     /// `what` is what he does, for the table that is printed meanwhile: a row for each tenth of the times.
     MemoryGrowth(std::string what, pid_t process, int settled, int times);
 
-    /// He did it once more, and the program is at rest.
+    /// He did it once more.
     void Done();
     /// Prints what came of it, with a reason if it is no good; true if memory grew by less than it may. False
     /// too if he didn't do it `times` times.
