@@ -49,6 +49,7 @@ struct Application::House {
         gestures.Add(EmptyBandTools(flipMenuTool, flipMenuTool));
         gestures.Add(EmptyBandTools(aboutTool, firstShapeTool - 1));
         BindDialogs(context, strip);
+        BindCanvasKeys(context);
         main.SpareKey = [this](int code, int shift) {
             if (code == keyShift) gestures.ShiftTurned(true);
             return clip.TakesKey(code, shift) || incoming.TakesKey(code, shift) ||
@@ -79,7 +80,6 @@ struct Application::House {
     TextTool text{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
-    CanvasKeys canvasKeys{context, gestures};
     FloatingClip clip{context};
     IncomingPictures incoming{context};
     FlipMenu flips{context};

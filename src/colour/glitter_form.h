@@ -3,6 +3,7 @@
 #include "controls/form.h"
 #include "controls/label.h"
 #include "controls/picture_box.h"
+#include "controls/pointed_picture.h"
 #include "controls/scroll_bar.h"
 #include "controls/shapes.h"
 #include "controls/vista_button.h"
@@ -22,7 +23,7 @@ public:
     Label Label1{*this, "Label1"};                                 ///< What to do here.
     Shape Shape1{*this, "Shape1"};                                 ///< The edge of the frame.
     PictureBox PicCont{*this, "PicCont"};                          ///< The frame, which clips the chart.
-    PictureBox SlidePic{PicCont, "SlidePic"};                      ///< The chart.
+    PointedPicture SlidePic{PicCont, "SlidePic"};                      ///< The chart.
     ScrollBar VScroll{*this, "VScroll", Orientation::Vertical};    ///< How far the chart is moved up.
     ScrollBar HScroll{*this, "HScroll", Orientation::Horizontal};  ///< How far it is moved to the left.
     VistaButton ExitKnop{*this, "ExitKnop"};

@@ -53,6 +53,9 @@ public:
     /// The control that the user's last key went to, or nullptr if he has pressed a button of the pointer
     /// since, or none had the focus.
     Control* KeyedControl() const { return keyed_; }
+    /// What pops up until the user's next key or press stands at this control, as if the last key had gone to
+    /// it: a key that the form took did what the control does.
+    void StandPopupsAt(Control& control) { keyed_ = &control; }
     /// True while the user holds a button of the pointer that went down over a control of the form, or a key
     /// in its place.
     bool PointerHeld() const { return heldButtons_ != 0 || ButtonsHeldByKeys != 0; }

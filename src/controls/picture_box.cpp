@@ -12,11 +12,6 @@ namespace coinlet {
 PictureBox::PictureBox(Container& container, std::string_view name, int index)
     : Control(container, name, index, ControlKind::PictureBox), surface(OwnerForm().Fonts(), 0, 0) {}
 
-void PictureBox::LetHaveFocus() {
-    MakeFocusable();
-    TabStop = false;
-}
-
 void PictureBox::SetPressPlaces(std::vector<Rectangle> places) {
     places_ = std::move(places);
     place_ = places_.empty() ? -1 : 0;

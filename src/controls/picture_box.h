@@ -51,9 +51,6 @@ public:
     /// The one that the user is at, from 0, or -1 without any.
     int PlaceNumber() const { return place_; }
 
-    /// Lets code give it the focus. No press gives it, and no tab key while `TabStop` is false, as it is.
-    void LetHaveFocus();
-
     float PointerUnitsPerPixel() const override;
     PressPlace KeyPressPlace() const override;
     bool WantsKey(int code, int shift) const override;

@@ -17,16 +17,6 @@ namespace coinlet {
 
 namespace {
 
-/// Where a control's name comes from: a text of the language table, or the caption of a label of the form,
-/// which in an array is the one of the same index.
-struct NamedControl {
-    std::string_view form, control;
-    std::string_view key;
-    std::string_view label;
-    bool numbered = false;  ///< In an array: the number behind the name, from 1.
-    int index = noIndex;    ///< The one of an array that is meant, if not each.
-};
-
 constexpr NamedControl names[] = {
     {"Main", "Bar", key::progressName, {}},
     {"Main", "List1", key::picturesName, {}},
@@ -136,6 +126,10 @@ std::string CaptionOf(const Form& form, std::string_view label, int index) {
 }
 
 }  // namespace
+
+std::span<const NamedControl> NamedControls() {
+    return names;
+}
 
 std::string AccessibleNames::NameOf(const Control& control) const {
     const Form& form = control.OwnerForm();

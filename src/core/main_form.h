@@ -10,6 +10,7 @@
 #include "controls/list_box.h"
 #include "controls/menu.h"
 #include "controls/picture_box.h"
+#include "controls/pointed_picture.h"
 #include "controls/scroll_bar.h"
 #include "controls/shapes.h"
 #include "controls/text_box.h"
@@ -59,7 +60,7 @@ public:
     LineShape Line2{TopPic, "Line2"};
     PictureBox HoekPic{Frame2, "HoekPic"};      ///< The corner between the rulers.
     VistaButton HoekKnop{HoekPic, "HoekKnop"};  ///< Ways of pasting what floats.
-    PictureBox Pic{Frame2, "Pic"};              ///< The canvas: the design.
+    PointedPicture Pic{Frame2, "Pic"};          ///< The canvas: the design.
     LineShape Line3{Pic, "Line3"};              ///< The cross lines.
     LineShape Line4{Pic, "Line4"};
     Shape Gom{Pic, "Gom"};                        ///< The eraser under the pointer.

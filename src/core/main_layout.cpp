@@ -96,8 +96,7 @@ void LayOutCanvas(MainForm& main) {
     main.Pic.Move(canvasLeft, canvasTop, canvasTwips, canvasTwips);
     main.Pic.FixedBitmap = true;
     main.Pic.MousePointer = toolPointer;
-    main.Pic.LetHaveFocus();
-    main.Pic.TabStop = true;
+    main.Pic.FocusRing = false;
     // A pixel of the board stays free between canvas and side panel.
     const double frameLeft = rulersLeft - main.LabelPic.Left() - twipsPerPixel;
     const double frameTop = rulersTop - main.LabelPic.Top() - twipsPerPixel;

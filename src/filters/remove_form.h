@@ -4,6 +4,7 @@
 #include "controls/form.h"
 #include "controls/label.h"
 #include "controls/picture_box.h"
+#include "controls/pointed_picture.h"
 #include "controls/shapes.h"
 #include "controls/timer.h"
 #include "controls/vista_button.h"
@@ -20,7 +21,7 @@ public:
     explicit RemoveForm(Context& context);
 
     ControlArray<Shape> Shape1{*this, "Shape1", 0, 2};  ///< Edges of the pictures.
-    PictureBox Pic{*this, "Pic"};                       ///< The working copy.
+    PointedPicture Pic{*this, "Pic"};                       ///< The working copy.
     Label Label2{*this, "Label2"};                      ///< What to do here.
     Label ColorLabel{*this, "ColorLabel"};              ///< The colour under the pointer.
     Label Label3{*this, "Label3"};                      ///< What ColorLabel is.

@@ -5,6 +5,7 @@
 #include "controls/form.h"
 #include "controls/label.h"
 #include "controls/picture_box.h"
+#include "controls/pointed_picture.h"
 #include "controls/scroll_bar.h"
 #include "controls/shapes.h"
 #include "controls/vista_button.h"
@@ -34,7 +35,7 @@ public:
     ComboBox Combo2{*this, "Combo2"};             ///< Size of the symbols in points.
     Label Label4{*this, "Label4"};                ///< The panel behind the strip.
     Shape Shape1{*this, "Shape1"};                ///< Edge of the picture.
-    PictureBox Pic{*this, "Pic"};                 ///< The part of the strip that the slider is at.
+    PointedPicture Pic{*this, "Pic"};                 ///< The part of the strip that the slider is at.
     Shape Layer{Pic, "Layer"};                    ///< The box around what will be handed over.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< The strip's first column on show.
     VistaButton ExportKnop{*this, "ExportKnop"};

@@ -13,6 +13,13 @@ namespace {
 constexpr Colour ringColour = RGB(60, 127, 177);
 constexpr int ringWidth = 2;
 
+/// What is larger than the widget that it lies in, which shows a part of it as large as itself.
+bool IsShownInPart(const QWidget& widget) {
+    const QWidget* outer = widget.parentWidget();
+    return !widget.isWindow() && outer &&
+           (widget.width() > outer->width() || widget.height() > outer->height());
+}
+
 }  // namespace
 
 void FocusRing::Surround(QWidget* widget) {
@@ -20,6 +27,8 @@ void FocusRing::Surround(QWidget* widget) {
         if (ring_) ring_->hide();
         return;
     }
+    while (IsShownInPart(*widget))
+        widget = widget->parentWidget();
     if (!ring_) {
         auto* ring = new PaintedWidget(widget->parentWidget());
         ring->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -5,6 +5,7 @@
 #include "controls/menu.h"
 #include "controls/name_giver.h"
 #include "controls/picture_box.h"
+#include "controls/pointed_picture.h"
 #include "shell/device_pixels.h"
 #include "shell/event_gate.h"
 #include "shell/key_events.h"
@@ -59,6 +60,8 @@ bool NeedsRing(const Control& control) {
         case ControlKind::Label:
             return true;
         case ControlKind::PictureBox:
+            if (const auto* pointed = dynamic_cast<const PointedPicture*>(&control))
+                return pointed->FocusRing;
             return control.KeysPress() && static_cast<const PictureBox&>(control).PressPlaces().empty();
         default:
             return false;
@@ -260,6 +263,12 @@ void FormWindow::MirrorFocus() {
     // What is under the pointer stays there while the user works on it.
     constexpr int around = 8;
     if (!form_->PointerHeld()) area_->ensureWidgetVisible(wanted, around, around);
+}
+
+void FormWindow::BringIntoSight(const ControlView& view, const QPoint& place) {
+    constexpr int around = 20;
+    const QPoint onFace = view.Widget().mapTo(face_, place);
+    area_->ensureVisible(onFace.x(), onFace.y(), around, around);
 }
 
 void FormWindow::Detach() {

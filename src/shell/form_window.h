@@ -44,6 +44,8 @@ public:
 
     Form* Shown() const { return form_; }
     ControlView* ViewOf(const Control& control) const;
+    /// Scrolls, if it must, until a place of a control's widget is seen.
+    void BringIntoSight(const ControlView& view, const QPoint& place);
     QMenu* PopupOf(const MenuItem& menu) const { return menus_.PopupOf(menu); }
 
 protected:

@@ -7,6 +7,7 @@
 #include "shell/event_gate.h"
 #include "shell/qt_text.h"
 
+#include <QAccessible>
 #include <QKeySequence>
 #include <QMenuBar>
 #include <QShortcut>
@@ -118,6 +119,7 @@ bool MenuView::Mirror() {
     for (Entry& entry : entries_) {
         const MenuItem& item = *entry.item;
         const Look look{item.Checked, item.Enabled, item.Visible};
+        const bool ticked = entry.look.checked != look.checked;
         const bool shortcutChanged = Differs(entry.shortcut, item.Shortcut);
         // A choice toggles the mark of a checked entry by itself.
         const bool lookChanged = Differs(entry.look, look) || entry.action->isChecked() != look.checked;
@@ -129,8 +131,20 @@ bool MenuView::Mirror() {
         entry.action->setChecked(look.checked);
         entry.action->setEnabled(look.enabled);
         entry.action->setVisible(look.visible);
+        if (ticked) AnnounceTick(entry);
     }
     return changed;
+}
+
+/// The toolkit itself says nothing of it.
+void MenuView::AnnounceTick(const Entry& entry) const {
+    QMenu* menu = entry.item->Parent() ? PopupOf(*entry.item->Parent()) : nullptr;
+    if (!menu || !QAccessible::isActive()) return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(menu, changed);
+    event.setChild(static_cast<int>(menu->actions().indexOf(entry.action)));
+    QAccessible::updateAccessibility(&event);
 }
 
 void MenuView::Detach() {

@@ -202,11 +202,12 @@ void QtPlatform::ShowPopup(MenuItem& menu, const Control* at) {
 }
 
 void QtPlatform::MovePointer(const Control& control, float x, float y) {
-    const FormWindow* window = WindowOf(control.OwnerForm());
+    FormWindow* window = WindowOf(control.OwnerForm());
     const ControlView* view = window ? window->ViewOf(control) : nullptr;
     if (!view) return;
     const float unit = control.PointerUnitsPerPixel();
     const QPoint place(static_cast<int>(std::floor(x / unit)), static_cast<int>(std::floor(y / unit)));
+    window->BringIntoSight(*view, place);
     warps_.MoveTo(view->Widget().mapToGlobal(place));
 }
 

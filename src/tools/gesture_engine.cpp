@@ -63,8 +63,6 @@ void GestureEngine::Pic_MouseDown(int button, int /*shift*/, float x, float y) {
 
 void GestureEngine::Pic_MouseMove(int button, int shift, float x, float y) {
     MainForm& main = context_.main;
-    // A key may hold the button while the pointer itself moves.
-    if (button == noButton) button = main.ButtonsHeldByKeys;
     pointer_ = {x, y};
     leftHeld_ = button == leftButton;
     Session& session = context_.session;

@@ -50,8 +50,6 @@ public:
     void Add(ToolFamily family) { families_.push_back(std::move(family)); }
     /// What a release does while a text hangs on the pointer; no other step runs then.
     std::function<void(GesturePoint)> placeText;
-    /// Where the pointer was when it was last told of, in canvas pixels.
-    GesturePoint Pointer() const { return pointer_; }
     /// The Shift key went down or came up: the preview of what is being drawn follows at once.
     void ShiftTurned(bool held);
     /// Runs at the end of each release, whatever it did.

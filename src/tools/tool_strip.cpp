@@ -99,8 +99,7 @@ bool ToolStrip::TakesKey(int code, int shift) {
     if (!button.Shown() || !button.Reachable()) return true;
     // First, since the tool may have another place for it.
     main.Pic.SetFocus();
-    // The key is the button's, so that what pops up stands there.
-    main.KeyUp(&button, code, shift);
+    main.StandPopupsAt(button);
     button.Click();
     return true;
 }

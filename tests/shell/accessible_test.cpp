@@ -9,6 +9,8 @@
 
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace coinlet::test {
 namespace {
@@ -100,6 +102,121 @@ TEST_F(Accessible, StatesFollowTheProgram) {
             for (const Control* passive :
                  std::initializer_list<const Control*>{&form.Label1, &form.Frame1, &form.Pic})
                 EXPECT_FALSE(Of(*passive).state().focusable) << passive->Name();
+        });
+    });
+}
+
+/// What a screen reader is told of changes, while there is one.
+class Announcements {
+public:
+    Announcements() {
+        told.clear();
+        former_ = QAccessible::installUpdateHandler(Hear);
+        QAccessible::setActive(true);
+    }
+    ~Announcements() {
+        QAccessible::setActive(false);
+        QAccessible::installUpdateHandler(former_);
+    }
+    Announcements(const Announcements&) = delete;
+    Announcements& operator=(const Announcements&) = delete;
+
+    /// Of a tick: "NAME ticked" or "NAME not ticked"; of a value: "NAME = VALUE". Since the last call.
+    static std::vector<std::string> Take() { return std::exchange(told, {}); }
+
+private:
+    static void Hear(QAccessibleEvent* event) {
+        QAccessibleInterface* part = event->accessibleInterface();
+        if (!part) return;
+        const std::string name = part->text(QAccessible::Name).toStdString();
+        if (event->type() == QAccessible::StateChanged &&
+            static_cast<QAccessibleStateChangeEvent*>(event)->changedStates().checked) {
+            told.push_back(name + (part->state().checked ? " ticked" : " not ticked"));
+        }
+        if (event->type() == QAccessible::ValueChanged && part->valueInterface()) {
+            told.push_back(name + " = " + std::to_string(part->valueInterface()->currentValue().toInt()));
+        }
+    }
+
+    static inline std::vector<std::string> told;
+    QAccessible::UpdateHandler former_ = nullptr;
+};
+
+using Told = std::vector<std::string>;
+
+TEST_F(Accessible, ChangesAreAnnounced) {
+    form.Check1.Caption = "Bold";
+    form.Option1.Caption = "Left";
+    form.Option2.Caption = "Right";
+    form.Option1.SetValue(true);
+    names.names = {{"HScroll1", "Line width"}};
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            const Announcements announcements;
+            // What stays as it is is no news.
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{});
+            form.Check1.SetValue(!form.Check1.Value());
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{form.Check1.Value() ? "Bold ticked" : "Bold not ticked"});
+            form.Option2.SetValue(true);
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), (Told{"Left not ticked", "Right ticked"}));
+            const int value = form.HScroll1.Value() == form.HScroll1.Lowest() ? form.HScroll1.Highest()
+                                                                              : form.HScroll1.Lowest();
+            form.HScroll1.SetValue(value);
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{"Line width = " + std::to_string(value)});
+            form.EditCopy.Checked = true;
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{"Copy ticked"});
+            form.EditCopy.Checked = false;
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{"Copy not ticked"});
+        });
+    });
+}
+
+// A reader of a bar that grows the other way hears the program's value.
+TEST_F(Accessible, AReversedBarAnnouncesItsOwnValue) {
+    names.names = {{"VScroll1", "Size"}};
+    form.VScroll1.SetRange(10, 1);
+    form.VScroll1.SetValue(8);
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            const Announcements announcements;
+            form.VScroll1.SetValue(3);
+            platform.Mirror();
+            EXPECT_EQ(Announcements::Take(), Told{"Size = 3"});
+        });
+    });
+}
+
+// By keys, as the user hears it.
+TEST_F(Accessible, KeysThatTickAndSlideAreHeard) {
+    form.Check1.Caption = "Bold";
+    names.names = {{"HScroll1", "Line width"}};
+    const Announcements announcements;
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            form.Check1.SetFocus();
+            platform.Mirror();
+            Announcements::Take();
+        });
+        const bool before = form.Check1.Value();
+        user.Key("space");
+        EXPECT_TRUE(user.Sees([&] { return form.Check1.Value() != before; }));
+        user.Has([&] {
+            EXPECT_EQ(Announcements::Take(), Told{before ? "Bold not ticked" : "Bold ticked"});
+            form.HScroll1.SetFocus();
+            form.HScroll1.SetValue(form.HScroll1.Lowest());
+            platform.Mirror();
+            Announcements::Take();
+        });
+        user.Key("Right");
+        EXPECT_TRUE(user.Sees([&] { return form.HScroll1.Value() > form.HScroll1.Lowest(); }));
+        user.Has([&] {
+            EXPECT_EQ(Announcements::Take(), Told{"Line width = " + std::to_string(form.HScroll1.Value())});
         });
     });
 }

@@ -54,8 +54,7 @@ bool CanBeUsed(const Control& control) {
             return true;
         case ControlKind::Label:
         case ControlKind::PictureBox:
-            // What is drawn on is the canvas' matter.
-            return (control.MouseDown || control.Click) && !control.MouseMove;
+            return control.MouseDown || control.Click;
         default:
             return false;
     }
@@ -150,18 +149,50 @@ protected:
         }
     }
 
-    void ExpectAllReached(User& user, Form& form) {
+    Form& Open(User& user, const DialogRow& row) {
+        QMetaObject::invokeMethod(
+            qApp, [this, &row] { std::visit(Opener(Main()), row.opener); }, Qt::QueuedConnection);
+        EXPECT_TRUE(user.Sees([&] {
+            // A dialog that serves events while it loads has no window yet.
+            const Form* front = platform.FrontForm();
+            const FormWindow* window = front ? platform.WindowOf(*front) : nullptr;
+            return window && front->Name() == row.form && window->isActiveWindow();
+        }));
+        return *platform.FrontForm();
+    }
+
+    std::vector<Control*> UsableControls(User& user, const Form& form) {
         std::vector<Control*> usable;
         user.Has([&] {
             for (Control* control : ShownControls(form))
                 if (CanBeUsed(*control)) usable.push_back(control);
         });
+        return usable;
+    }
+
+    void ExpectAllReached(User& user, Form& form) {
+        const std::vector<Control*> usable = UsableControls(user, form);
+        walked_.insert(usable);
         const std::vector<Control*> stops = Round(user, form);
         std::set<const Control*> reached(stops.begin(), stops.end());
         for (Control* stop : stops)
             if (auto* option = dynamic_cast<OptionButton*>(stop)) WalkOptions(user, *option, reached);
         for (const Control* control : usable)
             EXPECT_TRUE(reached.contains(control)) << form.Name() << "." << NameOf(control);
+    }
+
+    /// The same with what is shown only for some choice.
+    void ExpectAllReachedInEveryMode(User& user, Form& form) {
+        ExpectAllReached(user, form);
+        for (Control* control : ShownControls(form)) {
+            const bool chooses =
+                control->Kind() == ControlKind::CheckBox || control->Kind() == ControlKind::OptionButton;
+            if (!chooses) continue;
+            user.Has([&] { control->PointerClicked(), platform.Mirror(); });
+            if (walked_.contains(UsableControls(user, form))) continue;
+            SCOPED_TRACE("after a click on " + NameOf(control));
+            ExpectAllReached(user, form);
+        }
     }
 
     /// Letters lead to a row of every list that has rows to choose from.
@@ -221,6 +252,7 @@ protected:
     Application program_{
         {folder_ / "app", platform, qtFonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
     int lists_ = 0;
+    std::set<std::vector<Control*>> walked_;  ///< Each time: all that could be used then.
 };
 
 TEST_F(ProgramByKeys, TheMainFormIsUsedByThemAlone) {
@@ -237,21 +269,30 @@ TEST_F(ProgramByKeys, TheMainFormIsUsedByThemAlone) {
     });
 }
 
+TEST_F(ProgramByKeys, TheHelpOfTheCollectionIsReadAndLeft) {
+    const auto row = std::ranges::find(Dialogs(), std::string_view("CollectionForm"), &DialogRow::form);
+    Run(Main(), [&](User& user) {
+        Form& dialog = Open(user, *row);
+        auto& help = dynamic_cast<Control&>(*dialog.Find("HelpKnop"));
+        user.Has([&] { help.PointerClicked(), platform.Mirror(); });
+        EXPECT_TRUE(dynamic_cast<const Control&>(*dialog.Find("Text4")).Shown());
+        ExpectAllReached(user, dialog);
+        user.Has([&] { help.SetFocus(), platform.Mirror(); });
+        Press(user, "Return");
+        Press(user, "Escape");
+        EXPECT_TRUE(user.Sees([&] { return platform.FrontForm() == &Main(); }));
+    });
+}
+
 class EveryDialogByKeys : public ProgramByKeys, public testing::WithParamInterface<DialogRow> {};
 
 TEST_P(EveryDialogByKeys, IsUsedByThemAlone) {
     Run(Main(), [&](User& user) {
-        QMetaObject::invokeMethod(
-            qApp, [this] { std::visit(Opener(Main()), GetParam().opener); }, Qt::QueuedConnection);
-        EXPECT_TRUE(user.Sees([&] {
-            // A dialog that serves events while it loads has no window yet.
-            const Form* front = platform.FrontForm();
-            const FormWindow* window = front ? platform.WindowOf(*front) : nullptr;
-            return window && front->Name() == GetParam().form && window->isActiveWindow();
-        }));
-        Form& dialog = *platform.FrontForm();
-        ExpectAllReached(user, dialog);
+        Form& dialog = Open(user, GetParam());
+        ExpectAllReachedInEveryMode(user, dialog);
         ExpectLettersLeadToRows(user, dialog);
+        // A chosen row may bring more.
+        if (!walked_.contains(UsableControls(user, dialog))) ExpectAllReached(user, dialog);
         user.Key("Escape");
         EXPECT_TRUE(user.Sees([&] { return platform.FrontForm() == &Main(); }));
     });

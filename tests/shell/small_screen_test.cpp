@@ -196,7 +196,7 @@ TEST_F(SmallScreen, TheWheelMovesTheWindowAlsoOverAPicture) {
 // A press may give the focus, but what is under the pointer stays there, or a stroke would begin with a leap.
 TEST_F(SmallScreen, NothingMovesUnderAPointerThatIsHeld) {
     CornerForm form(services, {300, ScreenSize().height()});
-    form.Pic.LetHaveFocus();
+    form.Pic.LetKeysPress();
     form.Pic.MouseDown = [&](int, int, float, float) { form.Pic.SetFocus(); };
     Run(form, [&](User& user) {
         user.Has([&] {

@@ -153,6 +153,45 @@ TEST_P(EveryDialog, HasANameForWhatOneUsesInIt) {
     InDialog([&](Form& dialog) { ExpectNames(dialog, names); });
 }
 
+/// The controls of that name; in an array those of that index, if one is asked for.
+std::vector<const Control*> ControlsOf(const Form& form, std::string_view name, int index) {
+    std::vector<const Control*> found;
+    for (const Element* element : form.Elements()) {
+        const auto* control = dynamic_cast<const Control*>(element);
+        if (control != nullptr && control->Name() == name && (index == noIndex || control->Index() == index))
+            found.push_back(control);
+    }
+    return found;
+}
+
+/// Names given to controls, or by labels, that a form hasn't got (any more) are left-overs.
+void ExpectNamesAreUsed(const Form& form) {
+    for (const NamedControl& row : NamedControls()) {
+        if (row.form != form.Name()) continue;
+        const std::vector<const Control*> controls = ControlsOf(form, row.control, row.index);
+        EXPECT_FALSE(controls.empty()) << row.form << "." << row.control << " isn't there";
+        for (const Control* control : controls) {
+            const bool isLabelled =
+                row.label.empty() || dynamic_cast<const Label*>(form.Find(row.label, control->Index()));
+            EXPECT_TRUE(isLabelled) << row.form << "." << row.label << " isn't there";
+        }
+    }
+}
+
+TEST_P(EveryDialog, HasWhatNamesAreGivenTo) {
+    ExpectNamesAreUsed(Main());
+    InDialog([](Form& dialog) { ExpectNamesAreUsed(dialog); });
+}
+
+TEST(NamedForms, AreFormsOfTheProgram) {
+    for (const NamedControl& row : NamedControls()) {
+        const bool isThere =
+            row.form == "Main" || std::ranges::find(Dialogs(), row.form, &DialogRow::form) != Dialogs().end();
+        EXPECT_TRUE(isThere) << row.form;
+        EXPECT_NE(row.key.empty(), row.label.empty()) << row.form << "." << row.control;
+    }
+}
+
 TEST_P(EveryDialog, LooksRightWhenItOpens) {
     InDialog([this](Form& dialog) {
         ExpectGoodLooks(dialog, "at the opening");
