@@ -134,6 +134,8 @@ private:
     }
 };
 
+Announcer announcer = QAccessible::updateAccessibility;
+
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     ControlView* view = widget ? ViewIn(*widget) : nullptr;
@@ -151,6 +153,18 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+void AnnounceTick(QWidget& widget, int entry) {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(&widget, changed);
+    event.setChild(entry);
+    announcer(&event);
+}
+
+void AnnounceBy(Announcer other) {
+    announcer = other ? other : QAccessible::updateAccessibility;
+}
 
 void DescribeControls() {
     static const bool once = [] {

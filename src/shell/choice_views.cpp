@@ -2,6 +2,7 @@
 
 #include "controls/check_box.h"
 #include "controls/text_lines.h"
+#include "shell/accessible_controls.h"
 #include "shell/control_view.h"
 #include "shell/device_pixels.h"
 #include "shell/look.h"
@@ -9,7 +10,6 @@
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
-#include <QAccessible>
 #include <QPolygonF>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
@@ -53,7 +53,7 @@ protected:
         const bool ticked = look_.value != look.value;
         const bool lookChanged = Differs(look_, look);
         if (captionChanged || fontChanged || lookChanged) this->Widget().update();
-        if (ticked) AnnounceTick();
+        if (ticked) AnnounceTick(this->Widget());
     }
     std::string_view CaptionText() const override { return caption_; }
 
@@ -63,13 +63,6 @@ private:
         bool value = false, focused = false;
         friend bool operator==(const Look&, const Look&) = default;
     };
-
-    void AnnounceTick() {
-        QAccessible::State changed;
-        changed.checked = true;
-        QAccessibleStateChangeEvent event(&this->Widget(), changed);
-        QAccessible::updateAccessibility(&event);
-    }
 
     void Paint(QPainter& painter) const {
         const QWidget& widget = this->Widget();

@@ -3,11 +3,11 @@
 #include "controls/form.h"
 #include "controls/menu.h"
 #include "controls/menu_letters.h"
+#include "shell/accessible_controls.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/qt_text.h"
 
-#include <QAccessible>
 #include <QKeySequence>
 #include <QMenuBar>
 #include <QShortcut>
@@ -131,20 +131,10 @@ bool MenuView::Mirror() {
         entry.action->setChecked(look.checked);
         entry.action->setEnabled(look.enabled);
         entry.action->setVisible(look.visible);
-        if (ticked) AnnounceTick(entry);
+        QMenu* menu = item.Parent() ? PopupOf(*item.Parent()) : nullptr;
+        if (ticked && menu) AnnounceTick(*menu, static_cast<int>(menu->actions().indexOf(entry.action)));
     }
     return changed;
-}
-
-/// The toolkit itself says nothing of it.
-void MenuView::AnnounceTick(const Entry& entry) const {
-    QMenu* menu = entry.item->Parent() ? PopupOf(*entry.item->Parent()) : nullptr;
-    if (!menu || !QAccessible::isActive()) return;
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent event(menu, changed);
-    event.setChild(static_cast<int>(menu->actions().indexOf(entry.action)));
-    QAccessible::updateAccessibility(&event);
 }
 
 void MenuView::Detach() {

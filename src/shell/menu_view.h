@@ -59,7 +59,6 @@ private:
     void OpenFirst();
     void Choose(const QAction* action);
     bool MirrorTexts();
-    void AnnounceTick(const Entry& entry) const;
     static void Collect(const std::vector<MenuItem*>& items, std::vector<const MenuItem*>& all);
 
     Form* form_;

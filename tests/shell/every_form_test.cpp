@@ -278,7 +278,8 @@ TEST_F(ProgramByKeys, TheHelpOfTheCollectionIsReadAndLeft) {
         EXPECT_TRUE(dynamic_cast<const Control&>(*dialog.Find("Text4")).Shown());
         ExpectAllReached(user, dialog);
         user.Has([&] { help.SetFocus(), platform.Mirror(); });
-        Press(user, "Return");
+        Press(user, "space");
+        EXPECT_TRUE(user.Sees([&] { return dynamic_cast<const Control&>(*dialog.Find("List1")).Shown(); }));
         Press(user, "Escape");
         EXPECT_TRUE(user.Sees([&] { return platform.FrontForm() == &Main(); }));
     });

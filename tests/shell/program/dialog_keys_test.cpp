@@ -38,13 +38,18 @@ protected:
         EXPECT_TRUE(Comes([&] { return screen.Pointer() == On(x, y); }));
     }
     void Go(int columns, int rows) {
-        Keys("shift+Right", columns / 10);
-        Keys("Right", columns % 10);
-        Keys("shift+Down", rows / 10);
-        Keys("Down", rows % 10);
+        constexpr int longStep = 10;
+        Repeat("shift+Right", columns / longStep);
+        Repeat("Right", columns % longStep);
+        Repeat("shift+Down", rows / longStep);
+        Repeat("Down", rows % longStep);
     }
 
 private:
+    void Repeat(const std::string& key, int times) {
+        if (times > 0) Keys(key, times);
+    }
+
     QPoint corner_;
 };
 
