@@ -5,14 +5,13 @@
 #include "shell/accessible_controls.h"
 #include "shell/control_view.h"
 #include "shell/device_pixels.h"
+#include "shell/focus_ring.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
 #include <QPolygonF>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 #include <string>
@@ -74,13 +73,12 @@ private:
         const QRect room = widget.rect().adjusted(toggleCaptionLeft, 0, 0, 0);
         const QString text = ToQString(caption_);
         painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text);
-        if (!look_.focused || text.isEmpty()) return;
-        QStyleOptionFocusRect option;
-        option.initFrom(&widget);
-        option.rect = painter.boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, text)
-                          .adjusted(-2, 0, 2, 0)
-                          .intersected(widget.rect());
-        widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
+        if (!look_.focused) return;
+        // Where there is no caption, the mark has it.
+        const QRect around = text.isEmpty()
+                                 ? QRect(0, 0, toggleMark, widget.height())
+                                 : painter.boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, text);
+        PaintFocusRing(painter, around.adjusted(-3, -1, 3, 1).intersected(widget.rect()));
     }
 
     /// At the left, `top` pixels from the upper edge; its outline lies on whole pixels of the screen.

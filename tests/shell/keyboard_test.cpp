@@ -7,9 +7,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmap>
 
 #include <algorithm>
 #include <chrono>
@@ -70,6 +72,18 @@ protected:
             control.SetFocus();
             platform.Mirror();
         });
+    }
+    /// How many pixels of a control are shown in a colour.
+    int PixelsOf(User& user, const Control& control, Colour colour) {
+        int count = 0;
+        user.Has([&] {
+            const QImage look = WidgetOf(control).grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const QRgb wanted = qRgb(Red(colour), Green(colour), Blue(colour));
+            for (int y = 0; y < look.height(); ++y)
+                for (int x = 0; x < look.width(); ++x)
+                    if (look.pixel(x, y) == wanted) ++count;
+        });
+        return count;
     }
     QWidget& WidgetOf(const Control& control) { return platform.WindowOf(form)->ViewOf(control)->Widget(); }
 
@@ -266,6 +280,14 @@ TEST_F(Keyboard, OneSeesWhereTheKeysGo) {
             EXPECT_TRUE(comes(beside, true));
             FocusOn(user, form.OkKnop);
             EXPECT_TRUE(comes(above, false));
+        }
+        for (Control* choice : {static_cast<Control*>(&form.Check1), static_cast<Control*>(&form.Option1)}) {
+            SCOPED_TRACE(choice->Name());
+            EXPECT_EQ(PixelsOf(user, *choice, ring), 0);
+            FocusOn(user, *choice);
+            EXPECT_GT(PixelsOf(user, *choice, ring), 0);
+            FocusOn(user, form.OkKnop);
+            EXPECT_EQ(PixelsOf(user, *choice, ring), 0);
         }
         FocusOn(user, form.Rows);
         const QPoint first = user.PlaceOf(form.Rows, 8, 20), second = user.PlaceOf(form.Rows, 8, 60);
