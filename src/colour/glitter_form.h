@@ -23,7 +23,7 @@ public:
     Label Label1{*this, "Label1"};                                 ///< What to do here.
     Shape Shape1{*this, "Shape1"};                                 ///< The edge of the frame.
     PictureBox PicCont{*this, "PicCont"};                          ///< The frame, which clips the chart.
-    PointedPicture SlidePic{PicCont, "SlidePic"};                      ///< The chart.
+    PointedPicture SlidePic{PicCont, "SlidePic"};                  ///< The chart.
     ScrollBar VScroll{*this, "VScroll", Orientation::Vertical};    ///< How far the chart is moved up.
     ScrollBar HScroll{*this, "HScroll", Orientation::Horizontal};  ///< How far it is moved to the left.
     VistaButton ExitKnop{*this, "ExitKnop"};

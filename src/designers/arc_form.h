@@ -26,7 +26,7 @@ public:
     explicit ArcForm(Context& context);
 
     Shape Shape1{*this, "Shape1"};        ///< Edge of the picture.
-    PointedPicture Pic{*this, "Pic"};         ///< The working copy. Its background is what curves are drawn on.
+    PointedPicture Pic{*this, "Pic"};     ///< The working copy. Its background is what curves are drawn on.
     Shape Layer{Pic, "Layer"};            ///< The circle of the segments and the polygons.
     PictureBox TMPres{*this, "TMPres"};   ///< The background that was painted last.
     Label InfoLabel{*this, "InfoLabel"};  ///< What to do here.

@@ -21,7 +21,7 @@ public:
     explicit RemoveForm(Context& context);
 
     ControlArray<Shape> Shape1{*this, "Shape1", 0, 2};  ///< Edges of the pictures.
-    PointedPicture Pic{*this, "Pic"};                       ///< The working copy.
+    PointedPicture Pic{*this, "Pic"};                   ///< The working copy.
     Label Label2{*this, "Label2"};                      ///< What to do here.
     Label ColorLabel{*this, "ColorLabel"};              ///< The colour under the pointer.
     Label Label3{*this, "Label3"};                      ///< What ColorLabel is.

@@ -36,7 +36,7 @@ public:
     PictureBox Orgineel{*this, "Orgineel"};   ///< The picture as it was loaded; hidden.
     ScaledPicture BackPic{*this, "BackPic"};  ///< The same at the size that was chosen; hidden.
     PictureBox ClipPic{*this, "ClipPic"};     ///< What was cut out; hidden.
-    PointedPicture Pic{*this, "Pic"};             ///< The viewport: what is seen of it, and exported.
+    PointedPicture Pic{*this, "Pic"};         ///< The viewport: what is seen of it, and exported.
     Shape Layer{Pic, "Layer"};                ///< The box to be cut out.
     // Where the viewport is on the picture.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};

@@ -35,7 +35,7 @@ public:
     ComboBox Combo2{*this, "Combo2"};             ///< Size of the symbols in points.
     Label Label4{*this, "Label4"};                ///< The panel behind the strip.
     Shape Shape1{*this, "Shape1"};                ///< Edge of the picture.
-    PointedPicture Pic{*this, "Pic"};                 ///< The part of the strip that the slider is at.
+    PointedPicture Pic{*this, "Pic"};             ///< The part of the strip that the slider is at.
     Shape Layer{Pic, "Layer"};                    ///< The box around what will be handed over.
     ScrollBar HScroll1{*this, "HScroll1", Orientation::Horizontal};  ///< The strip's first column on show.
     VistaButton ExportKnop{*this, "ExportKnop"};
