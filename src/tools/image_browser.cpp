@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "controls/hourglass.h"
 #include "core/context.h"
 #include "core/floating_image.h"
 #include "core/folder_picker.h"
@@ -49,8 +50,7 @@ ImageBrowser::ImageBrowser(Context& context) : context_(context) {
 
 void ImageBrowser::List1_Click() {
     MainForm& main = context_.main;
-    ScreenState& screen = context_.services.platform.Screen;
-    screen.MousePointer = hourglassPointer;
+    const Hourglass hourglass(context_.services.platform);
     const fs::path file = fs::path(context_.session.ImageFolder) / main.List1.Text();
     // A file that is no picture leaves the former one.
     if (const auto image = LoadPicture(file, context_.services.codecs))
@@ -58,7 +58,6 @@ void ImageBrowser::List1_Click() {
     const auto pixels = [](double twips) { return std::to_string(RoundHalfEven(twips / twipsPerPixel)); };
     main.Label8.Caption = pixels(main.IconPic.Width()) + " x " + pixels(main.IconPic.Height()) + " Pixels";
     ShowPicked();
-    screen.MousePointer = toolPointer;
 }
 
 void ImageBrowser::ImgKnop_Click() {
