@@ -309,7 +309,7 @@ void LayOutFoot(MainForm& main) {
     main.InfoLabel.FontSize = 10;
     Place(main.NummerLabel, 840, 32, 38, 16);
     main.NummerLabel.Alignment = Alignment::Right;
-    main.NummerLabel.ForeColor = RGB(110, 110, 90);
+    main.NummerLabel.ForeColor = RGB(90, 90, 70);
 }
 
 void ShowCorner(MainForm& main, int width) {

@@ -91,7 +91,7 @@ private:
         painter.setRenderHint(QPainter::Antialiasing);
         const bool enabled = this->Widget().isEnabled();
         painter.setPen(QPen(ToQColor(edgeColour), thickness));
-        painter.setBrush(ToQColor(enabled ? fieldColour : RGB(110, 110, 120)));
+        painter.setBrush(ToQColor(enabled ? fieldColour : disabledFieldColour));
         if (round_) {
             painter.drawEllipse(outline);
         } else {

@@ -9,8 +9,6 @@ namespace coinlet {
 
 namespace {
 
-/// The edge of a button that has the focus.
-constexpr Colour ringColour = RGB(60, 127, 177);
 constexpr int ringWidth = 2;
 
 /// What is larger than the widget that it lies in, which shows a part of it as large as itself.
@@ -34,7 +32,7 @@ void FocusRing::Surround(QWidget* widget) {
         ring->setAttribute(Qt::WA_TransparentForMouseEvents);
         ring->setFocusPolicy(Qt::NoFocus);
         ring->Paint = [](QPainter& painter, const QRect& dirty) {
-            painter.fillRect(dirty, ToQColor(ringColour));
+            painter.fillRect(dirty, ToQColor(focusRingColour));
         };
         ring_ = ring;
     }
@@ -51,7 +49,7 @@ void FocusRing::Surround(QWidget* widget) {
 
 void PaintFocusRing(QPainter& painter, const QRect& frame) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(ToQColor(ringColour));
+    painter.setPen(ToQColor(focusRingColour));
     painter.drawRect(frame.adjusted(0, 0, -1, -1));
     painter.setPen(ToQColor(white));
     painter.drawRect(frame.adjusted(1, 1, -2, -2));

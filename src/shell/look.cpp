@@ -37,11 +37,12 @@ QPalette FormPalette() {
         palette.setColor(
             group, QPalette::Text,
             group == QPalette::Disabled ? ToQColor(RGB(140, 140, 170)) : ToQColor(fieldTextColour));
-        palette.setColor(group, QPalette::BrightText, Qt::white);
+        palette.setColor(group, QPalette::BrightText, text);
         palette.setColor(group, QPalette::Highlight, ToQColor(highlightColour));
         palette.setColor(group, QPalette::HighlightedText, Qt::white);
         palette.setColor(group, QPalette::PlaceholderText, ToQColor(RGB(140, 140, 170)));
         palette.setColor(group, QPalette::Link, ToQColor(RGB(30, 60, 160)));
+        palette.setColor(group, QPalette::LinkVisited, ToQColor(RGB(90, 30, 120)));
         palette.setColor(group, QPalette::Light, ToQColor(RGB(250, 250, 240)));
         palette.setColor(group, QPalette::Midlight, ToQColor(RGB(236, 236, 216)));
         palette.setColor(group, QPalette::Mid, ToQColor(RGB(180, 180, 150)));
@@ -81,8 +82,10 @@ QPalette MenuPalette() {
     for (const auto group : allGroups) {
         palette.setColor(group, QPalette::Window, ground);
         palette.setColor(group, QPalette::Base, ground);
+        palette.setColor(group, QPalette::AlternateBase, ground);
         palette.setColor(group, QPalette::Light, ground);
         palette.setColor(group, QPalette::Text, palette.color(group, QPalette::WindowText));
+        palette.setColor(group, QPalette::PlaceholderText, ToQColor(RGB(90, 90, 75)));
     }
     return palette;
 }
@@ -109,6 +112,9 @@ void PrepareToolkit() {
 
 void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // A sheet that somebody gave to the toolkit would colour the grounds of texts whose colours it doesn't
+    // know.
+    qApp->setStyleSheet({});
     const QPalette palette = FormPalette();
     QApplication::setPalette(palette);
     QApplication::setPalette(MenuPalette(), "QMenu");

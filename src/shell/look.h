@@ -19,6 +19,12 @@ namespace coinlet {
 constexpr Colour edgeColour = RGB(140, 140, 110);
 constexpr Colour highlightColour = RGB(70, 90, 170);
 constexpr Colour disabledTextColour = RGB(130, 130, 110);
+/// A box to be ticked that can't be.
+constexpr Colour disabledFieldColour = RGB(110, 110, 120);
+/// The thumb of a bar that has the focus, and the ring around what else doesn't show that by itself: the edge
+/// of a button that has it.
+constexpr Colour focusTint = RGB(190, 222, 235);
+constexpr Colour focusRingColour = RGB(60, 127, 177);
 
 /// -1, the colour outside a picture, is shown as white.
 inline QColor ToQColor(Colour colour) {

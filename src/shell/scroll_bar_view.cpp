@@ -17,7 +17,6 @@ namespace {
 /// The bar that the arrow keys move is tinted like a button that the Enter key presses: the style itself
 /// shows no focus on scroll bars.
 QPalette BarPalette(bool focused) {
-    constexpr Colour focusTint = RGB(190, 222, 235);
     QPalette palette = QApplication::palette();
     if (focused) palette.setColor(QPalette::Button, ToQColor(focusTint));
     return palette;

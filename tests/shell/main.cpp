@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QImage>
+#include <QPalette>
+#include <QVariant>
 #include <QWidget>
 
 #include <clocale>
@@ -17,7 +19,8 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
     coinlet::PrepareToolkit();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    application.setProperty("desktopPalette", QApplication::palette());
     if (argc == 3 && std::strcmp(argv[1], "--save-clipboard") == 0)
         return QGuiApplication::clipboard()->image().save(QString::fromLocal8Bit(argv[2]), "PNG") ? 0 : 1;
     if (argc == 2 && std::strcmp(argv[1], "--in-front") == 0) {

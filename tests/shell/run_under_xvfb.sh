@@ -2,7 +2,8 @@
 # run_under_xvfb.sh PROGRAM [ARGUMENT...]
 #
 # Runs a program on a screen of its own, which nobody sees and which ends with it. The server picks a free
-# display by itself, so any number of these may run at once. SCREEN_SIZE is its size, if not the usual one.
+# display by itself, so any number of these may run at once. SCREEN_SIZE is its size, if not the usual one;
+# DESKTOP_THEME is what the toolkit takes its colours from, if not from itself.
 set -eu
 
 folder=$(mktemp -d)
@@ -25,4 +26,5 @@ read -r display <"$folder/display" || { cat "$folder/log" >&2; exit 1; }
 
 # Nothing of the desktop that the tests are started on plays a part in them.
 unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE XCURSOR_THEME XCURSOR_SIZE
-DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none XCURSOR_PATH="$folder" XDG_RUNTIME_DIR="$folder" "$@"
+DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME="${DESKTOP_THEME:-none}" XCURSOR_PATH="$folder" \
+    XDG_RUNTIME_DIR="$folder" "$@"
