@@ -2,6 +2,7 @@
 
 #include "shell/one_line.h"
 #include "shell/qt_text.h"
+#include "shell/size_on_screens.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -69,6 +70,7 @@ Answer ShowMessageBox(QWidget* parent, const Message& message) {
     const bool toldNo = question && message.standard == Answer::No;
     box.setDefaultButton(ButtonOf(toldNo ? Answer::No : question ? Answer::Yes : Answer::Ok));
     TakeIconsOff(box);
+    const SameSizeOnScreens sameSize(box);
     const int pressed = box.exec();
     const auto* found = std::find_if(std::begin(answers), std::end(answers),
                                      [=](const NamedAnswer& entry) { return entry.button == pressed; });
@@ -86,6 +88,7 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     TakeIconsOff(box);
     for (auto* field : box.findChildren<QLineEdit*>())
         KeepToOneLine(*field);
+    const SameSizeOnScreens sameSize(box);
     return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }
 
@@ -96,6 +99,7 @@ std::string ShowFolderPicker(QWidget* parent, const std::string& title, const st
     picker.setFileMode(QFileDialog::Directory);
     picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     TakeIconsOff(picker);
+    const SameSizeOnScreens sameSize(picker);
     if (picker.exec() != QDialog::Accepted || picker.selectedFiles().isEmpty()) return {};
     return ToUtf8(picker.selectedFiles().constFirst());
 }

@@ -14,6 +14,7 @@
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
 #include "shell/roomy_area.h"
+#include "shell/size_on_screens.h"
 #include "shell/views.h"
 
 #include <QCloseEvent>
@@ -95,6 +96,7 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
 FormWindow::~FormWindow() = default;
 
 void FormWindow::Open() {
+    scale_ = devicePixelRatioF();
     // Frames are alike, as far as anybody knows yet.
     if (parentWidget()) frame_ = RoomOf(*parentWidget()).frame;
     Mirror();
@@ -220,8 +222,7 @@ void FormWindow::FitToScreen() {
     const WindowFit fit = FitIntoRoom(size_ + bar, room.Inside(), scrollBar);
     if (!Differs(fit_, fit)) return;
     constexpr QSize smallest(240, 180);
-    setMinimumSize(fit.IsCut() ? smallest.boundedTo(fit.size) : fit.whole);
-    setMaximumSize(fit.whole);
+    SetSizeLimits(*this, fit.IsCut() ? smallest.boundedTo(fit.size) : fit.whole, fit.whole);
     resize(fit.size);
     if (fit.IsCut() && isVisible()) move(MovedInto(frameGeometry(), room.place).topLeft());
 }
@@ -247,6 +248,16 @@ void FormWindow::moveEvent(QMoveEvent*) {
 
 void FormWindow::resizeEvent(QResizeEvent*) {
     LayOut();
+    if (!Differs(scale_, devicePixelRatioF())) return;
+    // It has come to a screen of another scale and has still the pixels that it had before. Later: the
+    // toolkit is amidst telling everybody of the new screen.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            fit_ = {};
+            FitToScreen();
+        },
+        Qt::QueuedConnection);
 }
 
 void FormWindow::MirrorFocus() {

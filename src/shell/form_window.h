@@ -90,6 +90,7 @@ private:
     bool barIsStale_ = true;
     QMargins frame_;  ///< Of the desktop's frame around the window, as far as it is known.
     WindowFit fit_;
+    double scale_ = 0;  ///< Of the screen that it has its size for.
     QMetaObject::Connection screenIsWatched_;
 };
 

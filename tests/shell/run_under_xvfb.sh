@@ -3,7 +3,8 @@
 #
 # Runs a program on a screen of its own, which nobody sees and which ends with it. The server picks a free
 # display by itself, so any number of these may run at once. SCREEN_SIZE is its size, if not the usual one;
-# DESKTOP_THEME is what the toolkit takes its colours from, if not from itself.
+# MONITORS are the screens that it is parted into, such as "800x600+0+0 1200x600+800+0"; DESKTOP_THEME is what the
+# toolkit takes its colours from, if not from itself.
 set -eu
 
 folder=$(mktemp -d)
@@ -23,6 +24,14 @@ mkfifo "$folder/display"
 Xvfb -displayfd 3 -screen 0 "${SCREEN_SIZE:-1400x1050}x24" -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/log" &
 server=$!
 read -r display <"$folder/display" || { cat "$folder/log" >&2; exit 1; }
+
+# The first of them takes the place of the one that is there.
+output=screen
+for monitor in ${MONITORS:-}; do
+    DISPLAY=":$display" xrandr --setmonitor "$output-monitor" \
+        "$(echo "$monitor" | sed -E 's,([0-9]+)x([0-9]+),\1/\1x\2/\2,')" "$output" >/dev/null
+    output=none
+done
 
 # Nothing of the desktop that the tests are started on plays a part in them.
 unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE XCURSOR_THEME XCURSOR_SIZE

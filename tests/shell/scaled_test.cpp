@@ -1,4 +1,5 @@
-// What the screen shows where one pixel of the program is not one of the screen. Run at several scales.
+// What the screen shows where one pixel of the program is not one of the screen. Run at several scales, and
+// with two screens, from the first of which the window comes to the second.
 
 #include "controls/fine_button.h"
 #include "sample_form.h"
@@ -12,6 +13,7 @@
 #include <QScreen>
 
 #include <cmath>
+#include <functional>
 
 namespace coinlet::test {
 namespace {
@@ -24,7 +26,20 @@ int Rounded(double value) {
 
 class Scaled : public ShellTest {
 protected:
-    double Scale() { return QGuiApplication::primaryScreen()->devicePixelRatio(); }
+    static QScreen& Where() { return *QGuiApplication::screens().last(); }
+    static double Scale() { return Where().devicePixelRatio(); }
+
+    void Run(Form& form, const std::function<void(User&)>& work) {
+        ShellTest::Run(form, [&](User& user) {
+            const FormWindow& window = *platform.WindowOf(form);
+            // Not under the pointer, which is in the middle of all screens.
+            if (window.screen() != &Where())
+                user.MoveWindow(window, Where().geometry().topLeft() + QPoint(800, 100));
+            EXPECT_TRUE(user.Sees(
+                [&] { return window.screen() == &Where() && window.size() == window.maximumSize(); }));
+            work(user);
+        });
+    }
     int Thickness() { return std::max(1, Rounded(Scale())); }
 
     /// The screen's pixels that show a rectangle of a control's widget.
@@ -32,14 +47,14 @@ protected:
         const QWidget& widget = platform.WindowOf(control.OwnerForm())->ViewOf(control)->Widget();
         const QRectF place = QRectF(part).translated(widget.mapTo(widget.window(), QPoint(0, 0)));
         const int left = Rounded(place.left() * Scale()), top = Rounded(place.top() * Scale());
-        const QPoint corner = widget.window()->mapToGlobal(QPoint(0, 0)) * Scale();
+        const QPoint corner =
+            (widget.window()->mapToGlobal(QPoint(0, 0)) - Where().geometry().topLeft()) * Scale();
         return QRect(left, top, Rounded(place.right() * Scale()) - left,
                      Rounded(place.bottom() * Scale()) - top)
             .translated(corner);
     }
     QImage Look(const QRect& place) {
-        return QGuiApplication::primaryScreen()->grabWindow(0).toImage().copy(place).convertToFormat(
-            QImage::Format_RGB32);
+        return Where().grabWindow(0).toImage().copy(place).convertToFormat(QImage::Format_RGB32);
     }
     QImage Look(const Control& control) {
         const QWidget& widget = platform.WindowOf(control.OwnerForm())->ViewOf(control)->Widget();

@@ -37,10 +37,30 @@ bool User::Sees(const std::function<bool()>& condition) {
 }
 
 QPoint User::ToScreen(const QWidget& widget, const QPoint& place) {
-    // The middle of a pixel of the widget, however large the display shows it.
+    // The middle of a pixel of the widget, however large the display shows it. A screen lies where it would
+    // if none enlarged anything.
     const double scale = widget.devicePixelRatioF();
-    const QPoint corner = widget.mapToGlobal(place);
-    return {static_cast<int>((corner.x() + 0.5) * scale), static_cast<int>((corner.y() + 0.5) * scale)};
+    const QPoint origin = widget.screen()->geometry().topLeft();
+    const QPointF middle = QPointF(widget.mapToGlobal(place) - origin) + QPointF(0.5, 0.5);
+    return origin + QPoint(static_cast<int>(middle.x() * scale), static_cast<int>(middle.y() * scale));
+}
+
+QImage User::LookAt(const QWidget& window) {
+    QImage look;
+    Has([&] {
+        QScreen& screen = *window.screen();
+        const QPoint corner = window.mapToGlobal(QPoint(0, 0)) - screen.geometry().topLeft();
+        look = screen.grabWindow(0, corner.x(), corner.y(), window.width(), window.height())
+                   .toImage()
+                   .convertToFormat(QImage::Format_RGB32);
+    });
+    return look;
+}
+
+void User::MoveWindow(const QWidget& window, const QPoint& place) {
+    WId id = 0;
+    Has([&] { id = window.windowHandle()->winId(); });
+    Do({"windowmove", "--sync", std::to_string(id), std::to_string(place.x()), std::to_string(place.y())});
 }
 
 QPoint User::PlaceOf(const Control& control, int x, int y) {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+class QImage;
 class QWidget;
 
 namespace coinlet::test {
@@ -42,6 +43,11 @@ public:
     /// A key by its name in the window system: "Return", "ctrl+n".
     void Key(const std::string& name);
     void Type(const std::string& text);
+    /// Moves a window by its upper left corner to a place on the screens, in pixels, as a desktop does that
+    /// drags it there.
+    void MoveWindow(const QWidget& window, const QPoint& place);
+    /// What a screen shows of a window, in pixels of the screen. Nothing may lie before it.
+    QImage LookAt(const QWidget& window);
     /// The colour that the screen shows there.
     int ColourAt(const QPoint& place);
 
