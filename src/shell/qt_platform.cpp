@@ -208,13 +208,19 @@ void QtPlatform::MovePointer(const Control& control, float x, float y) {
     const float unit = control.PointerUnitsPerPixel();
     const QPoint place(static_cast<int>(std::floor(x / unit)), static_cast<int>(std::floor(y / unit)));
     window->BringIntoSight(*view, place);
-    warps_.MoveTo(view->Widget().mapToGlobal(place));
+    if (PointerCanBeMoved()) {
+        warps_.MoveTo(view->Widget().mapToGlobal(place));
+    } else {
+        pointerSign_.ShowOn(view->Widget(), place);
+    }
 }
 
 bool QtPlatform::IsPointerOver(const Control& control) const {
     const FormWindow* window = WindowOf(control.OwnerForm());
     const ControlView* view = window ? window->ViewOf(control) : nullptr;
     if (!view) return false;
+    // Where nobody tells that it's gone, it seems to be where it was seen last.
+    if (!PointerCanBeMoved() && !view->Widget().window()->underMouse()) return false;
     const QWidget* under = QApplication::widgetAt(QCursor::pos());
     // Parts that a widget makes of itself, such as the rows of a list, have no name.
     while (under && under != &view->Widget() && under->objectName().isEmpty())

@@ -4,6 +4,7 @@
 #include "shell/busy_watch.h"
 #include "shell/event_gate.h"
 #include "shell/frame_pace.h"
+#include "shell/pointer_sign.h"
 #include "shell/pointer_warps.h"
 
 #include <QObject>
@@ -84,6 +85,7 @@ private:
     FramePace pace_;
     const NameGiver* names_ = nullptr;
     PointerWarps warps_;
+    PointerSign pointerSign_;
     bool hourglass_ = false;
 
     int ownDialogs_ = 0;            ///< Message boxes, pickers and dialogs that are open.

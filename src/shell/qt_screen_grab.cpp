@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace coinlet {
@@ -26,11 +27,23 @@ const QScreen* ScreenUnderPointer() {
     return screen ? screen : QGuiApplication::primaryScreen();
 }
 
+int WindowsBehind(const QWidget& window) {
+    int count = 0;
+    for (const QWidget* behind = window.parentWidget(); behind; behind = behind->parentWidget())
+        ++count;
+    return count;
+}
+
+/// The ones that others lie before first.
 void PaintOwnWindows(QPainter& painter, const QScreen& screen) {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
+    QWidgetList windows = QApplication::topLevelWidgets();
+    std::ranges::stable_sort(windows, {}, [](const QWidget* window) { return WindowsBehind(*window); });
+    for (QWidget* window : windows) {
         if (!window->isVisible()) continue;
         const QPoint corner = ToPixels(window->mapToGlobal(QPoint(0, 0)), screen);
-        painter.drawPixmap(corner, window->grab());
+        QPixmap picture = window->grab();
+        picture.setDevicePixelRatio(1);
+        painter.drawPixmap(corner, picture);
     }
 }
 
