@@ -21,6 +21,8 @@ namespace {
 
 using namespace coinlet;
 
+constexpr int folderUnmakeable = 1;
+
 std::variant<CommandLine, Notice> ReadArguments(int argc, char** argv) {
     return ReadCommandLine(std::vector<std::string_view>(argv + (argc > 0 ? 1 : 0), argv + argc));
 }
@@ -54,24 +56,31 @@ int main(int argc, char** argv) {
         }
     }
 
+    const fs::path folder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
+                                               .userDataFolder = UserDataFolder(std::getenv),
+                                               .named = line->folder});
+    // Whoever names a folder looks for his designs in it.
+    std::error_code error;
+    if (line->folder && !fs::equivalent(folder, *line->folder, error)) {
+        return Say(
+            {"coinlet-designer: can't make the folder '" + line->folder->string() + "'\n", folderUnmakeable});
+    }
+
     // Exports and printed files go there.
     MakePictureFolder(std::getenv);
 
     QtFontEngine fonts;
     const SystemClock clock;
-    const Services services{
-        .applicationFolder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
-                                                .userDataFolder = UserDataFolder(std::getenv),
-                                                .named = line->folder}),
-        .platform = shell.GetPlatform(),
-        .fonts = fonts,
-        .codecs = codecs,
-        .clock = clock,
-        .desktop = shell.GetDesktop(),
-        .clipboard = shell.GetClipboard(),
-        .printer = shell.GetPrinter(),
-        .screenGrab = shell.GetScreenGrab(),
-        .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
+    const Services services{.applicationFolder = folder,
+                            .platform = shell.GetPlatform(),
+                            .fonts = fonts,
+                            .codecs = codecs,
+                            .clock = clock,
+                            .desktop = shell.GetDesktop(),
+                            .clipboard = shell.GetClipboard(),
+                            .printer = shell.GetPrinter(),
+                            .screenGrab = shell.GetScreenGrab(),
+                            .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
     Application application(services);
     const AccessibleNames names(application.GetContext());
     shell.NameControlsBy(names);

@@ -13,6 +13,10 @@ namespace fs = std::filesystem;
 
 constexpr QRgb red = qRgb(200, 30, 40), paper = 0xFFFFFFFF;
 
+QString Text(const fs::path& path) {
+    return QString::fromStdString(path.string());
+}
+
 class ProgramCommandLine : public StartedProgram {
 protected:
     fs::path Picture(const std::string& name, const QSize& size) const {
@@ -21,6 +25,20 @@ protected:
         const fs::path file = folder / name;
         EXPECT_TRUE(picture.save(QString::fromStdString(file.string()), "PNG"));
         return file;
+    }
+    /// What the program, started with these arguments, says on standard error before it ends by itself.
+    std::string Complaint(const QStringList& arguments, int status) const {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", QString::fromStdString(home.string()));
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME"})
+            environment.remove(variable);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QString::fromStdString(command.front()), arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), status);
+        return process.readAllStandardError().toStdString();
     }
     bool Shows(int x, int y, QRgb colour) {
         return Comes([&] { return ColourAt(PlaceOf(form.Pic, x, y)) == colour; });
@@ -47,24 +65,26 @@ TEST_F(ProgramCommandLine, WhatCannotBeReadIsSaidBeforeAnythingIsMade) {
     folder.Write("note.pat", "no picture");
     for (const std::string name : {"note.pat", "missing.bmp"}) {
         SCOPED_TRACE(name);
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", QString::fromStdString(home.string()));
-        for (const char* variable : {"XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME"})
-            environment.remove(variable);
-        QProcess process;
-        process.setProcessEnvironment(environment);
         const fs::path file = folder / name, other = folder / "other";
-        process.start(
-            QString::fromStdString(command.front()),
-            {"--folder", QString::fromStdString(other.string()), QString::fromStdString(file.string())});
-        ASSERT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(process.exitCode(), 1);
-        EXPECT_EQ(process.readAllStandardError().toStdString(),
+        EXPECT_EQ(Complaint({"--folder", Text(other), Text(file)}, 1),
                   "coinlet-designer: can't read '" + file.string() + "'\n");
         EXPECT_FALSE(fs::exists(other));
         EXPECT_FALSE(fs::exists(home / "Pictures"));
     }
+}
+
+// Designs that went elsewhere would be lost to him.
+TEST_F(ProgramCommandLine, FolderThatCannotBeMadeIsNoneToWorkIn) {
+    const fs::path file = folder.Write("file", "no folder");
+    const fs::path named = file / "designs";
+    EXPECT_EQ(Complaint({"--folder", Text(named)}, 1),
+              "coinlet-designer: can't make the folder '" + named.string() + "'\n");
+    EXPECT_FALSE(fs::exists(home / "Pictures"));
+}
+
+TEST_F(ProgramCommandLine, WhatMakesNoSenseIsSaid) {
+    EXPECT_EQ(Complaint({"--draw"}, 2),
+              "coinlet-designer: unknown option '--draw'\nTry 'coinlet-designer --help'.\n");
 }
 
 }  // namespace
