@@ -1,25 +1,18 @@
 // Every form of the program by keys alone, in its real windows: the tab key reaches all that can be used, the
 // arrows reach every option, and letters lead to the rows of every list.
 
-#include "app/application.h"
-#include "app/dialogs.h"
 #include "base/order_key.h"
 #include "controls/check_box.h"
 #include "controls/list_box.h"
-#include "core/main_form.h"
 #include "core/tool_codes.h"
-#include "media/media_codecs.h"
-#include "media/qt_font_engine.h"
 #include "shell/form_window.h"
-#include "support/world.h"
-#include "user.h"
+#include "whole_program.h"
 
 #include <QApplication>
 
 #include <algorithm>
 #include <set>
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace coinlet::test {
@@ -60,41 +53,8 @@ bool CanBeUsed(const Control& control) {
     }
 }
 
-/// What the user presses for a dialog, pressed for him.
-class Opener {
-public:
-    explicit Opener(MainForm& main) : main_(main) {}
-    void operator()(MenuItem MainForm::*entry) const { (main_.*entry).Click(); }
-    void operator()(ToolButton button) const { main_.Knop[button.number].PointerClicked(); }
-    void operator()(FillColourField) const { main_.ColorLabel.PointerClicked(); }
-
-private:
-    MainForm& main_;
-};
-
-class ProgramByKeys : public ShellTest {
+class ProgramByKeys : public WholeProgram {
 protected:
-    ProgramByKeys() {
-        fs::create_directories(folder_ / "app");
-        for (const auto& entry : fs::directory_iterator(COINLET_DATA)) {
-            const fs::path own = folder_ / "app" / entry.path().filename();
-            // What the dialogs may write is the test's own.
-            if (own.filename() == "Ontwerpen" || own.filename() == "Collection") {
-                fs::copy(entry.path(), own, fs::copy_options::recursive);
-            } else {
-                fs::create_directory_symlink(entry.path(), own);
-            }
-        }
-        fs::create_directories(folder_ / "app/Collection");
-        folder_.Write("app/Collection/Collection.col", "\"Anchor\"\r\n\"Bear\"\r\n\"Crown\"\r\n\"Deer\"\r\n");
-        for (const char* name : {"anchor", "bear", "crown", "deer"})
-            fs::create_directories(folder_ / "pictures" / name);
-        for (const char* name : {"a.bmp", "b.bmp", "c.bmp", "d.bmp"})
-            folder_.Write("pictures/" + std::string(name), "no picture");
-    }
-
-    MainForm& Main() { return program_.GetContext().main; }
-
     /// A key, and the program has done with it.
     void Press(User& user, const std::string& key) {
         user.Key(key);
@@ -147,18 +107,6 @@ protected:
                 reached.insert(option);
             });
         }
-    }
-
-    Form& Open(User& user, const DialogRow& row) {
-        QMetaObject::invokeMethod(
-            qApp, [this, &row] { std::visit(Opener(Main()), row.opener); }, Qt::QueuedConnection);
-        EXPECT_TRUE(user.Sees([&] {
-            // A dialog that serves events while it loads has no window yet.
-            const Form* front = platform.FrontForm();
-            const FormWindow* window = front ? platform.WindowOf(*front) : nullptr;
-            return window && front->Name() == row.form && window->isActiveWindow();
-        }));
-        return *platform.FrontForm();
     }
 
     std::vector<Control*> UsableControls(User& user, const Form& form) {
@@ -241,16 +189,6 @@ protected:
         return {};
     }
 
-    TemporaryFolder folder_;
-    QtFontEngine qtFonts_;
-    MediaCodecs codecs_;
-    StillClock clock_;
-    PlainDesktop desktop_{folder_ / "pictures"};
-    NoClipboard clipboard_;
-    NoPrinter printer_;
-    NoScreenGrab screenGrab_;
-    Application program_{
-        {folder_ / "app", platform, qtFonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
     int lists_ = 0;
     std::set<std::vector<Control*>> walked_;  ///< Each time: all that could be used then.
 };

@@ -3,8 +3,8 @@
 #
 # Runs a program on a screen of its own, which nobody sees and which ends with it. The server picks a free
 # display by itself, so any number of these may run at once. SCREEN_SIZE is its size, if not the usual one;
-# MONITORS are the screens that it is parted into, such as "800x600+0+0 1200x600+800+0"; DESKTOP_THEME is what the
-# toolkit takes its colours from, if not from itself.
+# MONITORS are the screens that it is parted into, such as "800x600+0+0 1200x600+800+0"; DARK_DESKTOP is a file of
+# colours that the toolkit finds where a desktop keeps its own.
 set -eu
 
 folder=$(mktemp -d)
@@ -34,6 +34,12 @@ for monitor in ${MONITORS:-}; do
 done
 
 # Nothing of the desktop that the tests are started on plays a part in them.
+theme=none
+if [ -n "${DARK_DESKTOP:-}" ]; then
+    theme=kde
+    cp "$DARK_DESKTOP" "$folder/kdeglobals"
+    export XDG_CONFIG_HOME="$folder" XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+fi
 unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS QT_STYLE_OVERRIDE XCURSOR_THEME XCURSOR_SIZE
-DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME="${DESKTOP_THEME:-none}" XCURSOR_PATH="$folder" \
+DISPLAY=":$display" QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=$theme XCURSOR_PATH="$folder" \
     XDG_RUNTIME_DIR="$folder" "$@"

@@ -31,12 +31,13 @@ protected:
 
     void Run(Form& form, const std::function<void(User&)>& work) {
         ShellTest::Run(form, [&](User& user) {
-            const FormWindow& window = *platform.WindowOf(form);
+            FormWindow& window = *platform.WindowOf(form);
             // Not under the pointer, which is in the middle of all screens.
             if (window.screen() != &Where())
-                user.MoveWindow(window, Where().geometry().topLeft() + QPoint(800, 100));
+                user.MoveWindow(window, Where().geometry().topLeft() + QPoint(100, 60));
             EXPECT_TRUE(user.Sees(
                 [&] { return window.screen() == &Where() && window.size() == window.maximumSize(); }));
+            EXPECT_TRUE(user.SeesPainted(window));
             work(user);
         });
     }

@@ -18,16 +18,6 @@
 namespace coinlet::test {
 namespace {
 
-/// What a window paints on a screen of that scale, painted from the beginning.
-QImage PaintedAnew(QWidget& window, double scale) {
-    QImage picture((QSizeF(window.size()) * scale).toSize(), QImage::Format_RGB32);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::magenta);
-    window.render(&picture);
-    picture.setDevicePixelRatio(1);
-    return picture;
-}
-
 template <class Window>
 Window* Shown() {
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -50,7 +40,9 @@ protected:
     void ComesTo(User& user, QWidget& window, int number) {
         QSize size;
         user.Has([&] { size = window.size(); });
-        user.MoveWindow(window, ScreenAt(number).geometry().topLeft() + QPoint(40, 30));
+        // At a whole pixel of the program, whatever the scale in quarters.
+        constexpr int aside = 210;
+        user.MoveWindow(window, ScreenAt(number).geometry().topLeft() + QPoint(aside, aside));
         EXPECT_TRUE(user.Sees([&] {
             return window.screen() == &ScreenAt(number) && window.devicePixelRatioF() == Scale(number) &&
                    window.size() == size;
@@ -59,14 +51,11 @@ protected:
         ExpectSharp(user, window);
     }
 
-    void ExpectSharp(User& user, QWidget& window) {
+    static void ExpectSharp(User& user, QWidget& window) {
+        if (user.SeesPainted(window)) return;
         QImage painted;
-        bool alike = false;
-        for (int attempt = 0; attempt < 100 && !alike; ++attempt) {
-            user.Has([&] { painted = PaintedAnew(window, window.devicePixelRatioF()); });
-            alike = user.LookAt(window) == painted;
-        }
-        EXPECT_TRUE(alike) << window.windowTitle().toStdString() << Differences(user.LookAt(window), painted);
+        user.Has([&] { painted = PaintedAnew(window); });
+        ADD_FAILURE() << window.windowTitle().toStdString() << Differences(user.LookAt(window), painted);
     }
 
     static std::string Differences(const QImage& one, const QImage& other) {
@@ -96,7 +85,8 @@ TEST_F(TwoScreens, TheMainWindowIsSharpOnBoth) {
         const QImage first = user.LookAt(window);
         ComesTo(user, window, 1);
         const QImage second = user.LookAt(window);
-        EXPECT_EQ(QSizeF(second.size()) / Scale(1), QSizeF(first.size()) / Scale(0));
+        EXPECT_NEAR(second.width() / Scale(1), first.width() / Scale(0), 1);
+        EXPECT_NEAR(second.height() / Scale(1), first.height() / Scale(0), 1);
         // The letters of its captions are finer there, not the same ones enlarged.
         EXPECT_NE(second.scaled(first.size()), first);
 

@@ -57,6 +57,27 @@ QImage User::LookAt(const QWidget& window) {
     return look;
 }
 
+QImage PaintedAnew(QWidget& window) {
+    const double scale = window.devicePixelRatioF();
+    QImage picture((QSizeF(window.size()) * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::magenta);
+    window.render(&picture);
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
+bool User::SeesPainted(QWidget& window) {
+    const auto patience = std::chrono::steady_clock::now() + 20s;
+    while (std::chrono::steady_clock::now() < patience) {
+        QImage painted;
+        Has([&] { painted = PaintedAnew(window); });
+        if (LookAt(window) == painted) return true;
+        std::this_thread::sleep_for(20ms);
+    }
+    return false;
+}
+
 void User::MoveWindow(const QWidget& window, const QPoint& place) {
     WId id = 0;
     Has([&] { id = window.windowHandle()->winId(); });

@@ -48,6 +48,9 @@ public:
     void MoveWindow(const QWidget& window, const QPoint& place);
     /// What a screen shows of a window, in pixels of the screen. Nothing may lie before it.
     QImage LookAt(const QWidget& window);
+    /// Waits until the screen shows of a window what the window paints, in pixels of that screen; false if it
+    /// doesn't come to that.
+    bool SeesPainted(QWidget& window);
     /// The colour that the screen shows there.
     int ColourAt(const QPoint& place);
 
@@ -57,6 +60,9 @@ private:
 
     QtPlatform& platform_;
 };
+
+/// What a window paints on the screen that it is on, painted from the beginning.
+QImage PaintedAnew(QWidget& window);
 
 /// A test with a platform; fonts are blocks, so that the test needs none.
 class ShellTest : public ::testing::Test {
