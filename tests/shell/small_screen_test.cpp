@@ -1,10 +1,12 @@
 // Windows on a screen that has no room for the whole of them.
 
+#include "controls/pointed_picture.h"
 #include "sample_form.h"
 #include "shell/form_window.h"
 #include "shell/screen_room.h"
 #include "user.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
@@ -175,6 +177,49 @@ TEST_F(SmallScreen, TheTabKeyBringsTheFocusIntoView) {
                 return form.Focus() == &form.Knop[next] && IsSeen(form.Knop[next]);
             })) << next;
         }
+    });
+}
+
+/// A picture that is larger than the screen, and on which keys point.
+struct LargePictureForm : Form {
+    explicit LargePictureForm(FormServices services) : Form(services, "Main") {
+        Width = (ScreenSize().width() + 300) * 15;
+        Height = (ScreenSize().height() + 200) * 15;
+        Pic.Move(0, 0, Width, Height);
+        Pic.MouseMove = [this](int, int, float x, float y) { place = {x, y}; };
+    }
+    PointedPicture Pic{*this, "Pic"};
+    QPointF place;
+};
+
+TEST_F(SmallScreen, ThePointerThatKeysMoveStaysInSight) {
+    LargePictureForm form(services);
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            form.Pic.SetFocus();
+            platform.Mirror();
+        });
+        const QPoint corner(form.Pic.PixelWidth() - 1, form.Pic.PixelHeight() - 1);
+        user.Has([&] {
+            AreaOf(form).horizontalScrollBar()->setValue(0);
+            AreaOf(form).verticalScrollBar()->setValue(0);
+            form.Pic.PointerMoved(noButton, 0, static_cast<float>(corner.x() - 15),
+                                  static_cast<float>(corner.y() - 15));
+        });
+        const auto isAt = [&](const QPoint& place) {
+            const QWidget& widget = platform.WindowOf(form)->ViewOf(form.Pic)->Widget();
+            const QPoint seen = widget.mapFromGlobal(QCursor::pos());
+            return form.place == QPointF(place) && (seen - place).manhattanLength() <= 2 &&
+                   widget.visibleRegion().contains(seen);
+        };
+        user.Key("shift+Right");
+        EXPECT_TRUE(user.Sees([&] { return isAt(corner - QPoint(5, 15)); }));
+        user.Key("shift+Down");
+        EXPECT_TRUE(user.Sees([&] { return isAt(corner - QPoint(5, 5)); }));
+        user.Has([&] { form.Pic.PointerMoved(noButton, 0, 15, 15); });
+        user.Key("shift+Left");
+        user.Key("shift+Left");
+        EXPECT_TRUE(user.Sees([&] { return isAt({0, 15}); }));
     });
 }
 
