@@ -90,11 +90,12 @@ TEST_F(PointedPictureTest, ArrowsMoveThePointerByOneOrTen) {
 
 TEST_F(PointedPictureTest, OtherKeysAreSomebodyElses) {
     form.Pic.SetFocus();
-    for (const int shift : {controlHeld, altHeld})
+    for (const int shift : {controlHeld, altHeld}) {
         for (const int code : {keyRight, keySpace, keyF10}) {
             EXPECT_FALSE(form.Pic.WantsKey(code, shift));
             Press(code, shift);
         }
+    }
     for (const int code : {keyF10, keyReturn, keyHome, keyEnd, static_cast<int>('A')}) {
         EXPECT_FALSE(form.Pic.WantsKey(code, 0));
         Press(code);
