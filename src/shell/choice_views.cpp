@@ -78,7 +78,7 @@ private:
         const QRect around = text.isEmpty()
                                  ? QRect(0, 0, toggleMark, widget.height())
                                  : painter.boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, text);
-        PaintFocusRing(painter, around.adjusted(-3, -1, 3, 1).intersected(widget.rect()));
+        PaintFocusRing(painter, around.adjusted(-4, -2, 4, 2).intersected(widget.rect()));
     }
 
     /// At the left, `top` pixels from the upper edge; its outline lies on whole pixels of the screen.

@@ -40,8 +40,9 @@ void DevicePixels::Fill(const QRect& rectangle, const QColor& colour) {
     painter_.fillRect(Of(rectangle), colour);
 }
 
-void DevicePixels::Frame(const QRect& rectangle, const QColor& colour) {
-    const QRect box = Of(rectangle);
+void DevicePixels::Frame(const QRect& rectangle, const QColor& colour, int framesAround) {
+    const int inward = framesAround * Thickness(1);
+    const QRect box = Of(rectangle).adjusted(inward, inward, -inward, -inward);
     if (box.isEmpty()) return;
     const int thickness = std::min({Thickness(1), box.width(), box.height()});
     const int right = box.right() + 1 - thickness, bottom = box.bottom() + 1 - thickness;

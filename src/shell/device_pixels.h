@@ -24,8 +24,9 @@ public:
     int Thickness(int width) const;
 
     void Fill(const QRect& rectangle, const QColor& colour);
-    /// A frame of one pixel's width along the inside of the rectangle's edges: all four lines of it.
-    void Frame(const QRect& rectangle, const QColor& colour);
+    /// A frame of one pixel's width along the inside of the rectangle's edges, or along that of so many such
+    /// frames: all four lines of it.
+    void Frame(const QRect& rectangle, const QColor& colour, int framesAround = 0);
 
 private:
     QPainter& painter_;

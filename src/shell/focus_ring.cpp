@@ -1,5 +1,6 @@
 #include "shell/focus_ring.h"
 
+#include "shell/device_pixels.h"
 #include "shell/look.h"
 #include "shell/painted_widget.h"
 
@@ -48,11 +49,9 @@ void FocusRing::Surround(QWidget* widget) {
 }
 
 void PaintFocusRing(QPainter& painter, const QRect& frame) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(ToQColor(focusRingColour));
-    painter.drawRect(frame.adjusted(0, 0, -1, -1));
-    painter.setPen(ToQColor(white));
-    painter.drawRect(frame.adjusted(1, 1, -2, -2));
+    DevicePixels screen(painter);
+    screen.Frame(frame, ToQColor(focusRingColour));
+    screen.Frame(frame, ToQColor(white), 1);
 }
 
 }  // namespace coinlet
