@@ -105,6 +105,33 @@ TEST_F(Scaled, FramesHaveAllFourLines) {
     });
 }
 
+TEST_F(Scaled, TheRingAroundACaptionIsEven) {
+    constexpr QRgb ring = qRgb(60, 127, 177), inner = qRgb(255, 255, 255);
+    Run(form, [&](User& user) {
+        user.Has([&] { form.Check1.SetFocus(), platform.Mirror(); });
+        QImage look;
+        QRect found;
+        EXPECT_TRUE(user.Sees([&] {
+            look = Look(form.Check1);
+            for (int y = 0; y < look.height(); ++y)
+                for (int x = 0; x < look.width(); ++x)
+                    if (look.pixel(x, y) == ring) found |= QRect(x, y, 1, 1);
+            return !found.isEmpty();
+        }));
+        const QImage box = look.copy(found);
+        for (const int turn : {0, 90, 180, 270}) {
+            SCOPED_TRACE(turn);
+            const QImage turned = box.transformed(QTransform().rotate(turn));
+            const int thickness = Thickness(), width = turned.width();
+            for (int i = 0; i < thickness; ++i) {
+                EXPECT_TRUE(IsLine(turned, i, 0, width, ring));
+                EXPECT_TRUE(IsLine(turned, thickness + i, thickness, width - thickness, inner));
+            }
+            EXPECT_FALSE(IsLine(turned, 2 * thickness, 2 * thickness, width - 2 * thickness, inner));
+        }
+    });
+}
+
 TEST_F(Scaled, FieldsHaveALineOnEverySide) {
     Run(form, [&](User& user) {
         user.Has([&] {
