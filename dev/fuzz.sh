@@ -9,7 +9,9 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 figures=tests/fuzz/figures.tsv
-programs=build/fuzz/tests/fuzz
+# Told whole: a target may work in a folder of its own.
+work=$PWD/build/fuzz
+programs=$work/tests/fuzz
 # Small files that live for a moment, in memory if there is such a folder.
 if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
 
@@ -45,20 +47,20 @@ longest_run=300
 
 # run TARGET SECONDS: false if something was found.
 run() {
-    local target=$1 seconds=$2 log=build/fuzz/$1.log corpus=build/fuzz/corpus/$1 found=build/fuzz/found/$1
-    mkdir -p "$corpus" "$found" "tests/fuzz/seeds/$target"
+    local target=$1 seconds=$2 log=$work/$1.log corpus=$work/corpus/$1 found=$work/found/$1 seeds=$PWD/tests/fuzz/seeds/$1
+    mkdir -p "$corpus" "$found" "$seeds"
     COINLET_SOUND_FILES="$corpus" "$programs/target_$target"
     while [ "$seconds" -gt 0 ]; do
         local part=$((seconds < longest_run ? seconds : longest_run)) outcome=0 spent
         seconds=$((seconds - part))
         spent=$(TIMEFORMAT='%U %S'; { time \
-            "$programs/target_$target" "$corpus" "tests/fuzz/seeds/$target" -max_total_time="$part" -timeout=10 \
+            "$programs/target_$target" "$corpus" "$seeds" -max_total_time="$part" -timeout=60 \
             -rss_limit_mb=4000 -entropic_scale_per_exec_time=1 -artifact_prefix="$found/" -print_final_stats=1 \
             >"$log" 2>&1; } 2>&1) || outcome=$?
         note "$target" "$(awk '/^stat::number_of_executed_units/ { n = $2 } END { print n + 0 }' "$log")" \
             "$(awk '$3 == "cov:" { n = $4 } END { print n + 0 }' "$log")" "$(awk '{ print $1 + $2 }' <<<"$spent")"
         if [ "$outcome" -ne 0 ]; then
-            echo "$target: found something; see $log and $found"
+            echo "$target: found something; see $log and $found (COINLET_FUZZ_SCRIPT=FILE makes a script of one for the program)"
             return 1
         fi
     done
@@ -66,13 +68,13 @@ run() {
 }
 
 keep() {
-    local target=$1 seeds=tests/fuzz/seeds/$1 kept=build/fuzz/kept/$1
+    local target=$1 seeds=$PWD/tests/fuzz/seeds/$1 kept=$work/kept/$1 corpus=$work/corpus/$1
     rm -rf "$kept"
-    mkdir -p "$kept" "$seeds" "build/fuzz/corpus/$target"
+    mkdir -p "$kept" "$seeds" "$corpus"
     # Seeds that somebody gave a name stay; the others have their checksums for names.
     find "$seeds" -type f ! -regextype posix-extended ! -regex '.*/[0-9a-f]{40}' -exec cp {} "$kept" \;
-    "$programs/target_$target" -merge=1 -use_counters=0 -timeout=10 -rss_limit_mb=4000 \
-        "$kept" "$seeds" "build/fuzz/corpus/$target" 2>&1 | grep -E 'MERGE-OUTER: .* new files' || true
+    "$programs/target_$target" -merge=1 -use_counters=0 -timeout=60 -rss_limit_mb=4000 \
+        "$kept" "$seeds" "$corpus" 2>&1 | grep -E 'MERGE-OUTER: .* new files' || true
     rm -rf "$seeds"
     mv "$kept" "$seeds"
     echo "$target: $(find "$seeds" -type f | wc -l) seeds, $(du -bs "$seeds" | cut -f1) bytes"

@@ -265,8 +265,9 @@ std::string OrderKey(std::string_view utf8) {
     // The base letters rule, then accents, then case: each is looked at where all before it are the same.
     std::string key;
     key.reserve(3 * utf8.size() + 2);
+    // What parts them is below every letter, a zero byte too.
     for (const char32_t letter : BaseLetters(utf8))
-        AppendInOrder(key, letter);
+        AppendInOrder(key, letter + 1);
     key += '\0';
     key += LowerCase(utf8);
     key += '\0';

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <random>
 #include <span>
 
@@ -14,9 +15,19 @@ class Dice {
 public:
     explicit Dice(std::uint32_t seed) : random_(seed) {}
 
-    std::uint32_t Next() { return static_cast<std::uint32_t>(random_()); }
+    /// The bytes, which it keeps, make the choices, as few of them each as will do: what a fuzzer does to
+    /// them is done to single choices. When they are used up, a seed goes on.
+    explicit Dice(std::span<const std::uint8_t> bytes) : bytes_(bytes.begin(), bytes.end()) {}
+
+    std::uint32_t Next() { return static_cast<std::uint32_t>(bytes_.empty() ? random_() : Taken(4)); }
     /// A number below `limit`, which is above 0.
-    std::size_t Below(std::size_t limit) { return random_() % limit; }
+    std::size_t Below(std::size_t limit) {
+        if (bytes_.empty()) return random_() % limit;
+        constexpr std::size_t oneByte = 256;
+        return Taken(limit <= oneByte ? 1 : 4) % limit;
+    }
+    /// True if it was made of bytes, and none is left.
+    bool IsUsedUp() const { return hasTaken_ && bytes_.empty(); }
     /// A whole number from `lowest` to `highest`.
     int Between(int lowest, int highest) {
         return lowest + static_cast<int>(Below(static_cast<std::size_t>(highest - lowest) + 1));
@@ -29,7 +40,19 @@ public:
     }
 
 private:
+    std::size_t Taken(int count) {
+        std::size_t number = 0;
+        for (; count > 0 && !bytes_.empty(); --count) {
+            number = number << 8 | bytes_.front();
+            bytes_.pop_front();
+        }
+        hasTaken_ = true;
+        return number;
+    }
+
     std::mt19937 random_;
+    std::deque<std::uint8_t> bytes_;
+    bool hasTaken_ = false;
 };
 
 }  // namespace coinlet::test

@@ -68,7 +68,7 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed,
     const player::Places places(folder / "app", folder / "out", folder.Path());
     std::ofstream lines(script);
     std::cout << "seed " << seed << ", steps in " << script.string() << std::endl;  // Before any crash.
-    test::RandomUser user(seed, rounds, std::move(favourites), places, lines);
+    test::RandomUser user(test::Dice(seed), rounds, std::move(favourites), places, lines);
     const bool isSound = player::ScriptRun(script.string(), user, places, libraries, std::cout).Play();
     fs::current_path(fs::temp_directory_path());
     std::cout << user.Steps() << " steps\n";

@@ -1,12 +1,12 @@
-// Texts from outside that are damaged or hostile: settings, language tables, the text about the program, and
-// scripts. No reader crashes or hangs, and what is read is what such a text may hold.
+// Texts from outside that are damaged or hostile, alone and at the start of the program; and scripts. No
+// reader crashes or hangs, and what is read is what such a text may hold.
 #include "base/files.h"
 #include "base/text.h"
 #include "coinlet_program.h"
-#include "core/language.h"
 #include "core/main_form.h"
-#include "core/settings.h"
 #include "fuzz/harness.h"
+#include "fuzz/targets/targets.h"
+#include "fuzz/texts.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
 #include "player/commands.h"
@@ -25,40 +25,8 @@ namespace coinlet::test {
 namespace {
 
 namespace fs = std::filesystem;
-using File = std::span<const std::uint8_t>;
-
-std::string_view AsText(File file) {
-    return {reinterpret_cast<const char*>(file.data()), file.size()};
-}
-
-Bytes TextFile(std::string_view text) {
-    return {text.begin(), text.end()};
-}
 
 // --- Application folder -----------------------------------------------------------------------------------
-
-/// A folder to start the program in, in which one file is damaged.
-class ApplicationFolder {
-public:
-    ApplicationFolder() { fs::create_directories(folder_ / "Data"); }
-
-    const fs::path& Path() const { return folder_.Path(); }
-    /// Some disks are in no hurry with a new file, but wait for one that is written over.
-    void Write(const fs::path& name, File file) const {
-        fs::remove(folder_ / name);
-        folder_.Write(name, AsText(file));
-    }
-
-private:
-    TemporaryFolder folder_;
-};
-
-Outcome JudgeLanguageSetting(const ApplicationFolder& folder, File file) {
-    folder.Write("Coinlet.ini", file);
-    const auto language = ReadLanguageSetting(folder.Path());
-    if (!language) return {};
-    return {true, language->find_first_of(",\r\n") == std::string::npos ? "" : "more than a name is read"};
-}
 
 /// Nobody acts: the program starts, and that is all.
 class NoUser : public player::ScriptReader {
@@ -80,10 +48,15 @@ std::string FaultOfTable(const MainForm& main) {
 /// Starts programs in a folder of its own, where one file is damaged and the others are sound.
 class Starter {
 public:
-    Starter() { folder_.Write("Coinlet.ini", TextFile("a\r\nb\r\nEnglish\r\n")); }
+    Starter() {
+        fs::create_directories(folder_ / "Data");
+        folder_.Write("Coinlet.ini", "a\r\nb\r\nEnglish\r\n");
+    }
 
     Outcome StartWith(const fs::path& name, File file) {
-        folder_.Write(name, file);
+        // Some disks are in no hurry with a new file, but wait for one that is written over.
+        fs::remove(folder_ / name);
+        folder_.Write(name, AsText(file));
         player::World world{player::Places(folder_.Path(), folder_.Path(), folder_.Path()), {}, {}, {}, {}};
         const player::Libraries libraries{fonts_, codecs_, MakeCoinlet};
         NoUser user;
@@ -95,7 +68,7 @@ public:
     }
 
 private:
-    ApplicationFolder folder_;
+    TemporaryFolder folder_;
     QtFontEngine fonts_;
     MediaCodecs codecs_;
 };
@@ -135,11 +108,6 @@ Outcome JudgeScript(File file) {
     return outcome;
 }
 
-const std::vector<Bytes> settings{TextFile("Name\r\n----\r\nNederlands\r\n"), TextFile("a\nb\nEnglish,x\n"),
-                                  TextFile("\r\r\r")};
-const std::vector<Bytes> tables{TextFile("001 Choose a tool.\r\n004 The tools\xE9 are back.\r\n\r\n999\r\n"),
-                                TextFile("001\n  \n0077\x80\x81\xFF\n")};
-const std::vector<Bytes> abouts{TextFile("TITLE\r\n\r\n  A text\xE9\x80 of some lines.\r\nThe end\r\n")};
 const std::vector<Bytes> scripts{
     TextFile("# a comment\r\nset Main.Knop(5).Caption \"a \\\"b\\\" \\\\ \\r\\n\"\r\n"
              "press Main.Pic 1 -2.5 3e2\ninterrupt 1 try click Main.File\n"),
@@ -153,18 +121,26 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): a broke
     using test::File;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication qt(argc, argv);
-    const test::ApplicationFolder settingFolder;
+    const test::Reader settings = test::SettingsReader(), tables = test::LanguageTableReader(),
+                       abouts = test::AboutTextReader();
     test::Starter settingStarter, tableStarter, aboutStarter;
     constexpr std::size_t slow = 50;  // A start of the program takes that much longer than reading a file.
     const std::vector<test::Reader> readers{
+        settings,
+        tables,
+        abouts,
+        test::PmsTableReader(),
+        test::CollectionReader(),
+        test::InfoTextReader(),
+        test::BackNamesReader(),
+        test::NumbersReader(),
+        test::NamesReader(),
         {"script", test::scripts, test::JudgeScript},
-        {"language setting", test::settings,
-         [&](File file) { return JudgeLanguageSetting(settingFolder, file); }},
-        {"settings at the start", test::settings,
+        {"settings at the start", settings.files,
          [&](File file) { return settingStarter.StartWith("Coinlet.ini", file); }, slow},
-        {"language table", test::tables,
+        {"language table at the start", tables.files,
          [&](File file) { return tableStarter.StartWith("Data/English.txt", file); }, slow},
-        {"text about the program", test::abouts,
+        {"text about the program at the start", abouts.files,
          [&](File file) { return aboutStarter.StartWith("Data/About.inf", file); }, slow}};
     constexpr std::size_t usualRounds = 15000;
     return test::Fuzz(readers, usualRounds, argc, argv);

@@ -101,9 +101,9 @@ std::string AnyLine(const Chance& chance, std::span<const WeightedMaker> makers)
     }
 }
 
-RandomUser::RandomUser(std::uint32_t seed, std::size_t steps, std::vector<std::string> favourites,
+RandomUser::RandomUser(Dice dice, std::size_t steps, std::vector<std::string> favourites,
                        const player::Places& places, std::ostream& script)
-    : dice_(seed),
+    : dice_(std::move(dice)),
       steps_(steps),
       places_(places),
       script_(script),
@@ -118,7 +118,7 @@ std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
         if (const std::string fault = faults_.Find(life->platform); !fault.empty()) player::Fail(fault);
         if (life->platform.Ended()) CheckFilesAfterEnd();
     }
-    if (step_ == steps_) return std::nullopt;
+    if (step_ == steps_ || dice_.IsUsedUp()) return std::nullopt;
     ++step_;
     std::string line = MakeLine(life);
     script_ << line << std::endl;  // A crash must not take it away.

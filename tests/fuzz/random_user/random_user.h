@@ -21,10 +21,13 @@ namespace coinlet::test {
 /// played again. Before each line he looks whether the program is still sound.
 class RandomUser : public player::LineSource {
 public:
-    /// He stops after `steps` lines. `script` takes each line before it is done. The dialogs of `favourites`
-    /// he opens more often than others.
-    RandomUser(std::uint32_t seed, std::size_t steps, std::vector<std::string> favourites,
+    /// He stops after `steps` lines, or when the dice are used up. `script` takes each line before it is
+    /// done. The dialogs of `favourites` he opens more often than others.
+    RandomUser(Dice dice, std::size_t steps, std::vector<std::string> favourites,
                const player::Places& places, std::ostream& script);
+
+    /// From the first line on there are assignments and raised events.
+    void BeLawless() { lives_ = lawlessLife; }
 
     /// Throws ScriptFailure when the program isn't sound.
     std::optional<player::ScriptLine> NextLine(player::Life* life) override;
@@ -50,7 +53,8 @@ private:
     void PrepareRestart();
     /// In each fourth life of the program there are assignments and raised events too, whatever a user could
     /// do.
-    bool IsLawless() const { return lives_ % 4 == 2; }
+    bool IsLawless() const { return lives_ % 4 == lawlessLife; }
+    static constexpr std::size_t lawlessLife = 2;
     /// In each fourth life files are damaged.
     bool IsAmongDamage() const { return lives_ % 4 == 3; }
     void CheckFilesAfterEnd();

@@ -70,11 +70,12 @@ private:
         };
         constexpr Way ways[] = {{10, Edges::Crisp, 0}, {150, Edges::Crisp, 0}, {24, Edges::Smooth, 33}};
         constexpr std::string_view text = "!Aq~";
+        constexpr TextWindow surface{-200, -200, 800, 600};
         for (const Way& way : ways) {
             const FontSpec font{.name = family, .size = way.size};
             const TextExtent extent = fonts_->Measure(font, text);
             if (extent.height < 0 || extent.width < 0) return "a line of negative size";
-            std::string wrong = FaultOfMask(fonts_->Render(font, text, way.edges, way.angle));
+            std::string wrong = FaultOfMask(fonts_->RenderSeen(font, text, way.edges, way.angle, surface));
             if (!wrong.empty()) return wrong;
         }
         return "";

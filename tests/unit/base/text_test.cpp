@@ -170,6 +170,19 @@ void ExpectOrder(const Texts& texts) {
     }
 }
 
+TEST(ComesBefore, AZeroByteIsTheLowestLetter) {
+    // Of two texts of which one begins with the other, the shorter one comes first, whatever letters are
+    // theirs.
+    using namespace std::string_literals;
+    const std::vector<std::string> sorted{"x"s, "x\0"s, "x\0 "s, "x\0é"s, "x "s, "xa"s, "xé"s};
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        for (std::size_t j = 0; j < sorted.size(); ++j) {
+            EXPECT_EQ(ComesBefore(sorted[i], sorted[j]), i < j) << i << ' ' << j;
+            EXPECT_EQ(OrderKey(sorted[i]) < OrderKey(sorted[j]), i < j) << i << ' ' << j;
+        }
+    }
+}
+
 TEST(ComesBefore, PutsLettersWithAccentsBesideTheirBaseLetter) {
     ExpectOrder({"Ängel", "Anton", "Zulu"});
     ExpectOrder({"Ebro", "Echo", "éclair", "edel", "Zulu"});
