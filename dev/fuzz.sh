@@ -72,7 +72,7 @@ keep() {
     rm -rf "$kept"
     mkdir -p "$kept" "$seeds" "$corpus"
     # Seeds that somebody gave a name stay; the others have their checksums for names.
-    find "$seeds" -type f ! -regextype posix-extended ! -regex '.*/[0-9a-f]{40}' -exec cp {} "$kept" \;
+    find "$seeds" -regextype posix-extended -type f ! -regex '.*/[0-9a-f]{40}' -exec cp {} "$kept" \;
     "$programs/target_$target" -merge=1 -use_counters=0 -timeout=60 -rss_limit_mb=4000 \
         "$kept" "$seeds" "$corpus" 2>&1 | grep -E 'MERGE-OUTER: .* new files' || true
     rm -rf "$seeds"

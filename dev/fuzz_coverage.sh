@@ -8,14 +8,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 programs=build/coverage/tests/fuzz
 least=95
 
-dev/setup.sh fuzz
-cmake --preset coverage >/dev/null
-cmake --build --preset coverage
-export QT_QPA_PLATFORM=offscreen
-
 show_lines=false
 if [ "${1:-}" = --lines ]; then show_lines=true; shift; fi
 targets=${*:-$(cut -f1 tests/fuzz/readers.tsv | uniq)}
+
+dev/setup.sh fuzz
+cmake --preset coverage >/dev/null
+cmake --build --preset coverage --target $(printf 'target_%s ' $targets)
+export QT_QPA_PLATFORM=offscreen
 
 faults=0
 for target in $targets; do

@@ -1,8 +1,5 @@
-// Where libFuzzer comes in. The build says which reader the target has: COINLET_READER is a function of
-// targets.h.
+// Where libFuzzer comes in.
 #include "fuzz/entry.h"
-
-#include "fuzz/targets/targets.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,7 +8,7 @@
 namespace coinlet::test {
 
 const Reader& TheReader() {
-    static const Reader reader = COINLET_READER();
+    static const Reader reader = MakeReader();
     return reader;
 }
 

@@ -4,7 +4,10 @@
 
 namespace coinlet::test {
 
-/// The reader of the target that is built.
+/// Makes the reader that the target is of; each program has a function of its own.
+Reader MakeReader();
+
+/// It, made once.
 const Reader& TheReader();
 
 /// Hands the bytes to it. Whatever is wrong with what it makes of them ends the process as a crash would.
