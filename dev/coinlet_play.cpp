@@ -23,6 +23,6 @@ int main(int argc, char* argv[]) {
     }
     QtFontEngine fonts;
     const MediaCodecs codecs;
-    const player::Libraries libraries{fonts, codecs, MakeCoinlet};
+    const player::Libraries libraries{fonts, codecs, MakeCoinlet, options->state};
     return player::PlayAll(*options, libraries, std::cout);
 }

@@ -6,12 +6,14 @@ std::optional<Options> ReadCommandLine(const std::vector<std::string>& words) {
     Options options;
     for (auto word = words.begin(); word != words.end(); ++word) {
         const bool isFolder = *word == "--folder", isOut = *word == "--out";
-        if (isFolder || isOut) {
+        if (isFolder || isOut || *word == "--state") {
             if (++word == words.end()) return std::nullopt;
             if (isFolder) {
                 options.folder = *word;
-            } else {
+            } else if (isOut) {
                 options.out = *word;
+            } else {
+                options.state = *word;
             }
         } else if (word->starts_with("--")) {
             return std::nullopt;

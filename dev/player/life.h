@@ -8,6 +8,7 @@
 #include "player/program.h"
 #include "player/virtual_clock.h"
 
+#include <filesystem>
 #include <vector>
 
 namespace coinlet::player {
@@ -17,6 +18,8 @@ struct Libraries {
     FontEngine& fonts;
     const PictureCodecs& codecs;
     ProgramMaker makeProgram;
+    /// Where work that isn't stored is kept for the next start; with an empty one it isn't.
+    std::filesystem::path recoveryFolder = {};
 };
 
 /// The world around the program, as one script finds and changes it. It outlives the program when that is
@@ -44,7 +47,8 @@ struct Life {
                    desktop,
                    world.clipboard,
                    printer,
-                   grab} {
+                   grab,
+                   libraries.recoveryFolder} {
         platform.Screen = world.screen;
         program = libraries.makeProgram(services);
     }

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <ostream>
+#include <system_error>
 
 namespace coinlet::player {
 
@@ -30,7 +32,7 @@ bool ScriptRun::Play() {
         if (life_) {
             world_.screen = life_->platform.Screen;
             world_.screen.MousePointer = defaultPointer;
-            life_.reset();
+            EndLife();
         }
         interrupts_.clear();
     } while (stop_ == Stop::Restart);
@@ -80,6 +82,18 @@ void ScriptRun::ServeInterrupts() {
 void ScriptRun::StartProgram() {
     life_.emplace(static_cast<ScriptReader&>(*this), world_, libraries_);
     life_->program->Start();
+}
+
+void ScriptRun::EndLife() {
+    namespace fs = std::filesystem;
+    const fs::path kept = libraries_.recoveryFolder;
+    const bool isKilled = !kept.empty() && !life_->platform.Ended();
+    const fs::path aside = kept.string() + ".aside";
+    std::error_code isMissing;
+    // Objects clear up after themselves; a killed process doesn't.
+    if (isKilled) fs::rename(kept, aside, isMissing);
+    life_.reset();
+    if (isKilled && !isMissing) fs::rename(aside, kept, isMissing);
 }
 
 void ScriptRun::Perform(const Call& call) {

@@ -55,6 +55,8 @@ private:
     void ProgramEnding() override { lines_.ProgramEnding(); }
 
     void StartProgram();
+    /// Ends its life, if it hasn't ended by itself: as one that is killed, which takes nothing away.
+    void EndLife();
     /// Does `action`; a failure in it is one of the line that was begun last, and ends the script.
     void Guard(const std::function<void()>& action);
     void ReportFailure(const std::string& reason);

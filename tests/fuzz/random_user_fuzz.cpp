@@ -64,7 +64,7 @@ bool Play(const fs::path& script, std::size_t rounds, std::uint32_t seed,
 
     QtFontEngine fonts;
     const MediaCodecs codecs;
-    const player::Libraries libraries{fonts, codecs, MakeCoinlet};
+    const player::Libraries libraries{fonts, codecs, MakeCoinlet, folder / "state"};
     const player::Places places(folder / "app", folder / "out", folder.Path());
     std::ofstream lines(script);
     std::cout << "seed " << seed << ", steps in " << script.string() << std::endl;  // Before any crash.
@@ -94,6 +94,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): a broke
         return EXIT_SUCCESS;
     }
     PrintEnd(script);
-    std::cout << "all of it again: tests/scenarios/run_scenario.sh PLAYER data " << script.string() << '\n';
+    std::cout << "all of it again: WITH_STATE=1 tests/scenarios/run_scenario.sh PLAYER data "
+              << script.string() << '\n';
     return EXIT_FAILURE;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Plays one script in a fresh application folder:
 #   run_scenario.sh PLAYER DATA SCRIPT
+# With WITH_STATE=1 before it unsaved work comes back after a restart, as it does for users.
 # A script NAME.fails.play is one that must fail; its last comment `# fails: TEXT` is found in the output.
 set -euo pipefail
 player=$1 data=$2 script=$3
@@ -12,8 +13,10 @@ cp -R "$data" "$work/application"
 rm -rf "$work/application/Ontwerpen"
 mkdir -p "$work/application/Ontwerpen" "$work/application/Collection"
 
+options=(--folder "$work/application" --out "$work/out")
+if [ -n "${WITH_STATE:-}" ]; then options+=(--state "$work/state"); fi
 status=0
-output=$("$player" --folder "$work/application" --out "$work/out" "$script" 2>&1) || status=$?
+output=$("$player" "${options[@]}" "$script" 2>&1) || status=$?
 printf '%s\n' "$output"
 
 case $script in

@@ -178,6 +178,12 @@ void RandomUser::PrepareRestart() {
     ++lives_;
     std::ranges::move(healing_, std::back_inserter(prepared_));
     healing_.clear();
+    // With each start unsaved work comes back as a design: too many take too long to be looked through.
+    constexpr std::size_t manyDesigns = 40;
+    if (ListFiles(places_.Application() / "Ontwerpen", "*").size() > manyDesigns) {
+        prepared_.emplace_back("delete-folder Ontwerpen");
+        prepared_.emplace_back("make-folder Ontwerpen");
+    }
     if (IsAmongDamage()) {
         Damage damage = DamageAThird(dice_, places_.Application());
         std::ranges::move(damage.lines, std::back_inserter(prepared_));

@@ -128,8 +128,10 @@ TEST(Keys, KnowTheCodesOfCharacters) {
 }
 
 TEST(ReadCommandLine, TakesFoldersAndScripts) {
-    const auto options = ReadCommandLine({"--folder", "app", "a.play", "--out", "o", "b.play"});
+    const auto options =
+        ReadCommandLine({"--folder", "app", "a.play", "--out", "o", "--state", "s", "b.play"});
     ASSERT_TRUE(options);
+    EXPECT_EQ(options->state, "s");
     EXPECT_EQ(options->folder, "app");
     EXPECT_EQ(options->out, "o");
     ASSERT_EQ(options->scripts.size(), 2U);
