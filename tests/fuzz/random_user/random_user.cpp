@@ -180,9 +180,10 @@ void RandomUser::PrepareRestart() {
     healing_.clear();
     // With each start unsaved work comes back as a design: too many take too long to be looked through.
     constexpr std::size_t manyDesigns = 40;
-    if (ListFiles(places_.Application() / "Ontwerpen", "*").size() > manyDesigns) {
-        prepared_.emplace_back("delete-folder Ontwerpen");
-        prepared_.emplace_back("make-folder Ontwerpen");
+    const fs::path designs = places_.Application() / "Ontwerpen";
+    if (ListFiles(designs, "*").size() > manyDesigns) {
+        for (const std::string& name : ListFiles(designs, "Recovered *;Hersteld *"))
+            prepared_.push_back("delete-file \"Ontwerpen/" + name + "\"");
     }
     if (IsAmongDamage()) {
         Damage damage = DamageAThird(dice_, places_.Application());

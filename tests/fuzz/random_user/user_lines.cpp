@@ -2,6 +2,7 @@
 
 #include "app/dialogs.h"
 #include "controls/combo_box.h"
+#include "controls/file_boxes.h"
 #include "controls/list_box.h"
 #include "controls/menu.h"
 #include "controls/scroll_bar.h"
@@ -239,6 +240,12 @@ std::string PickRow(const Chance& chance) {
     return list ? PickRowOf(chance, *list) : "";
 }
 
+/// Without it lists of the files of a folder stay empty.
+std::string EnterFolder(const Chance& chance) {
+    const Control* const list = PickOf(chance, Reachable<DirListBox>(chance));
+    return list ? "key " + FullNameOf(*list) + " 13" : "";
+}
+
 std::string SlideBar(const Chance& chance, const Control& bar) {
     std::string line = "slide " + FullNameOf(bar);
     for (std::size_t i = 0; i <= chance.dice.Below(3); ++i)
@@ -325,6 +332,7 @@ constexpr WeightedMaker makers[] = {
     {4, Click},
     {4, Slide},
     {4, PickRow},
+    {4, EnterFolder},
     {3, Type},
     {3, Tick},
     {2, PutPointer},
