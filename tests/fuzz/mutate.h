@@ -32,7 +32,7 @@ private:
                                                 &Mutator::SetField,  // Headers are where readers believe.
                                                 &Mutator::CutShort, &Mutator::Remove,  &Mutator::Repeat,
                                                 &Mutator::TakeOther};
-        if (bytes.empty()) bytes = other;
+        if (bytes.empty()) bytes = other.empty() ? Bytes{0} : other;
         (this->*damages[Below(damages.size())])(bytes, other);
     }
 

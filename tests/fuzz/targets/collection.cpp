@@ -59,10 +59,12 @@ private:
 }  // namespace
 
 Reader CollectionReader() {
+    constexpr std::size_t slow = 100;  // What is written is flushed to the disk, which takes its time.
     return {
         "catalogue",
         {TextFile("\"1234-A\"\r\n\"5678-B\"\r\n"), TextFile("\"a, b\" , c\nd\r\n\r\n\"open\r\n  \"\xE9\"x")},
-        [catalogue = std::make_shared<Catalogue>()](File file) { return catalogue->Read(file); }};
+        [catalogue = std::make_shared<Catalogue>()](File file) { return catalogue->Read(file); },
+        slow};
 }
 
 }  // namespace coinlet::test

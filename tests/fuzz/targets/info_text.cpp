@@ -55,12 +55,14 @@ private:
 }  // namespace
 
 Reader InfoTextReader() {
+    constexpr std::size_t slow = 100;  // What is written is flushed to the disk, which takes its time.
     return {
         "info text",
         {TextFile(
              "Ivo Kestrell Software 2014\r\n--------------------------\r\nFirst line.\r\n\r\nLast \xE9\r\n"),
          TextFile("a,b,c\n d \re")},
-        [text = std::make_shared<InfoText>()](File file) { return text->Read(file); }};
+        [text = std::make_shared<InfoText>()](File file) { return text->Read(file); },
+        slow};
 }
 
 }  // namespace coinlet::test

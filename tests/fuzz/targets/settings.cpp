@@ -55,10 +55,12 @@ private:
 }  // namespace
 
 Reader SettingsReader() {
+    constexpr std::size_t slow = 100;  // What is written is flushed to the disk, which takes its time.
     return {"language setting",
             {TextFile("Name\r\n----\r\nNederlands\r\n"), TextFile("a\nb\nEnglish,x\n"), TextFile("\r\r\r"),
              TextFile("a\r\nb\r\n../secret"), TextFile("a\r\nb\r\n..\\secret\r\nc")},
-            [settings = std::make_shared<Settings>()](File file) { return settings->Read(file); }};
+            [settings = std::make_shared<Settings>()](File file) { return settings->Read(file); },
+            slow};
 }
 
 }  // namespace coinlet::test
