@@ -113,9 +113,10 @@ TEST_F(Scaled, TheRingAroundACaptionIsEven) {
         QRect found;
         EXPECT_TRUE(user.Sees([&] {
             look = Look(form.Check1);
-            for (int y = 0; y < look.height(); ++y)
+            for (int y = 0; y < look.height(); ++y) {
                 for (int x = 0; x < look.width(); ++x)
                     if (look.pixel(x, y) == ring) found |= QRect(x, y, 1, 1);
+            }
             return !found.isEmpty();
         }));
         const QImage box = look.copy(found);
@@ -219,9 +220,10 @@ TEST_F(Scaled, CaptionsHaveTheLettersOfLabels) {
             const QImage onLabel = Look(OnScreen(form.Label1, QRect(0, 0, text.width(), text.height())));
             EXPECT_EQ(onButton, onLabel);
             int ink = 0;
-            for (int y = 0; y < onLabel.height(); ++y)
+            for (int y = 0; y < onLabel.height(); ++y) {
                 for (int x = 0; x < onLabel.width(); ++x)
                     ink += onLabel.pixel(x, y) == qRgb(220, 220, 190) ? 0 : 1;
+            }
             EXPECT_GT(ink, 100);
         });
     });
