@@ -58,9 +58,15 @@ void TakeIconsOff(QDialog& dialog) {
         button->setIcon({});
 }
 
+/// What the user answers, for whom the program waits.
+int AnswerTo(QDialog& dialog, BusyWatch& busy) {
+    const BusyWatch::Pause pause(busy);
+    return dialog.exec();
+}
+
 }  // namespace
 
-Answer ShowMessageBox(QWidget* parent, const Message& message) {
+Answer ShowMessageBox(QWidget* parent, const Message& message, BusyWatch& busy) {
     const bool question = message.buttons == MessageButtons::YesNo;
     QMessageBox box(IconOf(message.icon), ToQString(message.title),
                     ToQString(message.prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")),
@@ -71,14 +77,14 @@ Answer ShowMessageBox(QWidget* parent, const Message& message) {
     box.setDefaultButton(ButtonOf(toldNo ? Answer::No : question ? Answer::Yes : Answer::Ok));
     TakeIconsOff(box);
     const SameSizeOnScreens sameSize(box);
-    const int pressed = box.exec();
+    const int pressed = AnswerTo(box, busy);
     const auto* found = std::find_if(std::begin(answers), std::end(answers),
                                      [=](const NamedAnswer& entry) { return entry.button == pressed; });
     return found == std::end(answers) ? (question ? Answer::No : Answer::Ok) : found->answer;
 }
 
 std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
-                         const std::string& standard) {
+                         const std::string& standard, BusyWatch& busy) {
     QInputDialog box(parent);
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
@@ -89,10 +95,11 @@ std::string ShowInputBox(QWidget* parent, const std::string& prompt, const std::
     for (auto* field : box.findChildren<QLineEdit*>())
         KeepToOneLine(*field);
     const SameSizeOnScreens sameSize(box);
-    return box.exec() == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
+    return AnswerTo(box, busy) == QDialog::Accepted ? ToUtf8(box.textValue()) : std::string();
 }
 
-std::string ShowFolderPicker(QWidget* parent, const std::string& title, const std::string& start) {
+std::string ShowFolderPicker(QWidget* parent, const std::string& title, const std::string& start,
+                             BusyWatch& busy) {
     const QString folder = ToQString(start);
     const bool isThere = !folder.isEmpty() && QFileInfo(folder).isDir();
     QFileDialog picker(parent, ToQString(title), isThere ? folder : QDir::homePath());
@@ -100,7 +107,7 @@ std::string ShowFolderPicker(QWidget* parent, const std::string& title, const st
     picker.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog);
     TakeIconsOff(picker);
     const SameSizeOnScreens sameSize(picker);
-    if (picker.exec() != QDialog::Accepted || picker.selectedFiles().isEmpty()) return {};
+    if (AnswerTo(picker, busy) != QDialog::Accepted || picker.selectedFiles().isEmpty()) return {};
     return ToUtf8(picker.selectedFiles().constFirst());
 }
 

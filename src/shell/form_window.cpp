@@ -330,8 +330,12 @@ void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
 void FormWindow::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    const Offer offer = OfferOf(*event->mimeData());
-    if (form_) gate_.Enter([&] { form_->Form_Drop(offer); });
+    if (!form_) return;
+    // The other program may take its time to hand it over.
+    gate_.Enter([&] {
+        const Offer offer = OfferOf(*event->mimeData());
+        if (form_) form_->Form_Drop(offer);
+    });
 }
 
 }  // namespace coinlet

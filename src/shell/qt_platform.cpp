@@ -24,7 +24,8 @@ namespace coinlet {
 /// While it lives, the focus comes and goes within the program: nothing is activated by that.
 class QtPlatform::OwnDialog {
 public:
-    explicit OwnDialog(QtPlatform& platform) : platform_(Mirrored(platform)), pause_(platform.busy_) {
+    explicit OwnDialog(QtPlatform& platform) : platform_(platform) {
+        platform_.Mirror();
         ++platform_.ownDialogs_;
     }
     ~OwnDialog() {
@@ -35,13 +36,7 @@ public:
     OwnDialog& operator=(const OwnDialog&) = delete;
 
 private:
-    static QtPlatform& Mirrored(QtPlatform& platform) {
-        platform.Mirror();
-        return platform;
-    }
-
     QtPlatform& platform_;
-    BusyWatch::Pause pause_;
 };
 
 QtPlatform::QtPlatform()
@@ -142,7 +137,10 @@ void QtPlatform::RunModal(Form& dialog) {
     QEventLoop loop;
     const QPointer<FormWindow> window = WindowOf(dialog);
     loops_.push_back({&dialog, &loop});
-    loop.exec();
+    {
+        const BusyWatch::Pause pause(busy_);
+        loop.exec();
+    }
     loops_.pop_back();
     // All events to its window came in this loop. The handler that showed it may go on for long, and others
     // may come in the meantime: none of them is to wait for with the window.
@@ -174,18 +172,18 @@ void QtPlatform::ServeEventsFor(double seconds) {
 
 Answer QtPlatform::AskMessage(const Message& message) {
     const OwnDialog guard(*this);
-    return ShowMessageBox(FrontWindow(), message);
+    return ShowMessageBox(FrontWindow(), message, busy_);
 }
 
 std::string QtPlatform::AskText(const std::string& prompt, const std::string& title,
                                 const std::string& standard) {
     const OwnDialog guard(*this);
-    return ShowInputBox(FrontWindow(), prompt, title, standard);
+    return ShowInputBox(FrontWindow(), prompt, title, standard, busy_);
 }
 
 std::string QtPlatform::AskFolder(const std::string& title, const std::string& start) {
     const OwnDialog guard(*this);
-    return ShowFolderPicker(FrontWindow(), title, start);
+    return ShowFolderPicker(FrontWindow(), title, start, busy_);
 }
 
 void QtPlatform::ShowPopup(MenuItem& menu, const Control* at) {

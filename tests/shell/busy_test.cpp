@@ -6,6 +6,9 @@
 #include "user.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QProcess>
 #include <QTimer>
 
@@ -39,7 +42,8 @@ protected:
     void RunOver(const std::function<void(User&)>& work) {
         Run(form, [&](User& user) {
             XDoTool("mousemove %1 %2", user.PlaceOf(form.OkKnop, 40, 14));
-            user.Has([] {});
+            ASSERT_TRUE(user.Sees(
+                [&] { return platform.WindowOf(form)->ViewOf(form.OkKnop)->Widget().underMouse(); }));
             usual = ShownPointer();
             ASSERT_TRUE(usual);
             SetHourglass(user, hourglassPointer);
@@ -285,6 +289,40 @@ TEST_F(Busy, BoxWaitsWithoutIt) {
         ASSERT_TRUE(user.Sees([&] { return form.Count("worked") == 1; }));
         EXPECT_EQ(ShownPointer(), usual);
     });
+}
+
+/// What a program hands over that has to be waited for.
+class SlowText : public QMimeData {
+public:
+    explicit SlowText(std::function<void()> wait) : wait_(std::move(wait)) {}
+    QStringList formats() const override { return {QStringLiteral("text/plain")}; }
+    bool hasFormat(const QString& type) const override { return formats().contains(type); }
+
+protected:
+    QVariant retrieveData(const QString&, QMetaType) const override {
+        wait_();
+        return QStringLiteral("/no/such/file");
+    }
+
+private:
+    std::function<void()> wait_;
+};
+
+TEST_F(Busy, ProgramThatHandsOverSlowlyIsWaitedForWithIt) {
+    bool shown = false;
+    const SlowText text([&] { shown = shown || WorksUntilItShows(wait); });
+    RunOver([&](User& user) {
+        user.Has([&] {
+            platform.WindowOf(form)->setAcceptDrops(true);
+            QDragEnterEvent entered(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(platform.WindowOf(form), &entered);
+            EXPECT_FALSE(shown);
+            QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(platform.WindowOf(form), &dropped);
+        });
+        EXPECT_EQ(ShownPointer(), usual);
+    });
+    EXPECT_TRUE(shown);
 }
 
 /// The connections and other things that the program holds open.
