@@ -72,11 +72,12 @@ public:
         }
     }
 
-    /// Ends an object at once: no handler runs that an event to it may have started, though others may.
-    void End(QObject* object) {
-        delete object;
-        // What lay in it is gone too.
-        std::erase_if(retired_, [](const auto& one) { return one.isNull(); });
+    /// Ends an object once the event that is under way is over, though others may be that came before it: no
+    /// handler runs that an event to the object may have started.
+    void End(QObject& object) {
+        // What lay in those that have ended is gone too.
+        std::erase_if(retired_, [&](const auto& one) { return one.isNull() || one == &object; });
+        object.deleteLater();
     }
 
 private:

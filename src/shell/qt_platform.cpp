@@ -144,7 +144,7 @@ void QtPlatform::RunModal(Form& dialog) {
     loops_.pop_back();
     // All events to its window came in this loop. The handler that showed it may go on for long, and others
     // may come in the meantime: none of them is to wait for with the window.
-    if (window && !window->Shown()) gate_.End(window);
+    if (window && !window->Shown()) gate_.End(*window);
 }
 
 void QtPlatform::ServeEvents() {

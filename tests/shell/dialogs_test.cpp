@@ -227,15 +227,16 @@ TEST_F(Windows, DialogCanUnloadItselfInsideANestedWait) {
     });
 }
 
-TEST_F(Windows, NoClosedDialogIsKeptWhileTheHandlerThatShowedItGoesOn) {
-    constexpr int openings = 4;
+TEST_F(Windows, NoClosedDialogIsKeptBecauseHandlersBeforeItGoOn) {
+    // Deeper than handlers wait in each other.
+    constexpr int depth = 16, openings = depth + 4;
     int waiting = 0, windows = 0;
     form.OkKnop.Click = [&] {
         SmallDialog dialog(services);
         platform.ShowModal(dialog);
         // He opens the next one meanwhile.
         ++waiting;
-        platform.Wait(waiting < openings ? 3600 : 0);
+        platform.Wait(3600);
     };
     Run(form, [&](User& user) {
         for (int i = 1; i <= openings; ++i) {
@@ -247,7 +248,7 @@ TEST_F(Windows, NoClosedDialogIsKeptWhileTheHandlerThatShowedItGoesOn) {
         user.Has([&] {
             for (const QWidget* widget : QApplication::topLevelWidgets())
                 if (dynamic_cast<const FormWindow*>(widget)) ++windows;
-            EXPECT_EQ(windows, 1);
+            EXPECT_LE(windows, 1 + depth);
         });
     });
 }
