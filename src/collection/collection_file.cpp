@@ -28,7 +28,6 @@ public:
             // A quote that nobody closes takes its own line and none of the further ones with it.
             value = Take("\"\r\n");
             if (rest_.starts_with(quote)) rest_.remove_prefix(1);
-            SkipBlanks();
         } else {
             value = Take(",\r\n");
         }

@@ -105,6 +105,14 @@ TEST_F(ButtonTest, AMoveOutsideIsNoMouseInAndKeepsTheHoverLook) {
     EXPECT_EQ(button.HoverTimer(), nullptr);
 }
 
+TEST_F(ButtonTest, OnlyAMoveThatChangesTheLookStartsTheHover) {
+    button.PointerMoved(1, 0, 70, 5);
+    PointerComes();
+    button.PointerMoved(0, 0, 5, 5);
+    EXPECT_EQ(button.State(), Hover);
+    EXPECT_EQ(button.HoverTimer(), nullptr);
+}
+
 TEST_F(ButtonTest, TheHoverTimerLivesWhileThePointerIsThere) {
     PointerComes();
     button.PointerMoved(0, 0, 5, 5);
