@@ -10,6 +10,7 @@
 #include <malloc.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -41,6 +42,15 @@ double Ink(const TextMask& mask) {
 bool Same(const TextMask& a, const TextMask& b) {
     return a.left == b.left && a.top == b.top && a.width == b.width && a.height == b.height &&
            a.coverage == b.coverage;
+}
+
+/// The coverage of a pixel, counted from the point that the text is drawn at; 0 beside the mask.
+int CoverageAt(const TextMask& mask, int x, int y) {
+    const int column = x - mask.left, row = y - mask.top;
+    const bool inside = column >= 0 && column < mask.width && row >= 0 && row < mask.height;
+    return inside ? mask.coverage[static_cast<std::size_t>(row) * static_cast<std::size_t>(mask.width) +
+                                  static_cast<std::size_t>(column)]
+                  : 0;
 }
 
 /// The mask is as large as it says, and its outer rows and columns have ink.
@@ -374,6 +384,45 @@ TEST(QtFontEngine, AFontOfAFileHasNoLettersButItsOwn) {
     EXPECT_EQ(fonts.Measure(font, "   ").width, 60);
 }
 
+TEST(QtFontEngine, LettersThatAFontOfAFileLacksAreNotTakenFromAnother) {
+    const test::TemporaryFolder folder;
+    QtFontEngine fonts;
+    Bytes file = test::SymbolFont("Coinlet Latin");
+    // Its map of characters becomes one of Unicode, and its squares Latin letters.
+    const auto change = [&file](std::array<std::uint8_t, 8> from, std::array<std::uint8_t, 8> to) {
+        const auto place = std::search(file.begin(), file.end(), from.begin(), from.end());
+        ASSERT_NE(place, file.end());
+        std::copy(to.begin(), to.end(), place);
+    };
+    change({0, 0, 0, 1, 0, 3, 0, 0}, {0, 0, 0, 1, 0, 3, 0, 1});
+    change({0xF0, 0xFF, 0xFF, 0xFF, 0, 0, 0xF0, 0x21}, {0x00, 0xFF, 0xFF, 0xFF, 0, 0, 0x00, 0x21});
+    const std::string name = fonts.AddFontFile(Write(folder, "f.ttf", file));
+    ASSERT_EQ(name, "Coinlet Latin");
+    const FontSpec font{.name = name, .size = 15};
+    EXPECT_EQ(Ink(fonts.Render(font, "A", Edges::Crisp)), 100);
+    ASSERT_GT(Ink(fonts.Render({.name = "Liberation Sans", .size = 15}, "Ж", Edges::Crisp)), 0);
+    EXPECT_EQ(Ink(fonts.Render(font, "Ж", Edges::Crisp)), 0);
+    EXPECT_EQ(fonts.Measure(font, "Ж").width, 20);
+}
+
+TEST(QtFontEngine, OfLargeCrispLettersWhatIsCoveredByHalfIsInk) {
+    QtFontEngine fonts;
+    const FontSpec font = Arial(1500);
+    const TextMask smooth = fonts.Render(font, "o", Edges::Smooth, 30);
+    const TextMask crisp = fonts.Render(font, "o", Edges::Crisp, 30);
+    constexpr std::uint8_t half = 128;  // of 255, rounded
+    int halves = 0;
+    for (int y = 0; y < smooth.height; ++y) {
+        for (int x = 0; x < smooth.width; ++x) {
+            const int coverage = CoverageAt(smooth, smooth.left + x, smooth.top + y);
+            ASSERT_EQ(CoverageAt(crisp, smooth.left + x, smooth.top + y), coverage >= half ? 255 : 0)
+                << x << ", " << y;
+            halves += coverage == half ? 1 : 0;
+        }
+    }
+    EXPECT_GT(halves, 0);
+}
+
 TEST(QtFontEngine, AddingTheSameFontTakesNoMemory) {
     const test::TemporaryFolder folder;
     QtFontEngine fonts;
@@ -460,14 +509,6 @@ TEST(QtFontEngine, FamiliesAreSorted) {
                        std::tolower(static_cast<unsigned char>(y));
             });
         }));
-}
-
-/// The coverage at a pixel, from the point that the text is drawn at; none outside the mask.
-int CoverageAt(const TextMask& mask, int x, int y) {
-    const int column = x - mask.left, row = y - mask.top;
-    if (column < 0 || row < 0 || column >= mask.width || row >= mask.height) return 0;
-    return mask.coverage[static_cast<std::size_t>(row) * static_cast<std::size_t>(mask.width) +
-                         static_cast<std::size_t>(column)];
 }
 
 TEST(LettersSeenInPart, AreTheSameWhereTheyAreSeen) {
