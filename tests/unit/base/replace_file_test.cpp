@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <fstream>
 #include <functional>
@@ -87,7 +88,9 @@ public:
         return renameError != 0 ? Fail(renameError) : real_.Rename(from, to);
     }
     int Unlink(const char* path) override {
-        return unlinkError != 0 ? Fail(unlinkError) : real_.Unlink(path);
+        ++unlinks;
+        const bool fails = unlinkError != 0 && unlinks <= failingUnlinks;
+        return fails ? Fail(unlinkError) : real_.Unlink(path);
     }
     int FlushFolder(const char* path) override {
         flushedFolders.emplace_back(path);
@@ -95,7 +98,8 @@ public:
         return folderError != 0 ? Fail(folderError) : real_.FlushFolder(path);
     }
 
-    int closes = 0;
+    int failingUnlinks = INT_MAX;  ///< So many of the first ones.
+    int closes = 0, unlinks = 0;
     int folderError = 0;
     fs::path watched;  ///< A file whose content is looked at when the folder is flushed.
     std::string fileWhenFolderIsFlushed;
@@ -256,6 +260,18 @@ TEST(ReplaceFile, KeepsTheOldFileWhenCleaningUpFailsToo) {
     calls.unlinkError = EIO;
     EXPECT_EQ(Replace(path, "new content", calls), std::errc::io_error);
     EXPECT_EQ(folder.Read("file"), "old content");
+}
+
+TEST(ReplaceFile, LeavesNothingBehindWhenOnlyTheThirdCleaningUpWorks) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "old content");
+    FailingCalls calls;
+    calls.renameError = EIO;
+    calls.unlinkError = EINTR;
+    calls.failingUnlinks = 2;
+    EXPECT_EQ(Replace(path, "new content", calls), std::errc::io_error);
+    EXPECT_EQ(calls.unlinks, 3);
+    EXPECT_EQ(folder.Count(), 1);
 }
 
 TEST(ReplaceFile, WritesOnAfterShortWritesAndSignals) {
