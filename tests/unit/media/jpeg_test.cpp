@@ -249,8 +249,9 @@ TEST(Jpeg, RefusesMoreScansThanAFileOfItsSizeHasReasonFor) {
 }
 
 TEST(Jpeg, CountsNoScansInTextsAndPreviews) {
-    // A preview inside the file has markers of its own; it is stepped over as a whole.
-    Bytes file = EncodeJpegBytes(Gradient(64, 64), 90).value();
+    // A preview inside the file has markers of its own; it is stepped over as a whole. As many scans of this
+    // picture would be too many.
+    Bytes file = EncodeJpegBytes(Gradient(128, 128), 90).value();
     Bytes preview{0xFF, 0xE1, 0xFF, 0x00};
     for (int i = 0; i < 0xFF00 / 2 - 1; ++i)
         preview.insert(preview.end(), {0xFF, 0xDA});
