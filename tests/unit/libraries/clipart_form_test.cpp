@@ -3,6 +3,7 @@
 
 #include "support/world.h"
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
@@ -57,6 +58,19 @@ TEST_F(ClipartFormTest, TakesBitmapsOfSheetsToo) {
             EXPECT_EQ(dialog.ExportPic.surface.Point(0, 359), ClipartColour(clipart));
             EXPECT_EQ(dialog.ExportPic.surface.Point(0, 360), white);
         }
+    });
+}
+
+// A thumbnail is a third as large: of three rows of the sheet it shows the one in the middle.
+TEST_F(ClipartFormTest, ShowsTheWholeHeightOfASheet) {
+    const auto rowColour = [](int y) { return RGB(y % 256, y / 256, 0); };
+    Bitmap sheet(1650, 360);
+    for (int y = 0; y < sheet.Height(); ++y)
+        std::fill_n(sheet.Row(y), sheet.Width(), ToPixel(rowColour(y)));
+    ASSERT_FALSE(SavePicture(Image(std::move(sheet)), folder / "app/Cliparts/a.art"));
+    Open([&](ClipartForm& dialog) {
+        for (int row = 0; row < 120; ++row)
+            EXPECT_EQ(dialog.Pic.surface.Point(0, row), rowColour(3 * row + 1)) << row;
     });
 }
 

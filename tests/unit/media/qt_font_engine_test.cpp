@@ -551,6 +551,14 @@ TEST(LettersSeenInPart, HaveNoInkFarFromTheWindow) {
     EXPECT_EQ(Ink(fonts.RenderSeen(Arial(9999), "W", Edges::Crisp, 0, {9, 9, 9, 9})), 0);
 }
 
+TEST(LettersSeenInPart, ServeAgainForWhatIsSeenCloseBy) {
+    const QtFontEngine fonts;
+    const TextMask first = fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, {600, 700, 1100, 1200});
+    ASSERT_GT(Ink(first), 0);
+    EXPECT_TRUE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, {602, 699, 1102, 1199}), first));
+    EXPECT_FALSE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, {800, 700, 1300, 1200}), first));
+}
+
 TEST(LettersSeenInPart, TellOneTextFromAnother) {
     const QtFontEngine fonts;
     const TextWindow window{600, 700, 1100, 1200};
