@@ -1,10 +1,24 @@
-// How the clock of the main window writes a moment.
+// How the clock of the main window tells and writes a moment.
 #include "base/clock.h"
 
+#include <cstdlib>
+#include <ctime>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace coinlet {
 namespace {
+
+TEST(Clock, TellsMomentsInTheZoneOfTheDesktop) {
+    ::setenv("TZ", "XXX-3", 1);  // three hours ahead
+    ::tzset();
+    // 2000-02-29 22:30:15 of the world is 11,016 days and so much after the beginning of 1970.
+    constexpr std::time_t leapDay = ((11016L * 24 + 22) * 60 + 30) * 60 + 15;
+    EXPECT_EQ(ToLocalTime(leapDay), (DateTime{2000, 3, 1, 1, 30, 15}));
+    EXPECT_EQ(ToLocalTime(std::numeric_limits<std::time_t>::max()), (DateTime{0, 1, 1, 0, 0, 0}));
+    ::unsetenv("TZ");
+    ::tzset();
+}
 
 TEST(Clock, WritesDatesWithTwoDigits) {
     EXPECT_EQ(FormatDate({2011, 3, 7, 0, 0, 0}), "07-03-2011");
