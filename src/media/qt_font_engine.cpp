@@ -181,7 +181,7 @@ QRect ToRect(const TextWindow& window) {
     // The toolkit's rectangles can't hold all differences of their edges.
     const auto within = [](int position) {
         constexpr int farthest = 1 << 24;
-        return position < -farthest ? -farthest : position > farthest ? farthest : position;
+        return std::clamp(position, -farthest, farthest);
     };
     return {QPoint(within(window.left), within(window.top)),
             QPoint(within(window.right) - 1, within(window.bottom) - 1)};
