@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Plays one script in a fresh application folder:
 #   run_scenario.sh PLAYER DATA SCRIPT
-# With WITH_STATE=1 before it unsaved work comes back after a restart, as it does for users.
+# In the scripts of recovery/, and with WITH_STATE=1 before it in all, unsaved work comes back after a restart, as it
+# does for users.
 # A script NAME.fails.play is one that must fail; its last comment `# fails: TEXT` is found in the output.
 set -euo pipefail
 player=$1 data=$2 script=$3
@@ -14,7 +15,7 @@ rm -rf "$work/application/Ontwerpen"
 mkdir -p "$work/application/Ontwerpen" "$work/application/Collection"
 
 options=(--folder "$work/application" --out "$work/out")
-if [ -n "${WITH_STATE:-}" ]; then options+=(--state "$work/state"); fi
+if [ -n "${WITH_STATE:-}" ] || [[ $script == */recovery/* ]]; then options+=(--state "$work/state"); fi
 status=0
 output=$("$player" "${options[@]}" "$script" 2>&1) || status=$?
 printf '%s\n' "$output"
