@@ -20,6 +20,13 @@ struct Span {
     }
 };
 
+bool HasSidesOfPictures(const PixelRect& rectangle) {
+    const auto isSide = [](std::int64_t from, std::int64_t to) {
+        return to > from && to - from <= maximumSide;
+    };
+    return isSide(rectangle.left, rectangle.right) && isSide(rectangle.top, rectangle.bottom);
+}
+
 constexpr int channels = 3;
 
 struct Mixture {
@@ -45,20 +52,25 @@ struct Mixture {
 void PaintFinely(Surface& target, const PixelRect& to, const Image& source, const PixelRect& from,
                  std::optional<Colour> mask) {
     const PixelRect seen = Intersection(to, {0, 0, target.PixelWidth(), target.PixelHeight()});
-    if (seen.Empty() || from.Empty() || source.Empty()) return;
+    if (seen.Empty() || source.Empty() || !HasSidesOfPictures(to) || !HasSidesOfPictures(from)) return;
     Bitmap& pixels = target.Write(seen);
     const Span across{from.Width(), to.Width()}, down{from.Height(), to.Height()};
     const std::int64_t whole = across.sourceSize * down.sourceSize;
+    // What the picture has of `from`; the rest isn't walked through.
+    const std::int64_t left = -std::int64_t{from.left}, right = left + source.Width() - 1;
+    const std::int64_t top = -std::int64_t{from.top}, bottom = top + source.Height() - 1;
     for (int y = seen.top; y < seen.bottom; ++y) {
         const int row = y - to.top;
         for (int x = seen.left; x < seen.right; ++x) {
             const int column = x - to.left;
             Mixture mixture;
-            for (std::int64_t j = down.First(row); j <= down.Last(row); ++j) {
-                for (std::int64_t i = across.First(column); i <= across.Last(column); ++i) {
+            const std::int64_t lastRow = std::min(down.Last(row), bottom);
+            const std::int64_t lastColumn = std::min(across.Last(column), right);
+            for (std::int64_t j = std::max(down.First(row), top); j <= lastRow; ++j) {
+                for (std::int64_t i = std::max(across.First(column), left); i <= lastColumn; ++i) {
                     const Colour colour =
                         source.At(from.left + static_cast<int>(i), from.top + static_cast<int>(j));
-                    if (colour == -1 || colour == mask) continue;
+                    if (colour == mask) continue;
                     mixture.Add(ToPixel(colour), across.Shared(column, i) * down.Shared(row, j));
                 }
             }

@@ -4,6 +4,7 @@
 #include "support/block_fonts.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <vector>
 
 namespace coinlet {
@@ -100,6 +101,26 @@ TEST_F(FinePicture, NothingOnNothingDoesNothing) {
     PaintFinely(target, {0, 0, 5, 5}, Image(), {0, 0, 1, 1}, {});
     PaintFinely(target, {20, 20, 25, 25}, Grey(1, {10}), {0, 0, 1, 1}, {});
     EXPECT_EQ(target.Revision(), before);
+}
+
+// The picture is one pixel of the thousands that the rectangle has: far less than a level of what lies below.
+TEST_F(FinePicture, PassesOverWhatAVastRectangleHasOutsideThePicture) {
+    for (const PixelRect& from : {PixelRect{-30000, -30000, 30000, 30000}, {0, 0, 65535, 65535}}) {
+        PaintFinely(target, {0, 0, 8, 6}, Grey(1, {0}), from, {});
+        for (int y = 0; y < 6; ++y)
+            for (int x = 0; x < 8; ++x)
+                EXPECT_EQ(LevelAt(x, y), 255);
+    }
+}
+
+TEST_F(FinePicture, DrawsNothingWithRectanglesLargerThanPictures) {
+    constexpr int least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max();
+    const Image black = Grey(2, {0, 0, 0, 0});
+    for (const PixelRect& vast : {PixelRect{least, least, most, most}, {0, 0, 65536, 2}, {0, 0, 2, 65536}}) {
+        PaintFinely(target, {0, 0, 8, 6}, black, vast, {});
+        PaintFinely(target, vast, black, {0, 0, 2, 2}, {});
+        EXPECT_EQ(LevelAt(0, 0), 255);
+    }
 }
 
 }  // namespace
