@@ -54,6 +54,22 @@ TEST_F(StartUpTest, PutsTheWorkBackThatTheLastProgramLost) {
     EXPECT_EQ(Designs().size(), 1U);
 }
 
+TEST_F(StartUpTest, PutsTheWorkBackOfAProgramThatWasKilledWhenItKnewOfItsEnd) {
+    const fs::path state = folder / "state", killed = folder / "killed";
+    for (const bool knew : {false, true}) {
+        Start().Pic.surface.Line(10, 10, 200, 10, black);
+        if (knew) program->PrepareForEnd();
+        // What a kill leaves: a program that ends by itself would tidy up.
+        fs::create_directories(state);
+        fs::copy(state, killed, fs::copy_options::recursive);
+        program.reset();
+        fs::remove_all(state);
+        fs::rename(killed, state);
+        Start();
+        EXPECT_EQ(Designs().size(), knew ? 1U : 0U);
+    }
+}
+
 TEST_F(StartUpTest, WritesTheHeaderOfTheSidePanel) {
     // 29 letters of 8 points, each a block of 3 by 7 pixels in a cell of 4 by 8, from (4, 3) on.
     const Image header = Start().TopInfoPic.surface.Image();
