@@ -30,6 +30,10 @@ protected:
         return Log() == log;
     }
 
+    /// True if less than the user's patience has passed, so that no sign can have come. To be asked after the
+    /// log was read: on a busy machine it may be false at any time, and nothing follows from that.
+    static bool IsEarly(Clock::time_point begin) { return Clock::now() - begin < WorkTime::patience; }
+
     Windows open{1, 2};
     std::thread::id shownBy, takenOffBy;
     Clock::time_point shownAt;
@@ -65,7 +69,6 @@ TEST_F(BusyWatchTest, LongWorkIsShownAfterThreeTenthsOfASecondUntilItsEnd) {
     const auto begin = Clock::now();
     {
         const BusyWatch::Work work(watch);
-        EXPECT_EQ(Log(), "");
         EXPECT_TRUE(Shows("+12"));
         EXPECT_GE(shownAt - begin, 300ms);
         std::this_thread::sleep_for(50ms);
@@ -78,11 +81,18 @@ TEST_F(BusyWatchTest, LongWorkIsShownAfterThreeTenthsOfASecondUntilItsEnd) {
 
 TEST_F(BusyWatchTest, ManyShortEventsAreNoLongWork) {
     const auto end = Clock::now() + 700ms;
+    bool allAreShort = true;
     while (Clock::now() < end) {
-        const BusyWatch::Work work(watch);
-        const BusyWatch::Work inner(watch);
+        const auto begin = Clock::now();
+        {
+            const BusyWatch::Work work(watch);
+            const BusyWatch::Work inner(watch);
+        }
+        allAreShort = allAreShort && IsEarly(begin);
     }
-    EXPECT_EQ(Log(), "");
+    if (allAreShort) {
+        EXPECT_EQ(Log(), "");
+    }
 }
 
 TEST_F(BusyWatchTest, WorkInsideWorkIsPartOfIt) {
@@ -96,21 +106,29 @@ TEST_F(BusyWatchTest, WorkInsideWorkIsPartOfIt) {
 
 TEST_F(BusyWatchTest, IdlenessIsNotShown) {
     { const BusyWatch::Work work(watch); }
+    const std::string before = Log();
     std::this_thread::sleep_for(400ms);
-    EXPECT_EQ(Log(), "");
+    EXPECT_EQ(Log(), before);
 }
 
 TEST_F(BusyWatchTest, PauseIsNoWorkAndWhatFollowsIsANewPiece) {
+    const auto begin = Clock::now();
     const BusyWatch::Work work(watch);
     std::this_thread::sleep_for(200ms);
+    std::string before;
+    Clock::time_point goesOn;
     {
         const BusyWatch::Pause pause(watch);
+        before = Log();
+        if (IsEarly(begin)) {
+            EXPECT_EQ(before, "");
+        }
         std::this_thread::sleep_for(400ms);
-        EXPECT_EQ(Log(), "");
+        EXPECT_EQ(Log(), before);
+        goesOn = Clock::now();
     }
-    const auto begin = Clock::now();
-    EXPECT_TRUE(Shows("+12"));
-    EXPECT_GE(shownAt - begin, 300ms);
+    EXPECT_TRUE(Shows(before + "+12"));
+    EXPECT_GE(shownAt - goesOn, 300ms);
 }
 
 TEST_F(BusyWatchTest, PauseTakesTheSignOffAndAnEventInItHasItsOwn) {
@@ -151,28 +169,37 @@ TEST_F(BusyWatchTest, ExceptionTakesTheSignOff) {
 
 TEST_F(BusyWatchTest, WindowsAreThoseOfTheBeginningOfTheWork) {
     { const BusyWatch::Work work(watch); }
+    const std::string before = Log();
     open = {7};
     const BusyWatch::Work work(watch);
-    EXPECT_TRUE(Shows("+7"));
+    EXPECT_TRUE(Shows(before + "+7"));
 }
 
 TEST_F(BusyWatchTest, WindowThatComesAmidstTheWorkShowsTheSignToo) {
     {
         const BusyWatch::Work work(watch);
+        EXPECT_TRUE(Shows("+12"));
         open = {1, 2, 3};
         watch.WindowsChanged();
-        EXPECT_EQ(Log(), "");
-        EXPECT_TRUE(Shows("+123"));
-        open = {1, 2, 3, 4};
-        const auto changed = Clock::now();
-        watch.WindowsChanged();
-        EXPECT_TRUE(Shows("+123+1234"));
-        EXPECT_LT(shownAt - changed, 300ms);
+        EXPECT_TRUE(Shows("+12+123"));
     }
-    EXPECT_EQ(Log(), "+123+1234-");
+    EXPECT_EQ(Log(), "+12+123-");
     watch.WindowsChanged();
     std::this_thread::sleep_for(50ms);
-    EXPECT_EQ(Log(), "+123+1234-");
+    EXPECT_EQ(Log(), "+12+123-");
+}
+
+TEST_F(BusyWatchTest, WindowThatComesBeforeTheSignIsAmongThoseThatShowIt) {
+    const auto begin = Clock::now();
+    const BusyWatch::Work work(watch);
+    open = {1, 2, 3};
+    watch.WindowsChanged();
+    const bool inTime = IsEarly(begin);
+    while (Log().empty())
+        std::this_thread::sleep_for(1ms);
+    if (inTime) {
+        EXPECT_TRUE(Shows("+123"));
+    }
 }
 
 TEST_F(BusyWatchTest, MayEndAmidstTheWorkOfItsThread) {
@@ -199,6 +226,7 @@ thread_local bool isTheProgramsOwn = false;
 
 TEST_F(BusyWatchTest, SignalsComeToTheProgramsThread) {
     isTheProgramsOwn = true;
+    signalCame = false;
     auto* before = std::signal(SIGUSR1, [](int) {
         signalCameHere = isTheProgramsOwn;
         signalCame = true;
