@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
@@ -70,29 +71,32 @@ protected:
 };
 
 TEST_F(Busy, PointerShowsLongWorkFromThreeTenthsOfASecondToItsEnd) {
-    std::optional<PointerLook> atTheBeginning;
-    Clock::duration taken{};
-    bool shown = false;
+    std::atomic<Clock::time_point> pressed;
+    Clock::duration sincePressed{};
+    bool early = true, shown = false;
     int propertyMeanwhile = -1;
     form.OkKnop.Click = [&] {
         const auto begin = Clock::now();
-        atTheBeginning = ShownPointer();
+        const bool isUsual = ShownPointer() == usual;
+        // On a machine that is busy itself it may be late already.
+        if (Clock::now() - pressed.load() < 300ms) early = isUsual;
         shown = WorksUntilItShows(wait);
-        taken = Clock::now() - begin;
+        sincePressed = Clock::now() - pressed.load();
         propertyMeanwhile = platform.Screen.MousePointer;
         std::this_thread::sleep_for(begin + 600ms - Clock::now());
         EXPECT_EQ(ShownPointer(), wait);
         form.log.emplace_back("worked");
     };
     RunOver([&](User& user) {
+        pressed = Clock::now();
         ClickAndWork(user);
         ASSERT_TRUE(user.Sees([&] { return form.Count("worked") == 1; }));
         // At once: no event need come for it.
         EXPECT_EQ(ShownPointer(), usual);
         user.Has([&] {
             EXPECT_TRUE(shown);
-            EXPECT_EQ(atTheBeginning, usual);
-            EXPECT_GE(taken, 200ms);  // The event began before its handler did.
+            EXPECT_TRUE(early);
+            EXPECT_GE(sincePressed, 300ms);
             EXPECT_EQ(propertyMeanwhile, defaultPointer);
             EXPECT_EQ(platform.Screen.MousePointer, defaultPointer);
             EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -101,13 +105,14 @@ TEST_F(Busy, PointerShowsLongWorkFromThreeTenthsOfASecondToItsEnd) {
 }
 
 TEST_F(Busy, ShortWorkChangesNothing) {
+    std::atomic<Clock::time_point> pressed;
     int looks = 0, others = 0;
     form.OkKnop.Click = [&] {
         const auto begin = Clock::now();
         while (Clock::now() < begin + 200ms) {
             const bool isUsual = ShownPointer() == usual;
             // On a machine that is busy itself a look may take long.
-            if (Clock::now() > begin + 250ms) break;
+            if (Clock::now() - pressed.load() >= 300ms) break;
             ++looks;
             if (!isUsual) ++others;
         }
@@ -115,12 +120,12 @@ TEST_F(Busy, ShortWorkChangesNothing) {
     };
     RunOver([&](User& user) {
         for (int i = 1; i <= 3; ++i) {
+            pressed = Clock::now();
             ClickAndWork(user);
             ASSERT_TRUE(user.Sees([&] { return form.Count("worked") == i; }));
         }
     });
-    EXPECT_GT(looks, 0);
-    EXPECT_EQ(others, 0);
+    EXPECT_EQ(others, 0) << "of " << looks;
 }
 
 TEST_F(Busy, WhatTheUserDoesMeanwhileComesAfterwards) {
