@@ -2,6 +2,7 @@
 #include "controls/type_ahead.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
+#include "shell/field_menu.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
 #include "shell/one_line.h"
@@ -81,6 +82,7 @@ public:
         list_.setUniformItemSizes(true);
         widget.setModel(&rows_);
         KeepToOneLine(*widget.lineEdit());
+        KeepMenu(*widget.lineEdit(), gate);
         Watch(*widget.lineEdit());
         connect(&widget, &QComboBox::activated, this, [this](int index) { Pick(index); });
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Edit(text); });

@@ -3,6 +3,7 @@
 #include "controls/text_lines.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
+#include "shell/field_menu.h"
 #include "shell/line_layout.h"
 #include "shell/look.h"
 #include "shell/one_line.h"
@@ -74,6 +75,7 @@ public:
     LineView(TextBox& box, QLineEdit& widget, EventGate& gate)
         : TextBoxView(box, widget, gate), line_(widget) {
         KeepToOneLine(widget);
+        KeepMenu(widget, gate);
         connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
@@ -139,6 +141,7 @@ public:
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         Watch(*widget.viewport());
+        KeepMenu(widget, gate);
         connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Edited(lines_.toPlainText()); });
     }
 

@@ -12,12 +12,15 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 
+#include <initializer_list>
 #include <map>
 #include <memory>
 
@@ -499,6 +502,40 @@ TEST_F(Controls, ComeAndGoWhileTheFormIsOpen) {
         user.Click(form.OkKnop, 40, 14);
         EXPECT_TRUE(user.Sees([&] { return !shown(); }));
     });
+}
+
+// A field brings its own menu. What is chosen there changes the text, and a handler of that serves events:
+// among them is the end of the closed menu, which the toolkit comes back to.
+TEST_F(Controls, MenuOfAFieldOutlivesWhatItSetOff) {
+    QPointer<QMenu> menu;
+    std::vector<std::string> outcomes;
+    const auto serveEvents = [&] {
+        platform.DoEvents();
+        outcomes.emplace_back(menu ? "menu is there" : "menu is gone");
+    };
+    form.Text1.Change = serveEvents;
+    form.Text2.Change = serveEvents;
+    form.Combo1.Change = serveEvents;
+    Run(form, [&](User& user) {
+        for (const Control* field :
+             std::initializer_list<const Control*>{&form.Text1, &form.Text2, &form.Combo1}) {
+            const std::size_t before = outcomes.size();
+            user.Click(*field, 20, 11);
+            user.Key("ctrl+a");
+            user.Press(3);
+            user.Release(3);
+            EXPECT_TRUE(user.Sees([&] {
+                menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                return menu != nullptr;
+            })) << field->Name();
+            // The first that can be chosen: "Cut".
+            user.Key("Down");
+            user.Key("Return");
+            EXPECT_TRUE(user.Sees([&] { return outcomes.size() > before; })) << field->Name();
+        }
+        user.Has([&] { EXPECT_EQ(outcomes, std::vector<std::string>(3, "menu is there")); });
+    });
+    EXPECT_EQ(form.Text1.Text() + form.Text2.Text() + form.Combo1.Text(), "");
 }
 
 }  // namespace
