@@ -56,12 +56,10 @@ int main(int argc, char** argv) {
         }
     }
 
-    const fs::path folder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
-                                               .userDataFolder = UserDataFolder(std::getenv),
-                                               .named = line->folder});
-    // Whoever names a folder looks for his designs in it.
-    std::error_code error;
-    if (line->folder && !fs::equivalent(folder, *line->folder, error)) {
+    const auto folder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
+                                           .userDataFolder = UserDataFolder(std::getenv),
+                                           .named = line->folder});
+    if (!folder) {
         return Say(
             {"coinlet-designer: can't make the folder '" + line->folder->string() + "'\n", folderUnmakeable});
     }
@@ -71,7 +69,7 @@ int main(int argc, char** argv) {
 
     QtFontEngine fonts;
     const SystemClock clock;
-    const Services services{.applicationFolder = folder,
+    const Services services{.applicationFolder = *folder,
                             .platform = shell.GetPlatform(),
                             .fonts = fonts,
                             .codecs = codecs,

@@ -149,18 +149,20 @@ bool FillApplicationFolder(const fs::path& folder, const fs::path& delivered) {
     return true;
 }
 
-fs::path ApplicationFolder(const Surroundings& surroundings) {
+std::optional<fs::path> ApplicationFolder(const Surroundings& surroundings) {
     const fs::path found = DeliveredFolder(surroundings.programFolder);
     fs::path delivered = found.empty() ? surroundings.programFolder : found;
-    const auto filled = [&](const fs::path& folder) {
+    const auto filled = [&](const fs::path& folder) -> std::optional<fs::path> {
         std::error_code error;
         const fs::path whole = fs::absolute(folder, error);
-        return !error && FillApplicationFolder(whole, delivered) ? whole : delivered;
+        if (error || !FillApplicationFolder(whole, delivered)) return std::nullopt;
+        return whole;
     };
     if (surroundings.named) return filled(*surroundings.named);
     const bool isCarried = delivered == surroundings.programFolder;
     if (isCarried && surroundings.mayWrite(delivered)) return delivered;
-    return surroundings.userDataFolder.empty() ? delivered : filled(surroundings.userDataFolder / ownFolder);
+    if (surroundings.userDataFolder.empty()) return delivered;
+    return filled(surroundings.userDataFolder / ownFolder).value_or(delivered);
 }
 
 }  // namespace coinlet

@@ -25,9 +25,10 @@ struct Surroundings {
 /// - else `coinlet-designer` in the user's data folder.
 ///
 /// The first and the last are made where they are missing and filled from what was delivered, see
-/// FillApplicationFolder. Where that can't be done, as in a home that is write-protected, it is the folder of
-/// the delivered data: nothing can be saved there, but the program starts.
-std::filesystem::path ApplicationFolder(const Surroundings& surroundings);
+/// FillApplicationFolder. Where that can't be done in the user's data folder, as in a home that is
+/// write-protected, it is the folder of the delivered data: nothing can be saved there, but the program
+/// starts. For a folder that was named there is none: who names a folder looks for his designs in it.
+std::optional<std::filesystem::path> ApplicationFolder(const Surroundings& surroundings);
 
 /// Where the delivered data lie: beside the program, or in `../share/coinlet-designer` from there, as
 /// packages install them. Empty if they are in neither place.

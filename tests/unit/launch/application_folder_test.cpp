@@ -5,6 +5,7 @@
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 
 namespace coinlet {
@@ -35,7 +36,8 @@ protected:
     fs::path Own() const { return root / "home/coinlet-designer"; }
     std::string InOwn(const std::string& name) const { return root.Read("home/coinlet-designer/" + name); }
     fs::path Start() const {
-        return ApplicationFolder({.programFolder = root / "usr/bin", .userDataFolder = root / "home"});
+        return ApplicationFolder({.programFolder = root / "usr/bin", .userDataFolder = root / "home"})
+            .value_or("none");
     }
     static bool IsThere(const fs::path& path) { return fs::exists(fs::symlink_status(path)); }
 
@@ -147,6 +149,17 @@ TEST_F(ApplicationFolderTest, WithoutAWritableHomeTheProgramStartsAllTheSame) {
     const fs::path bin = root / "usr/bin";
     EXPECT_EQ(ApplicationFolder({.programFolder = bin, .userDataFolder = root / "file"}), Delivered());
     EXPECT_EQ(ApplicationFolder({.programFolder = bin, .userDataFolder = {}}), Delivered());
+}
+
+// What somebody saves in another folder than the one he named is lost to him.
+TEST_F(ApplicationFolderTest, FolderThatIsNamedAndCannotBeMadeIsNone) {
+    root.Write("file", "no folder");
+    for (const fs::path& named : {root / "file", root / "file/designs"}) {
+        const Surroundings surroundings{
+            .programFolder = root / "usr/bin", .userDataFolder = root / "home", .named = named};
+        EXPECT_EQ(ApplicationFolder(surroundings), std::nullopt) << named;
+    }
+    EXPECT_FALSE(IsThere(Own()));
 }
 
 }  // namespace
