@@ -8,11 +8,8 @@
 #include "app/application.h"
 #include "app/dialogs.h"
 #include "controls/control.h"
-#include "core/accessible_names.h"
 #include "core/settings.h"
-#include "media/media_codecs.h"
-#include "media/qt_font_engine.h"
-#include "media/system_clock.h"
+#include "desktop/desktop_program.h"
 #include "shell/shell.h"
 
 #include <QAccessible>
@@ -164,24 +161,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (WriteLanguageSetting(options->folder, options->language)) return 2;
-    QtFontEngine fonts;
-    const MediaCodecs codecs;
-    const SystemClock clock;
-    const Services services{.applicationFolder = options->folder,
-                            .platform = shell.GetPlatform(),
-                            .fonts = fonts,
-                            .codecs = codecs,
-                            .clock = clock,
-                            .desktop = shell.GetDesktop(),
-                            .clipboard = shell.GetClipboard(),
-                            .printer = shell.GetPrinter(),
-                            .screenGrab = shell.GetScreenGrab(),
-                            .recoveryFolder = {}};
-    Application application(services);
-    const AccessibleNames names(application.GetContext());
-    shell.NameControlsBy(names);
+    DesktopProgram program(shell, options->folder);
     Tree tree(options->check);
-    shell.Run([&] { LookAtAll(application, shell.GetPlatform(), tree); }, {});
+    shell.Run([&] { LookAtAll(program.GetApplication(), shell.GetPlatform(), tree); }, {});
     std::printf("%d forms, %d parts, %d faults\n", tree.Forms(), tree.Parts(), tree.Faults());
     // The main form, and every dialog once.
     std::set<std::string_view> dialogs;

@@ -1,12 +1,9 @@
-#include "app/application.h"
 #include "app/named_document.h"
-#include "core/accessible_names.h"
+#include "desktop/desktop_program.h"
 #include "launch/application_folder.h"
 #include "launch/command_line.h"
 #include "launch/user_folders.h"
 #include "media/media_codecs.h"
-#include "media/qt_font_engine.h"
-#include "media/system_clock.h"
 #include "shell/shell.h"
 
 #include <csignal>
@@ -46,10 +43,9 @@ int main(int argc, char** argv) {
     if (const auto* notice = std::get_if<Notice>(&arguments)) return Say(*notice);
     const auto* line = std::get_if<CommandLine>(&arguments);
     // What can't be read is said before anything is made.
-    const MediaCodecs codecs;
     std::optional<NamedDocument> document;
     if (line->document) {
-        document = ReadNamedDocument(*line->document, codecs);
+        document = ReadNamedDocument(*line->document, MediaCodecs());
         if (!document) {
             return Say(
                 {"coinlet-designer: can't read '" + line->document->string() + "'\n", documentUnreadable});
@@ -67,21 +63,8 @@ int main(int argc, char** argv) {
     // Exports and printed files go there.
     MakePictureFolder(std::getenv);
 
-    QtFontEngine fonts;
-    const SystemClock clock;
-    const Services services{.applicationFolder = *folder,
-                            .platform = shell.GetPlatform(),
-                            .fonts = fonts,
-                            .codecs = codecs,
-                            .clock = clock,
-                            .desktop = shell.GetDesktop(),
-                            .clipboard = shell.GetClipboard(),
-                            .printer = shell.GetPrinter(),
-                            .screenGrab = shell.GetScreenGrab(),
-                            .recoveryFolder = RecoveryFolder(UserStateFolder(std::getenv))};
-    Application application(services);
-    const AccessibleNames names(application.GetContext());
-    shell.NameControlsBy(names);
+    DesktopProgram program(shell, *folder, RecoveryFolder(UserStateFolder(std::getenv)));
+    Application& application = program.GetApplication();
     return shell.Run(
         [&] {
             application.Start();

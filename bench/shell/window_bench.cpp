@@ -5,10 +5,8 @@
 #include "app/application.h"
 #include "core/context.h"
 #include "core/main_form.h"
+#include "desktop/desktop_program.h"
 #include "dialogs_bench.h"
-#include "media/media_codecs.h"
-#include "media/qt_font_engine.h"
-#include "media/system_clock.h"
 #include "shell/qt_platform.h"
 #include "shell/shell.h"
 #include "support/temporary_folder.h"
@@ -123,19 +121,8 @@ int main(int argc, char** argv) {
     std::filesystem::copy(COINLET_DATA, folder.Path(), std::filesystem::copy_options::recursive);
 
     Shell shell(argc, argv);
-    QtFontEngine fonts;
-    const MediaCodecs codecs;
-    const SystemClock clock;
-    const Services services{.applicationFolder = folder.Path(),
-                            .platform = shell.GetPlatform(),
-                            .fonts = fonts,
-                            .codecs = codecs,
-                            .clock = clock,
-                            .desktop = shell.GetDesktop(),
-                            .clipboard = shell.GetClipboard(),
-                            .printer = shell.GetPrinter(),
-                            .screenGrab = shell.GetScreenGrab()};
-    Application application(services);
+    DesktopProgram program(shell, folder.Path());
+    Application& application = program.GetApplication();
     auto& platform = dynamic_cast<QtPlatform&>(shell.GetPlatform());
     // The form is shown first; measuring begins when the program waits for its user.
     QTimer::singleShot(0, [&] {
