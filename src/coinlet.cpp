@@ -18,7 +18,7 @@ namespace {
 
 using namespace coinlet;
 
-constexpr int folderUnmakeable = 1;
+constexpr int folderUnmakeable = 1, screenMissing = 1;
 
 std::variant<CommandLine, Notice> ReadArguments(int argc, char** argv) {
     return ReadCommandLine(std::vector<std::string_view>(argv + (argc > 0 ? 1 : 0), argv + argc));
@@ -52,6 +52,8 @@ int main(int argc, char** argv) {
         }
     }
 
+    if (!shell.HasScreen())
+        return Say({"coinlet-designer: there is no display to open a window on\n", screenMissing});
     const auto folder = ApplicationFolder({.programFolder = shell.ProgramFolder(),
                                            .userDataFolder = UserDataFolder(std::getenv),
                                            .named = line->folder});

@@ -8,6 +8,7 @@
 #include "shell/qt_printer.h"
 #include "shell/qt_screen_grab.h"
 #include "shell/qt_text.h"
+#include "shell/screen_choice.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -35,8 +36,9 @@ public:
     }
 };
 
-/// The toolkit is told how to behave before it starts.
-ToolkitApplication* MakeApplication(int& argc, char** argv) {
+/// The toolkit is told how to behave before it starts. Where it would find no screen it makes do without.
+ToolkitApplication* MakeApplication(int& argc, char** argv, bool hasScreen) {
+    if (!hasScreen) qputenv("QT_QPA_PLATFORM", "offscreen");
     PrepareToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Coinlet Designer"));
     // Desktops find the icon and the name of a window by it; it is the name of the installed desktop entry.
@@ -70,8 +72,10 @@ private:
 }  // namespace
 
 struct Shell::Parts {
-    Parts(int& argc, char** argv) : application(MakeApplication(argc, argv)) {}
+    Parts(int& argc, char** argv)
+        : hasScreen(FindsScreen(argc, argv)), application(MakeApplication(argc, argv, hasScreen)) {}
 
+    bool hasScreen;
     std::unique_ptr<ToolkitApplication> application;
     QtPlatform platform;
     QtDesktop desktop;
@@ -83,6 +87,10 @@ struct Shell::Parts {
 Shell::Shell(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {}
 
 Shell::~Shell() = default;
+
+bool Shell::HasScreen() const {
+    return parts_->hasScreen;
+}
 
 std::filesystem::path Shell::ProgramFolder() const {
     return ToUtf8(QCoreApplication::applicationDirPath());

@@ -25,12 +25,15 @@ struct ForeignEnd {
 /// the toolkit.
 class Shell {
 public:
-    /// The toolkit takes its own options from the command line; what it leaves is the program's.
+    /// The toolkit takes its own options from the command line; what it leaves is the program's. That is so
+    /// without a screen too, so that whatever is wrong can be said.
     Shell(int& argc, char** argv);
     ~Shell();
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
 
+    /// False where there is no screen to open windows on.
+    bool HasScreen() const;
     /// The folder in which the program itself lies.
     std::filesystem::path ProgramFolder() const;
     Platform& GetPlatform();

@@ -32,6 +32,8 @@ protected:
         environment.insert("HOME", QString::fromStdString(home.string()));
         for (const char* variable : {"XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME"})
             environment.remove(variable);
+        for (const auto& [variable, value] : variables)
+            environment.insert(QString::fromStdString(variable), QString::fromStdString(value));
         QProcess process;
         process.setProcessEnvironment(environment);
         process.start(QString::fromStdString(command.front()), arguments);
@@ -80,6 +82,33 @@ TEST_F(ProgramCommandLine, FolderThatCannotBeMadeIsNoneToWorkIn) {
     EXPECT_EQ(Complaint({"--folder", Text(named)}, 1),
               "coinlet-designer: can't make the folder '" + named.string() + "'\n");
     EXPECT_FALSE(fs::exists(home / "Pictures"));
+}
+
+/// The program where no window can be opened: nobody says where, or a server that isn't there.
+class ProgramWithoutDisplay : public ProgramCommandLine, public testing::WithParamInterface<const char*> {
+protected:
+    ProgramWithoutDisplay() {
+        variables = {{"DISPLAY", GetParam()},
+                     {"WAYLAND_DISPLAY", ""},
+                     {"XDG_SESSION_TYPE", ""},
+                     {"QT_QPA_PLATFORM", ""}};
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Displays, ProgramWithoutDisplay, testing::Values("", ":64999"));
+
+TEST_P(ProgramWithoutDisplay, SaysSoAndMakesNothing) {
+    const fs::path other = folder / "other";
+    EXPECT_EQ(Complaint({"--folder", Text(other), Text(Picture("photo.png", {60, 40}))}, 1),
+              "coinlet-designer: there is no display to open a window on\n");
+    EXPECT_FALSE(fs::exists(other));
+    EXPECT_FALSE(fs::exists(home / "Pictures"));
+}
+
+TEST_P(ProgramWithoutDisplay, SaysFirstWhatElseIsWrong) {
+    EXPECT_EQ(Complaint({"-style", "Windows", "--draw"}, 2),
+              "coinlet-designer: unknown option '--draw'\nTry 'coinlet-designer --help'.\n");
+    const fs::path file = folder / "missing.bmp";
+    EXPECT_EQ(Complaint({Text(file)}, 1), "coinlet-designer: can't read '" + file.string() + "'\n");
 }
 
 TEST_F(ProgramCommandLine, WhatMakesNoSenseIsSaid) {
