@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <numbers>
+#include <ostream>
 #include <set>
 
 namespace coinlet {
@@ -255,6 +256,10 @@ struct PlaceOnEarth {
     double longitude, latitude;
     bool land;
 };
+
+void PrintTo(const PlaceOnEarth& place, std::ostream* out) {
+    *out << place.name;
+}
 
 class DeliveredWorldMap : public testing::TestWithParam<PlaceOnEarth> {};
 INSTANTIATE_TEST_SUITE_P(
