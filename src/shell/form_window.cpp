@@ -14,7 +14,6 @@
 #include "shell/painted_widget.h"
 #include "shell/qt_text.h"
 #include "shell/roomy_area.h"
-#include "shell/size_on_screens.h"
 #include "shell/views.h"
 
 #include <QCloseEvent>
@@ -78,7 +77,12 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
       menus_(form, *this, gate),
       timers_(form, gate),
       area_(new RoomyArea(this)),
-      face_(new PaintedWidget(area_)) {
+      face_(new PaintedWidget(area_)),
+      // The other screen may have more room or less.
+      sameSize_(*this, [this](const QSize&) {
+          fit_ = {};
+          FitToScreen();
+      }) {
     setObjectName(ToQString(form.Name()));
     // The keyboard rests here while no control has the focus.
     setFocusPolicy(Qt::NoFocus);
@@ -96,7 +100,6 @@ FormWindow::FormWindow(Form& form, EventGate& gate, QWidget* behind)
 FormWindow::~FormWindow() = default;
 
 void FormWindow::Open() {
-    scale_ = devicePixelRatioF();
     // Frames are alike, as far as anybody knows yet.
     if (parentWidget()) frame_ = RoomOf(*parentWidget()).frame;
     Mirror();
@@ -248,16 +251,6 @@ void FormWindow::moveEvent(QMoveEvent*) {
 
 void FormWindow::resizeEvent(QResizeEvent*) {
     LayOut();
-    if (!Differs(scale_, devicePixelRatioF())) return;
-    // It has come to a screen of another scale and has still the pixels that it had before. Later: the
-    // toolkit is amidst telling everybody of the new screen.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            fit_ = {};
-            FitToScreen();
-        },
-        Qt::QueuedConnection);
 }
 
 void FormWindow::MirrorFocus() {

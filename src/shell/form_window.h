@@ -6,6 +6,7 @@
 #include "shell/menu_view.h"
 #include "shell/outlines.h"
 #include "shell/screen_room.h"
+#include "shell/size_on_screens.h"
 #include "shell/timer_view.h"
 
 #include <QWidget>
@@ -90,7 +91,7 @@ private:
     bool barIsStale_ = true;
     QMargins frame_;  ///< Of the desktop's frame around the window, as far as it is known.
     WindowFit fit_;
-    double scale_ = 0;  ///< Of the screen that it has its size for.
+    SameSizeOnScreens sameSize_;
     QMetaObject::Connection screenIsWatched_;
 };
 

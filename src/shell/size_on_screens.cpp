@@ -3,6 +3,8 @@
 #include <QResizeEvent>
 #include <QWidget>
 
+#include <utility>
+
 namespace coinlet {
 
 void SetSizeLimits(QWidget& window, const QSize& least, const QSize& most) {
@@ -12,7 +14,14 @@ void SetSizeLimits(QWidget& window, const QSize& least, const QSize& most) {
     window.setMaximumSize(most);
 }
 
-SameSizeOnScreens::SameSizeOnScreens(QWidget& window) : window_(window), scale_(window.devicePixelRatioF()) {
+SameSizeOnScreens::SameSizeOnScreens(QWidget& window)
+    : SameSizeOnScreens(window, [&window](const QSize& before) {
+          SetSizeLimits(window, window.minimumSize(), window.maximumSize());
+          window.resize(before);
+      }) {}
+
+SameSizeOnScreens::SameSizeOnScreens(QWidget& window, Restore restore)
+    : window_(window), restore_(std::move(restore)), scale_(window.devicePixelRatioF()) {
     window.installEventFilter(this);
 }
 
@@ -23,11 +32,7 @@ bool SameSizeOnScreens::eventFilter(QObject* /*watched*/, QEvent* event) {
     scale_ = window_.devicePixelRatioF();
     // Later: the toolkit is amidst telling everybody of the new screen.
     QMetaObject::invokeMethod(
-        this,
-        [this, size = static_cast<const QResizeEvent&>(*event).oldSize()] {
-            SetSizeLimits(window_, window_.minimumSize(), window_.maximumSize());
-            window_.resize(size);
-        },
+        this, [this, before = static_cast<const QResizeEvent&>(*event).oldSize()] { restore_(before); },
         Qt::QueuedConnection);
     return false;
 }

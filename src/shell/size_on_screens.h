@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QSize>
 
+#include <functional>
+
 class QWidget;
 
 namespace coinlet {
@@ -15,14 +17,22 @@ void SetSizeLimits(QWidget& window, const QSize& least, const QSize& most);
 /// so would show twice or half as much. As long as this lives, it stays as large as it is to the eye.
 class SameSizeOnScreens : public QObject {
 public:
+    /// Gives a window its size on the screen that it has come to; `before` is the one that it had.
+    using Restore = std::function<void(const QSize& before)>;
+
+    /// The window gets back the size that it had, and its limits.
     explicit SameSizeOnScreens(QWidget& window);
+    /// It gets its size from `restore`, which is called when the toolkit has told everybody of the new
+    /// screen.
+    SameSizeOnScreens(QWidget& window, Restore restore);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget& window_;
-    double scale_;
+    Restore restore_;
+    double scale_;  ///< Of the screen that it has its size for.
 };
 
 }  // namespace coinlet
