@@ -7,6 +7,7 @@
 #include "fuzz/random_user/extremes.h"
 #include "player/commands.h"
 #include "player/failure.h"
+#include "player/values.h"
 #include "support/bmp_bytes.h"
 #include "support/gif_bytes.h"
 
@@ -33,6 +34,39 @@ std::string WriteFileLine(const std::string& path, const Bytes& bytes) {
     return line + '"';
 }
 
+/// The folder of designs in the application folder, and where those that are there at first are kept.
+constexpr const char* designFolder = "Ontwerpen";
+constexpr const char* spareFolder = "spare";
+
+std::string CopyFileLine(const std::string& from, const std::string& to) {
+    return "copy-file " + player::Quoted(from) + " " + player::Quoted(to);
+}
+
+/// Keeps a copy of each design that is there at first.
+std::vector<std::string> KeepDesignLines(const player::Places& places) {
+    std::vector<std::string> lines;
+    for (const std::string& file : ListFiles(places.Application() / designFolder, "*"))
+        lines.push_back(
+            CopyFileLine(designFolder + ("/" + file), std::string("@out/") + spareFolder + "/" + file));
+    return lines;
+}
+
+/// Tags with pictures.
+std::vector<std::string> CollectionLines() {
+    return {"copy-file Images/small.gif Collection/255.jpg", "copy-file Images/cut.bmp Collection/001.jpg",
+            R"(write-file Collection/Collection.col "\"001\"\r\n\"255\"\r\n\"7\"\r\n")"};
+}
+
+/// Who deletes for hours has nothing left to look at: what the program deletes when its user says so comes
+/// back.
+std::vector<std::string> RefillLines(const player::Places& places) {
+    std::vector<std::string> lines = CollectionLines();
+    for (const std::string& file : ListFiles(places.Out() / spareFolder, "*"))
+        lines.push_back(
+            CopyFileLine(std::string("@out/") + spareFolder + "/" + file, designFolder + ("/" + file)));
+    return lines;
+}
+
 /// Pictures for the image browser in place of the stock pictures: small ones, and a damaged one.
 std::vector<std::string> FirstLines() {
     constexpr std::size_t pixelBytes = 4464;  // 48 by 31 pixels of 3
@@ -47,10 +81,7 @@ std::vector<std::string> FirstLines() {
                           GifBytes{.width = 3, .height = 3, .frames = {{0, 0, 3, 3, indices}}}.File()),
             "copy-file Images/bitmap.bmp @out/Pictures/bitmap.bmp",
             "copy-file Images/cut.bmp @out/Pictures/cut.bmp",
-            "copy-file Images/small.gif @out/Pictures/deeper/small.gif",
-            "copy-file Images/small.gif Collection/255.jpg",
-            "copy-file Images/cut.bmp Collection/001.jpg",
-            "expect Program.Ended false"};
+            "copy-file Images/small.gif @out/Pictures/deeper/small.gif"};
 }
 
 /// Lines that queue answers of a kind that is running out.
@@ -109,8 +140,9 @@ RandomUser::RandomUser(Dice dice, std::size_t steps, std::vector<std::string> fa
       script_(script),
       favourites_(std::move(favourites)),
       reach_(FormNames()) {
-    for (std::string& line : FirstLines())
-        prepared_.push_back(std::move(line));
+    for (auto& lines : {FirstLines(), CollectionLines(), KeepDesignLines(places)})
+        std::ranges::copy(lines, std::back_inserter(prepared_));
+    prepared_.emplace_back("expect Program.Ended false");
 }
 
 std::optional<player::ScriptLine> RandomUser::NextLine(player::Life* life) {
@@ -140,6 +172,8 @@ std::string RandomUser::MakeLine(player::Life* life) {
         prepared_.push_back(dice_.OneIn(oneInInterrupts) ? InterruptLine(chance)
                                                          : AnyUserOrStateLine(chance));
         NoteUse(*life, player::SplitWords(prepared_.back()));
+        constexpr std::size_t oneInWaits = 4;
+        if (!IsLawless() && dice_.OneIn(oneInWaits)) WaitForUnused(chance);
     }
     std::string line = std::move(prepared_.front());
     prepared_.pop_front();
@@ -152,14 +186,18 @@ std::string RandomUser::AnyUserOrStateLine(const Chance& chance) const {
 }
 
 std::string RandomUser::InterruptLine(const Chance& chance) const {
-    const std::string unused = chance.dice.OneIn(4) ? UnusedLine(chance) : "";
-    return "interrupt " + std::to_string(chance.dice.Between(1, 3)) + " try " +
-           (unused.empty() ? AnyUserOrStateLine(chance) : unused);
+    return "interrupt " + std::to_string(chance.dice.Between(1, 3)) + " try " + AnyUserOrStateLine(chance);
 }
 
-std::string RandomUser::UnusedLine(const Chance& chance) const {
-    const auto commands = reach_.CommandsForUnused();
-    return commands.empty() ? "" : chance.dice.Pick(commands);
+void RandomUser::WaitForUnused(const Chance& chance) {
+    const auto [seen, unseen] = reach_.FindUnused(chance.life);
+    // He waits rather for what he has seen before.
+    const auto& commands = seen.empty() || (chance.dice.OneIn(4) && !unseen.empty()) ? unseen : seen;
+    if (commands.empty()) return;
+    constexpr int mostMoments = 3;
+    prepared_.insert(std::prev(prepared_.end()), "interrupt " +
+                                                     std::to_string(chance.dice.Between(1, mostMoments)) +
+                                                     " try " + chance.dice.Pick(commands));
 }
 
 void RandomUser::Interrupting(const player::Life& life, const player::Call& call) {
@@ -185,6 +223,7 @@ void RandomUser::PrepareRestart() {
         for (const std::string& name : ListFiles(designs, "Recovered *;Hersteld *"))
             prepared_.push_back("delete-file \"Ontwerpen/" + name + "\"");
     }
+    if (lives_ % 2 == 0) std::ranges::move(RefillLines(places_), std::back_inserter(prepared_));
     if (IsAmongDamage()) {
         Damage damage = DamageAThird(dice_, places_.Application());
         std::ranges::move(damage.lines, std::back_inserter(prepared_));

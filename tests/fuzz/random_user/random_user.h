@@ -46,8 +46,9 @@ private:
     std::string AnyUserOrStateLine(const Chance& chance) const;
     /// Something that comes in the midst of something else.
     std::string InterruptLine(const Chance& chance) const;
-    /// What may show itself for that moment only; empty if there is nothing that was never used.
-    std::string UnusedLine(const Chance& chance) const;
+    /// Puts something ahead of the last line prepared that he does amidst it: what was never used, and can't
+    /// be used now, may show itself for that moment only.
+    void WaitForUnused(const Chance& chance);
     void NoteUse(const player::Life& life, std::span<const player::Word> words);
     /// What comes between two lives of the program.
     void PrepareRestart();

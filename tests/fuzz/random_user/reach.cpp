@@ -54,6 +54,13 @@ bool IsEnabled(const Element& element) {
     return !control || control->Reachable();
 }
 
+/// True if a user can get at an element of the form in front, by its full name.
+bool CanBeUsed(const Form& front, std::string_view name) {
+    const auto element = std::ranges::find(front.Elements(), name,
+                                           [](const Element* one) { return player::FullNameOf(*one); });
+    return element != front.Elements().end() && IsShown(**element) && IsEnabled(**element);
+}
+
 /// The sources that act: not those that lay out a form as it is at first.
 std::vector<std::string> ActingSources(const fs::path& folder) {
     std::vector<std::string> sources;
@@ -164,26 +171,28 @@ void Reach::Note(const player::Life& life, std::string_view command, std::string
     ++forms_[std::string(front->Name())];
     const auto entry = entries_.find(address);
     if (entry == entries_.end() || entry->second.form != front->Name()) return;
-    const auto element = std::ranges::find(front->Elements(), address,
-                                           [](const Element* one) { return player::FullNameOf(*one); });
-    if (element == front->Elements().end() || !IsShown(**element) || !IsEnabled(**element)) return;
+    if (!CanBeUsed(*front, address)) return;
     if (std::ranges::find(entry->second.deeds, command) != entry->second.deeds.end()) ++entry->second.uses;
     entry->second.wasShown = entry->second.wasEnabled = true;
 }
 
-std::vector<std::string> Reach::CommandsForUnused() const {
+Reach::Unused Reach::FindUnused(const player::Life& life) const {
     using namespace std::string_view_literals;
     constexpr std::array further{std::pair{"press"sv, " 1 1 1"}, std::pair{"slide"sv, " 1"},
                                  std::pair{"pick"sv, " 0"}, std::pair{"type"sv, " 1"},
                                  std::pair{"click"sv, ""}};
-    std::vector<std::string> commands;
+    const Form* const front = life.platform.FrontForm();
+    Unused unused;
     for (const auto& [name, entry] : entries_) {
-        if (entry.uses > 0) continue;
+        const auto& open = life.platform.Forms();
+        const auto form = std::ranges::find(open, entry.form, &Form::Name);
+        if (entry.uses > 0 || form == open.end() || (*form == front && CanBeUsed(*front, name))) continue;
         const std::string_view deed = entry.deeds.front();
         const auto* const words = std::ranges::find(further, deed, [](const auto& row) { return row.first; });
-        commands.push_back(std::string(deed) + " " + name + words->second);
+        const bool isSeen = entry.wasShown && entry.wasEnabled;
+        (isSeen ? unused.seen : unused.unseen).push_back(std::string(deed) + " " + name + words->second);
     }
-    return commands;
+    return unused;
 }
 
 std::size_t Reach::Uses(const std::string& name) const {

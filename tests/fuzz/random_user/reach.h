@@ -23,8 +23,13 @@ public:
     /// A command that a user gives now. It is no use of what he can't get at.
     void Note(const player::Life& life, std::string_view command, std::string_view address);
 
-    /// A command for each control and entry that was never used, in the language of scripts.
-    std::vector<std::string> CommandsForUnused() const;
+    /// A command, in the language of scripts, for each control and entry of the open forms that was never
+    /// used and can't be used now.
+    struct Unused {
+        std::vector<std::string> seen;  ///< It could have been used once.
+        std::vector<std::string> unseen;
+    };
+    Unused FindUnused(const player::Life& life) const;
     /// How often something was used, by its full name.
     std::size_t Uses(const std::string& name) const;
 

@@ -275,26 +275,40 @@ std::string Use(const Chance& chance, const Control& control) {
     }
 }
 
+/// Uses it; empty if that can't be done now, as of a list without rows.
+std::string UseIfReached(const Chance& chance, const Element& element) {
+    if (const auto* const control = dynamic_cast<const Control*>(&element))
+        return chance.Reaches(*control) ? Use(chance, *control) : "";
+    const auto* const entry = dynamic_cast<const MenuItem*>(&element);
+    return entry && IsChoice(*entry) ? "click " + FullNameOf(*entry) : "";
+}
+
 /// What was used least of all that can be used now.
 std::string UseTheRarest(const Chance& chance) {
-    std::vector<const Element*> rarest;
+    std::vector<std::string> rarest;
     std::size_t fewest = 0;
     for (const Element* const element : chance.Front().Elements()) {
-        const auto* const control = dynamic_cast<const Control*>(element);
-        const auto* const entry = dynamic_cast<const MenuItem*>(element);
-        const bool isReached = (control && chance.Reaches(*control)) || (entry && IsChoice(*entry));
-        if (!isReached) continue;
         const std::size_t uses = chance.reach.Uses(FullNameOf(*element));
-        if (rarest.empty() || uses < fewest) {
-            rarest.clear();
-            fewest = uses;
-        }
-        if (uses == fewest) rarest.push_back(element);
+        if (!rarest.empty() && uses > fewest) continue;
+        std::string line = UseIfReached(chance, *element);
+        if (line.empty()) continue;
+        if (uses < fewest) rarest.clear();
+        fewest = uses;
+        rarest.push_back(std::move(line));
     }
-    if (rarest.empty()) return "";
-    const Element* const element = chance.dice.Pick(rarest);
-    const auto* const control = dynamic_cast<const Control*>(element);
-    return control ? Use(chance, *control) : "click " + FullNameOf(*element);
+    return rarest.empty() ? "" : chance.dice.Pick(rarest);
+}
+
+/// What a dialog is opened for: a row of its list is chosen, and then the button pressed that says yes.
+std::string Finish(const Chance& chance) {
+    const auto unchosen = Reachable<ListBox>(
+        chance, [](const ListBox& list) { return list.ListCount() > 0 && list.ListIndex() < 0; });
+    if (!unchosen.empty()) return PickRowOf(chance, *unchosen.front());
+    const Form& front = chance.Front();
+    const auto buttons = Reachable<VistaButton>(chance, [&](const VistaButton& button) {
+        return &button == front.DefaultButton || button.Name() == "OkKnop";
+    });
+    return buttons.empty() ? "" : "click " + FullNameOf(*buttons.front());
 }
 
 std::string Focus(const Chance& chance) {
@@ -322,27 +336,11 @@ std::string Close(const Chance& chance) {
 }
 
 constexpr WeightedMaker makers[] = {
-    {20, GoOn},
-    {12, ClickButton},
-    {10, ChooseEntry},
-    {8, Press},
-    {8, Drag},
-    {6, Hover},
-    {5, Key},
-    {4, Click},
-    {4, Slide},
-    {4, PickRow},
-    {4, EnterFolder},
-    {3, Type},
-    {3, Tick},
-    {2, PutPointer},
-    {2, Focus},
-    {1, Close},
-    {2, DropFiles},
-    {1, FillClipboard},
-    {2, PasteFromClipboard},
-    {60, OpenFavourite},
-    {20, UseTheRarest},
+    {20, GoOn},          {12, ClickButton},  {10, ChooseEntry}, {8, Press},         {8, Drag},
+    {6, Hover},          {5, Key},           {4, Click},        {4, Slide},         {4, PickRow},
+    {4, EnterFolder},    {3, Type},          {3, Tick},         {2, PutPointer},    {2, Focus},
+    {4, Finish},         {1, Close},         {2, DropFiles},    {1, FillClipboard}, {2, PasteFromClipboard},
+    {60, OpenFavourite}, {20, UseTheRarest},
 };
 
 }  // namespace
