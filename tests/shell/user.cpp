@@ -14,11 +14,28 @@
 
 #include <atomic>
 #include <chrono>
+#include <memory>
 #include <thread>
 
 namespace coinlet::test {
 
 using namespace std::chrono_literals;
+
+namespace {
+
+/// Whether the toolkit has told a window of the pointer.
+class MoveNote : public QObject {
+public:
+    bool came = false;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        came = came || event->type() == QEvent::MouseMove;
+        return false;
+    }
+};
+
+}  // namespace
 
 void User::Has(const std::function<void()>& action) {
     QMetaObject::invokeMethod(
@@ -121,6 +138,22 @@ void User::Do(const std::vector<std::string>& arguments) {
 void User::MoveTo(const QPoint& place) {
     Do({"mousemove", "--sync", std::to_string(place.x()), std::to_string(place.y())});
 }
+void User::MoveAwayOver(QWidget& window) {
+    std::unique_ptr<MoveNote> moves;
+    QPoint corner;
+    Has([&] {
+        corner = ToScreen(window, QPoint(0, 0));
+        moves = std::make_unique<MoveNote>();
+        window.windowHandle()->installEventFilter(moves.get());
+    });
+    // One of two places isn't where it was last.
+    const std::string x = std::to_string(corner.x()), y = std::to_string(corner.y());
+    Do({"mousemove", x, y, "mousemove", std::to_string(corner.x() + 1), y});
+    EXPECT_TRUE(Sees([&] { return moves->came; }));
+    Has([&] { moves.reset(); });
+    constexpr const char* beyond = "32000";
+    Do({"mousemove", beyond, beyond});
+}
 void User::Press(int button) {
     Do({"mousedown", std::to_string(button)});
 }
@@ -158,13 +191,17 @@ void ShellTest::Run(Form& form, const std::function<void(User&)>& work) {
         platform.ShowMain(form);
         life = std::thread([&] {
             User user(platform);
+            FormWindow* window = nullptr;
             EXPECT_TRUE(user.Sees([&] {
-                FormWindow* window = platform.WindowOf(form);
+                window = platform.WindowOf(form);
                 if (!window || !window->windowHandle()->isExposed()) return false;
                 // No window manager is there that would bring it to the front.
                 if (!window->isActiveWindow()) window->activateWindow();
                 return window->isActiveWindow();
             }));
+            // The toolkit takes a pointer that comes back to where a window of a test before saw it last for
+            // one that didn't move.
+            if (window) user.MoveAwayOver(*window);
             work(user);
             QMetaObject::invokeMethod(
                 qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
