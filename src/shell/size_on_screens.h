@@ -22,8 +22,7 @@ public:
 
     /// The window gets back the size that it had, and its limits.
     explicit SameSizeOnScreens(QWidget& window);
-    /// It gets its size from `restore`, which is called when the toolkit has told everybody of the new
-    /// screen.
+    /// It gets its size from `restore`, which is called once everybody knows of the new screen.
     SameSizeOnScreens(QWidget& window, Restore restore);
 
 protected:

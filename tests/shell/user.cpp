@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Whether the toolkit has told a window of the pointer.
+/// Whether a window heard of the pointer.
 class MoveNote : public QObject {
 public:
     bool came = false;
