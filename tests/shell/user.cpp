@@ -147,8 +147,8 @@ void User::MoveAwayOver(QWidget& window) {
         window.windowHandle()->installEventFilter(moves.get());
     });
     // One of two places isn't where it was last.
-    const std::string x = std::to_string(corner.x()), y = std::to_string(corner.y());
-    Do({"mousemove", x, y, "mousemove", std::to_string(corner.x() + 1), y});
+    MoveTo(corner);
+    MoveTo(corner + QPoint(1, 0));
     EXPECT_TRUE(Sees([&] { return moves->came; }));
     Has([&] { moves.reset(); });
     constexpr const char* beyond = "32000";
