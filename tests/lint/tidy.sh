@@ -1,22 +1,78 @@
 #!/usr/bin/env bash
-# clang-tidy has nothing to say about any source of the program and of its player. (Tests hold to it too, but
-# their macros take it half a minute a file: name them on the command line to have them read.) A file that passed
-# and hasn't changed since, nor any header or setting, isn't read again.
+# clang-tidy has nothing to say about any source of the program and of its player. (Tests hold to it too: name them on
+# the command line to have them read.) A file that passed and hasn't changed since, nor any header or setting, isn't
+# read again.
 #   tidy.sh TREE BUILD [FILE...]
+#
+# Nearly all of its time goes into the headers of libraries, so sources of a folder are read as one text. Where it has
+# anything to say about that, each of them is read by itself and has the last word.
 set -euo pipefail
 cd "$1"
-passed="$2/tidy-passed"
-mkdir -p "$passed"
-common=$(cat .clang-tidy $(find src dev -name '*.h' | sort) | sha256sum | cut -c1-16)
-export passed common build="$2"
-
-check() {
-    stamp="$passed/$( { echo "$common"; cat "$1"; echo "$1"; } | sha256sum | cut -c1-32)"
-    [ -e "$stamp" ] && exit 0
-    # Its own compiler warnings are of no interest here: the build has stricter ones.
-    if clang-tidy -p "$build" --quiet --extra-arg=-Wno-unknown-warning-option "$1" 2>/dev/null; then touch "$stamp"; else echo "$1: see above"; exit 1; fi
-}
-export -f check
+build="$2"
 shift 2
 if [ $# -eq 0 ]; then set -- $(find src dev -name '*.cpp' | sort); fi
-printf '%s\n' "$@" | xargs -P "$(nproc)" -I{} bash -c 'check {}'
+
+passed="$build/tidy-passed"
+mkdir -p "$passed"
+headers=$(find src dev -name '*.h' | sort)
+common=$(cat .clang-tidy $headers | sha256sum | cut -c1-16)
+texts=$(mktemp -d)
+trap 'rm -rf "$texts"' EXIT
+export build passed common texts
+
+stamp_of() { echo "$passed/$({ echo "$common"; cat "$1"; echo "$1"; } | sha256sum | cut -c1-32)"; }
+
+# Its own compiler warnings are of no interest here: the build has stricter ones.
+tidy() { clang-tidy --config-file=.clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option "$@" 2>/dev/null; }
+
+# check TEXT SOURCE...
+check() {
+    local text="$texts/$1.cpp" source failed=0
+    shift
+    # What it has no command for, it passes.
+    if [ $# -gt 1 ] && grep -qF "\"$text\"" "$texts/compile_commands.json" &&
+        tidy -p "$texts" --extra-arg="-I$(dirname "$1")" "$text" >/dev/null; then
+        for source in "$@"; do touch "$(stamp_of "$source")"; done
+        return
+    fi
+    for source in "$@"; do
+        if tidy -p "$build" "$source"; then touch "$(stamp_of "$source")"; else echo "$source: see above"; failed=1; fi
+    done
+    return $failed
+}
+export -f stamp_of tidy check
+
+for source in "$@"; do
+    if [ ! -e "$(stamp_of "$source")" ]; then echo "$source"; fi
+done >"$texts/unread"
+
+# lists: a line for each text, of its sources; those of most first, so that no processor is left alone with them.
+while read -r folder; do
+    awk -v most="${TIDY_MOST:-20}" -f cmake/joined_sources.awk $headers $(find tests/support "$folder" -name '*.h') \
+        $(grep "^$folder/[^/]*$" "$texts/unread") |
+        awk '$1 == 0 { print 1, $2; next } { sources[$1] = sources[$1] " " $2; ++count[$1] }
+             END { for (i in sources) print count[i] sources[i] }'
+done < <(sed 's|/[^/]*$||' "$texts/unread" | sort -u) | sort -rn | cut -d' ' -f2- >"$texts/lists"
+number=0
+while read -r -a sources; do
+    number=$((number + 1))
+    cat "${sources[@]}" >"$texts/$number.cpp"
+done <"$texts/lists"
+
+# Each text is compiled as the first of its sources is.
+awk -v texts="$texts" -v tree="$PWD" '
+    $1 == "\"directory\":" { directory = $0; next }
+    $1 == "\"command\":" { command = $0; next }
+    $1 == "\"file\":" { split($0, quoted, "\""); directories[quoted[4]] = directory; commands[quoted[4]] = command; next }
+    FILENAME ~ /lists$/ {
+        source = tree "/" $1
+        if (!(source in commands)) next
+        text = texts "/" FNR ".cpp"
+        command = commands[source]
+        at = index(command, "-c " source)
+        printf "%s{\n%s\n%s\n  \"file\": \"%s\"\n}", count++ ? "," : "[\n", directories[source],
+               substr(command, 1, at + 2) text substr(command, at + 3 + length(source)), text
+    }
+    END { print count ? "\n]" : "[]" }' "$build/compile_commands.json" "$texts/lists" >"$texts/compile_commands.json"
+
+cat -n "$texts/lists" | xargs -r -P "$(nproc)" -L 1 bash -c 'check "$@"' check
