@@ -17,8 +17,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct ControlForm : Form {
+    explicit ControlForm(FormServices services) : Form(services, "Sample") {
         Text1.Move(0, 0, 600, 300);
         Label1.Move(0, 0, 600, 300);
         Inner.Move(0, 0, 300, 300);
@@ -41,7 +41,7 @@ struct ControlTest : testing::Test {
     ControlTest() { services.platform.ShowMain(form); }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    ControlForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 

@@ -16,8 +16,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct FieldsForm : Form {
+    explicit FieldsForm(FormServices services) : Form(services, "Sample") {
         for (Control* control : TabOrder())
             control->Move(0, 0, 300, 300);
         log.Listen(Bar, &ScrollBar::Change, "Change");
@@ -55,7 +55,7 @@ struct FieldsTest : testing::Test {
     }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    FieldsForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 

@@ -15,7 +15,7 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
+struct FileBoxesForm : Form {
     using Form::Form;
 
     FileListBox File1{*this, "File1"};
@@ -53,7 +53,7 @@ struct FileBoxesTest : testing::Test {
 
     test::TemporaryFolder folder;
     test::TestServices services;
-    SampleForm form{services.ForForms(), "Sample"};
+    FileBoxesForm form{services.ForForms(), "Sample"};
     test::EventLog log;
 };
 

@@ -15,8 +15,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct FocusForm : Form {
+    explicit FocusForm(FormServices services) : Form(services, "Sample") {
         for (Control* control : TabOrder()) {
             control->Move(0, 0, 900, 300);
             log.ListenToAll(*control);
@@ -38,7 +38,7 @@ struct FocusTest : testing::Test {
     FocusTest() { services.platform.ShowMain(form); }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    FocusForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 

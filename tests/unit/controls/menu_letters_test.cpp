@@ -10,8 +10,8 @@
 namespace coinlet {
 namespace {
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {}
+struct MenuLettersForm : Form {
+    explicit MenuLettersForm(FormServices services) : Form(services, "Sample") {}
 
     MenuItem Menu{*this, "Menu", "Menu"};
 };
@@ -30,7 +30,7 @@ struct MenuLettersTest : testing::Test {
     }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    MenuLettersForm form{services.ForForms()};
     std::vector<std::unique_ptr<MenuItem>> entries;
 };
 

@@ -10,7 +10,7 @@
 namespace coinlet {
 namespace {
 
-struct SampleForm : Form {
+struct MenuForm : Form {
     using Form::Form;
 
     MenuItem File{*this, "File", "File"};
@@ -23,7 +23,7 @@ struct SampleForm : Form {
 
 struct MenuTest : testing::Test {
     test::TestServices services;
-    SampleForm form{services.ForForms(), "Sample"};
+    MenuForm form{services.ForForms(), "Sample"};
 };
 
 TEST_F(MenuTest, EntriesHangInTheirMenus) {

@@ -13,8 +13,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct OptionKeysForm : Form {
+    explicit OptionKeysForm(FormServices services) : Form(services, "Sample") {
         for (Control* control : TabOrder()) {
             control->Move(0, 0, 300, 300);
             log.Listen(*control, &Control::Click, "Click");
@@ -46,7 +46,7 @@ struct OptionKeysTest : testing::Test {
     }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    OptionKeysForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 

@@ -16,8 +16,8 @@ namespace {
 using test::Lines;
 
 /// A form that writes down its life and does what a test hands in.
-struct SampleForm : Form {
-    SampleForm(FormServices services, std::string_view name, test::TestPlatform& platform)
+struct PlatformForm : Form {
+    PlatformForm(FormServices services, std::string_view name, test::TestPlatform& platform)
         : Form(services, name), log(platform.log) {}
 
     void Note(const char* what) { log.push_back(std::string(what) + " " + std::string(Name())); }
@@ -41,10 +41,10 @@ struct SampleForm : Form {
 struct PlatformTest : testing::Test {
     test::TestServices services;
     test::TestPlatform& platform = services.platform;
-    SampleForm main{services.ForForms(), "Main", platform};
+    PlatformForm main{services.ForForms(), "Main", platform};
     Lines TakeLog() { return std::exchange(platform.log, {}); }
 
-    SampleForm NewForm(std::string_view name) { return {services.ForForms(), name, platform}; }
+    PlatformForm NewForm(std::string_view name) { return {services.ForForms(), name, platform}; }
 };
 
 TEST_F(PlatformTest, TheMainFormIsLoadedShownActivated) {
@@ -61,7 +61,7 @@ TEST_F(PlatformTest, TheMainFormIsLoadedShownActivated) {
 
 TEST_F(PlatformTest, ADialogWaitsUntilItUnloadsAndThenTheFormBelowIsActivated) {
     platform.ShowMain(main);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     platform.doings = {[&] { platform.log.push_back("front " + std::string(platform.FrontForm()->Name())); },
                        [&] { dialog.Unload(); }};
     TakeLog();
@@ -74,7 +74,7 @@ TEST_F(PlatformTest, ADialogWaitsUntilItUnloadsAndThenTheFormBelowIsActivated) {
 
 TEST_F(PlatformTest, OfFormsOfOneNameTheFrontOneIsFound) {
     platform.ShowMain(main);
-    SampleForm lower = NewForm("Twin"), upper = NewForm("Twin");
+    PlatformForm lower = NewForm("Twin"), upper = NewForm("Twin");
     std::vector<const Form*> found;
     platform.doings = {[&] { platform.ShowModal(upper); },
                        [&] {
@@ -89,7 +89,7 @@ TEST_F(PlatformTest, OfFormsOfOneNameTheFrontOneIsFound) {
 
 TEST_F(PlatformTest, DialogsStandAboveEachOther) {
     platform.ShowMain(main);
-    SampleForm lower = NewForm("Lower"), upper = NewForm("Upper");
+    PlatformForm lower = NewForm("Lower"), upper = NewForm("Upper");
     platform.doings = {[&] {
                            platform.ShowModal(upper);
                            lower.Note("back in");
@@ -104,7 +104,7 @@ TEST_F(PlatformTest, DialogsStandAboveEachOther) {
 
 TEST_F(PlatformTest, ADialogClosedBelowAnotherOneLeavesTheFormBelowActivatedOnce) {
     platform.ShowMain(main);
-    SampleForm lower = NewForm("Lower"), upper = NewForm("Upper");
+    PlatformForm lower = NewForm("Lower"), upper = NewForm("Upper");
     platform.doings = {[&] { platform.ShowModal(upper); }, [&] { lower.Unload(); }, [&] { upper.Unload(); }};
     TakeLog();
     platform.ShowModal(lower);
@@ -115,7 +115,7 @@ TEST_F(PlatformTest, ADialogClosedBelowAnotherOneLeavesTheFormBelowActivatedOnce
 
 TEST_F(PlatformTest, ADialogThatUnloadsItselfWhileItLoadsIsNeverShown) {
     platform.ShowMain(main);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     dialog.atLoad = [&] { dialog.Unload(); };
     TakeLog();
     platform.ShowModal(dialog);
@@ -125,7 +125,7 @@ TEST_F(PlatformTest, ADialogThatUnloadsItselfWhileItLoadsIsNeverShown) {
 
 TEST_F(PlatformTest, ADialogThatIsOpenIsNotOpenedAgain) {
     platform.ShowMain(main);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     platform.doings = {[&] {
                            TakeLog();
                            platform.ShowModal(dialog);
@@ -138,7 +138,7 @@ TEST_F(PlatformTest, ADialogThatIsOpenIsNotOpenedAgain) {
 
 TEST_F(PlatformTest, ADialogMayRefuseToUnload) {
     platform.ShowMain(main);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     dialog.refuses = true;
     platform.doings = {[&] {
                            dialog.Unload();
@@ -164,7 +164,7 @@ TEST_F(PlatformTest, UnloadingWhileUnloadingDoesNothing) {
 
 TEST_F(PlatformTest, AFormMayBeShownAgainAfterItWasUnloaded) {
     platform.ShowMain(main);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     const std::function<void()> close = [&] { dialog.Unload(); };
     platform.doings = {close, close};
     platform.ShowModal(dialog);
@@ -174,7 +174,7 @@ TEST_F(PlatformTest, AFormMayBeShownAgainAfterItWasUnloaded) {
 
 TEST_F(PlatformTest, AFormThatEndsWhileItIsLoadedIsTakenOff) {
     {
-        SampleForm passing = NewForm("Passing");
+        PlatformForm passing = NewForm("Passing");
         platform.ShowMain(passing);
         TakeLog();
     }
@@ -230,7 +230,7 @@ TEST_F(PlatformTest, TheEndUnwindsEveryDialogAndActivatesNobody) {
     platform.ShowMain(main);
     bool ranOn = false;
     {
-        SampleForm lower = NewForm("Lower"), upper = NewForm("Upper");
+        PlatformForm lower = NewForm("Lower"), upper = NewForm("Upper");
         platform.doings = {[&] {
                                platform.ShowModal(upper);
                                ranOn = true;
@@ -260,7 +260,7 @@ TEST_F(PlatformTest, TheEndInsideAServedEventEndsTheHandlerThatWaited) {
 }
 
 TEST_F(PlatformTest, TheEndWhileADialogLoadsTakesItOff) {
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     dialog.atLoad = [&] { platform.End(); };
     EXPECT_THROW(platform.ShowModal(dialog), ProgramEnded);
     EXPECT_FALSE(dialog.Loaded());
@@ -282,7 +282,7 @@ TEST_F(PlatformTest, AfterTheEndEveryCallReturnsAtOnce) {
     TakeLog();
     platform.DoEvents();
     platform.Wait(3);
-    SampleForm dialog = NewForm("Dialog");
+    PlatformForm dialog = NewForm("Dialog");
     platform.ShowModal(dialog);
     platform.ShowMain(main);
     EXPECT_EQ(platform.ShowMessage({.prompt = "?", .buttons = MessageButtons::YesNo, .standard = Answer::No}),
@@ -297,8 +297,8 @@ TEST_F(PlatformTest, AfterTheEndEveryCallReturnsAtOnce) {
 }
 
 TEST_F(PlatformTest, APopupStandsAtTheControlThatAKeyWentToElseAtThePointer) {
-    struct PopupForm : SampleForm {
-        using SampleForm::SampleForm;
+    struct PopupForm : PlatformForm {
+        using PlatformForm::PlatformForm;
         MenuItem Menu{*this, "Menu", "Menu"};
         VistaButton Button{*this, "Button"};
         TextBox Text{*this, "Text"};
@@ -335,8 +335,8 @@ TEST_F(PlatformTest, APopupStandsAtTheControlThatAKeyWentToElseAtThePointer) {
 }
 
 TEST_F(PlatformTest, TheFocusIsSettledOnEveryForm) {
-    struct FieldForm : SampleForm {
-        using SampleForm::SampleForm;
+    struct FieldForm : PlatformForm {
+        using PlatformForm::PlatformForm;
         TextBox Text{*this, "Text"};
     } below{services.ForForms(), "Below", platform}, above{services.ForForms(), "Above", platform};
     platform.ShowMain(below);

@@ -15,8 +15,8 @@ namespace {
 using test::Lines;
 
 /// A picture of 100 by 80 pixels, 20 pixels right of and 10 below the corner of a frame.
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct PointedPictureForm : Form {
+    explicit PointedPictureForm(FormServices services) : Form(services, "Sample") {
         Width = Height = 3000;
         Panel.Move(150, 150, 2000, 2000);
         Pic.Move(300, 150, 1500, 1200);
@@ -49,7 +49,7 @@ struct PointedPictureTest : testing::Test {
     void Press(int code, int shift = 0) { Down(code, shift), Up(code, shift); }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    PointedPictureForm form{services.ForForms()};
 };
 
 TEST_F(PointedPictureTest, TheTabKeyStopsWhereThereArePixels) {

@@ -14,8 +14,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct PressByKeysForm : Form {
+    explicit PressByKeysForm(FormServices services) : Form(services, "Sample") {
         Field.Move(0, 0, 600, 300);
         Pic.Move(0, 0, 1500, 1500);
         for (Control* control : {static_cast<Control*>(&Field), static_cast<Control*>(&Pic)}) {
@@ -39,7 +39,7 @@ struct PressByKeysTest : testing::Test {
     }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    PressByKeysForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 

@@ -39,7 +39,7 @@ struct Events : EventVisitor {
     std::vector<NamedEvent> all;
 };
 
-struct SampleForm : Form {
+struct PropertiesForm : Form {
     using Form::Form;
     void Form_Load() override { log.Add("Load"); }
     void Form_Activate() override { log.Add("Activate"); }
@@ -89,7 +89,7 @@ struct PropertiesTest : testing::Test {
     }
 
     test::TestServices services;
-    SampleForm form{services.ForForms(), "Sample"};
+    PropertiesForm form{services.ForForms(), "Sample"};
 };
 
 TEST_F(PropertiesTest, EveryNameStandsOnce) {

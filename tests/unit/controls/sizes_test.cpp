@@ -10,7 +10,7 @@
 namespace coinlet {
 namespace {
 
-struct SampleForm : Form {
+struct SizesForm : Form {
     using Form::Form;
 
     Label Label1{*this, "Label1"};
@@ -20,7 +20,7 @@ struct SampleForm : Form {
 
 struct SizesTest : testing::Test {
     test::TestServices services;
-    SampleForm form{services.ForForms(), "Sample"};
+    SizesForm form{services.ForForms(), "Sample"};
 };
 
 TEST_F(SizesTest, ALabelThatSizesItselfIsAsLargeAsItsCaption) {

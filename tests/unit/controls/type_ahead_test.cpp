@@ -13,8 +13,8 @@ namespace {
 
 using test::Lines;
 
-struct SampleForm : Form {
-    explicit SampleForm(FormServices services) : Form(services, "Sample") {
+struct TypeAheadForm : Form {
+    explicit TypeAheadForm(FormServices services) : Form(services, "Sample") {
         for (const char* row :
              {"Anchor", "Bear", "\u00C9toile", "Eel", "tag b", "tag c", "aardvark", "45\u00B0"})
             List.AddItem(row);
@@ -41,7 +41,7 @@ struct TypeAheadTest : testing::Test {
     void Pause() { form.List.TypingTimer()->Tick(); }
 
     test::TestServices services;
-    SampleForm form{services.ForForms()};
+    TypeAheadForm form{services.ForForms()};
     test::EventLog& log = form.log;
 };
 
