@@ -8,6 +8,12 @@ target_compile_options(coinlet_flags INTERFACE
     # A product and a sum are rounded one by one: pictures are the same on every processor.
     -ffp-contract=off)
 
+if(COINLET_JOINED)
+    # A type of a source that holds one of its unnamed namespace: several sources in one are included, and in what is
+    # included the compiler takes it for a header's, which others would see.
+    target_compile_options(coinlet_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
+
 if(COINLET_SANITIZE)
     # Sanitized for the whole tree, so that no object is half instrumented.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
