@@ -44,7 +44,7 @@ void PrepareCanvas(Context& context) {
 }
 
 void PreparePanel(Context& context) {
-    PrintSidePanelHeader(context.main.TopInfoPic.surface);
+    PrintSidePanelHeader(context.main.TopInfoPic);
     DrawEmptyRows(context.main.InfoPic.surface, rowTextAtStart);
 }
 

@@ -3,14 +3,49 @@
 #include "base/numbers.h"
 #include "controls/form.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
 
 namespace coinlet {
 
+namespace {
+
+bool IsOfOneColour(const Bitmap& pixels, Pixel colour) {
+    for (int y = 0; y < pixels.Height(); ++y) {
+        const Pixel* row = pixels.Row(y);
+        if (std::find_if(row, row + pixels.Width(), [&](Pixel each) { return each != colour; }) !=
+            row + pixels.Width())
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
 PictureBox::PictureBox(Container& container, std::string_view name, int index)
     : Control(container, name, index, ControlKind::PictureBox), surface(OwnerForm().Fonts(), 0, 0) {}
+
+void PictureBox::PrintToRead(std::string_view line) {
+    const bool goesOn = !linesToRead_.empty() && linesRevision_ == surface.Revision();
+    const bool isPlain = goesOn || IsOfOneColour(surface.Pixels(), ToPixel(surface.BackColor()));
+    if (!goesOn) linesToRead_.clear();
+    if (isPlain) {
+        linesToRead_.push_back({.text = std::string(line),
+                                .x = RoundHalfEven(surface.CurrentX / ChildUnitsPerPixel()),
+                                .y = RoundHalfEven(surface.CurrentY / ChildUnitsPerPixel()),
+                                .font = surface,
+                                .colour = surface.ForeColor});
+    }
+    surface.Print(line);
+    linesRevision_ = surface.Revision();
+}
+
+const std::vector<PrintedLine>& PictureBox::LinesToRead() const {
+    static const std::vector<PrintedLine> none;
+    return linesRevision_ == surface.Revision() ? linesToRead_ : none;
+}
 
 void PictureBox::SetPressPlaces(std::vector<Rectangle> places) {
     places_ = std::move(places);

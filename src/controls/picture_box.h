@@ -4,9 +4,20 @@
 #include "surface/geometry.h"
 #include "surface/surface.h"
 
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace coinlet {
+
+/// A line of text on a picture: the upper left corner of its first letter's cell in pixels of the picture.
+struct PrintedLine {
+    std::string text;
+    int x = 0, y = 0;
+    FontProperties font;
+    Colour colour = black;
+};
 
 /// A control that shows a surface and may hold other controls, placed in the units of its scale.
 ///
@@ -43,6 +54,13 @@ public:
     /// Gives the surface a picture.
     virtual void SetPicture(const coinlet::Image& picture) { surface.SetPicture(picture); }
 
+    /// Prints one line as the surface's `Print` does, on a picture that shows no more than its `BackColor`
+    /// and such lines. They are there to be read, not to be filled or kept: a screen may show them with the
+    /// letters of its labels.
+    void PrintToRead(std::string_view line);
+    /// These lines; none where anything else was drawn, before or since.
+    const std::vector<PrintedLine>& LinesToRead() const;
+
     /// Gives the picture places that are pressed each for itself, in the units of the scale. Keys press it
     /// then (see LetKeysPress), in the middle of the place that the user is at; the arrows lead to the next
     /// place in their direction, Home and End to the first and the last.
@@ -71,6 +89,8 @@ private:
 
     std::vector<Rectangle> places_;
     int place_ = -1;
+    std::vector<PrintedLine> linesToRead_;
+    std::uint64_t linesRevision_ = 0;  ///< Of the surface with no more than these lines.
 };
 
 /// A picture of a form that no window shows: stock pictures, scratch pictures of a fixed content.

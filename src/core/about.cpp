@@ -19,17 +19,17 @@ constexpr Colour textColour = RGB(225, 225, 220);
 constexpr Colour creditColour = RGB(255, 255, 0);
 constexpr std::size_t largestText = std::size_t{1} << 20;
 
-void PrintLine(Surface& board, float y, const std::string& text) {
-    board.CurrentX = left;
-    board.CurrentY = y;
-    board.Print(text);
+void PrintLine(PictureBox& board, float y, const std::string& text) {
+    board.surface.CurrentX = left;
+    board.surface.CurrentY = y;
+    board.PrintToRead(text);
 }
 
 }  // namespace
 
 void PrintAboutText(Context& context) {
-    Surface& board = context.main.LabelPic.surface;
-    board.ForeColor = textColour;
+    PictureBox& board = context.main.LabelPic;
+    board.surface.ForeColor = textColour;
     const fs::path file = Beneath(context.services.applicationFolder, "\\Data\\About.inf");
     if (const auto bytes = ReadFile(file, largestText)) {
         float y = firstLine;
@@ -39,7 +39,7 @@ void PrintAboutText(Context& context) {
             y += lineHeight;
         }
     }
-    board.ForeColor = creditColour;
+    board.surface.ForeColor = creditColour;
     const std::array credits{"Designer.....: " + std::string(web::creditDesigner),
                              "Website.....: " + std::string(web::creditSite),
                              "E-mail........: " + std::string(web::creditMail),

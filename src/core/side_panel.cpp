@@ -43,9 +43,11 @@ void FrameSwatch(Surface& panel, int top) {
 
 }  // namespace
 
-void PrintSidePanelHeader(Surface& strip) {
-    strip.FontSize = rowFontSize;
-    PrintAt(strip, 4, 3, "Material, PMS Colors and Back");
+void PrintSidePanelHeader(PictureBox& strip) {
+    strip.surface.FontSize = rowFontSize;
+    strip.surface.CurrentX = 4;
+    strip.surface.CurrentY = 3;
+    strip.PrintToRead("Material, PMS Colors and Back");
 }
 
 void DrawEmptyRows(Surface& panel, Colour textColour) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/picture_box.h"
 #include "surface/surface.h"
 
 #include <optional>
@@ -25,7 +26,7 @@ constexpr Colour rowTextAtStart = RGB(50, 50, 50);
 constexpr Colour rowTextAfterNew = RGB(90, 90, 90);
 
 /// Prints what the panel shows on the strip above it.
-void PrintSidePanelHeader(Surface& strip);
+void PrintSidePanelHeader(PictureBox& strip);
 
 /// Draws the ten rows with empty swatches, over what the panel holds.
 void DrawEmptyRows(Surface& panel, Colour textColour);

@@ -36,6 +36,10 @@ int DevicePixels::Thickness(int width) const {
     return std::max(1, Rounded(width * toScreen_.m11()));
 }
 
+int DevicePixels::LeastThickness(int width) const {
+    return std::max(1, static_cast<int>(width * toScreen_.m11()));
+}
+
 void DevicePixels::Fill(const QRect& rectangle, const QColor& colour) {
     painter_.fillRect(Of(rectangle), colour);
 }

@@ -22,6 +22,9 @@ public:
     QRect Of(const QRect& rectangle) const;
     /// A line of that width is so many pixels of the screen wide; at least 1.
     int Thickness(int width) const;
+    /// A line of that width has so many everywhere, also where its edges are rounded towards each other; at
+    /// least 1.
+    int LeastThickness(int width) const;
 
     void Fill(const QRect& rectangle, const QColor& colour);
     /// A frame of one pixel's width along the inside of the rectangle's edges, or along that of so many such

@@ -1,38 +1,76 @@
 #include "controls/file_boxes.h"
 #include "shell/control_view.h"
+#include "shell/device_pixels.h"
 #include "shell/event_gate.h"
+#include "shell/field_edge.h"
 #include "shell/look.h"
 #include "shell/row_model.h"
 #include "shell/views.h"
 
+#include <QEvent>
 #include <QListView>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyle>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <cmath>
 
 namespace coinlet {
 
 namespace {
 
-/// A small folder, open or shut, to the right of an indent that tells how deep it lies.
+/// A small folder, open or shut, to the right of an indent that tells how deep it lies, for a screen that
+/// shows a pixel of the program by `ratio` pixels. Its lines lie on whole ones of these.
 QPixmap FolderMark(int depth, bool open, const QColor& colour, qreal ratio) {
     constexpr int step = 8, deepest = 10, width = 12, height = 11;
     const int left = step * std::min(depth, deepest);
     QPixmap mark((QSizeF(left + width, height) * ratio).toSize());
-    mark.setDevicePixelRatio(ratio);
     mark.fill(Qt::transparent);
     QPainter painter(&mark);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(left, 0);
-    painter.setPen(QPen(colour, 1));
+    const int line = std::max(1, static_cast<int>(ratio));
+    const auto at = [&](int x, int y) {
+        return QPointF(std::floor((left + x) * ratio), std::floor(y * ratio)) + QPointF(line, line) / 2;
+    };
+    painter.setPen(QPen(colour, line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     // The back with its tab, and the front, which leans forward when the folder is open.
-    const QPolygonF back({{0.5, 9.5}, {0.5, 1.5}, {4.5, 1.5}, {5.5, 3.5}, {9.5, 3.5}, {9.5, 9.5}});
-    painter.drawPolygon(back);
+    painter.drawPolygon(QPolygonF({at(0, 9), at(0, 1), at(4, 1), at(5, 3), at(9, 3), at(9, 9)}));
     painter.setBrush(open ? QBrush(colour) : QBrush(Qt::NoBrush));
-    if (open) painter.drawPolygon(QPolygonF({{0.5, 9.5}, {2.5, 5.5}, {11.5, 5.5}, {9.5, 9.5}}));
+    if (open) painter.drawPolygon(QPolygonF({at(0, 9), at(2, 5), at(11, 5), at(9, 9)}));
+    painter.end();
+    mark.setDevicePixelRatio(ratio);
     return mark;
 }
+
+/// Paints the marks of rows in the pixels of the screen that they were drawn for: the style would place them
+/// between these, and tint that of the chosen row.
+class RowsDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        QPixmap mark = index.data(Qt::DecorationRole).value<QPixmap>();
+        if (mark.isNull()) return;
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        const QRect place =
+            row.widget->style()->subElementRect(QStyle::SE_ItemViewItemDecoration, &row, row.widget);
+        const DevicePixels screen(*painter);
+        mark.setDevicePixelRatio(1);
+        painter->drawPixmap(screen.Of(place).topLeft(), mark);
+    }
+
+protected:
+    /// The room for the mark stays.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->icon = {};
+    }
+};
 
 /// Rows, and below them the room that is left where the next one isn't whole.
 class RowsView : public QListView {
@@ -40,6 +78,13 @@ public:
     using QListView::QListView;
 
     void LeaveRoomBelow(int pixels) { setViewportMargins(0, 0, 0, pixels); }
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Paint) return QListView::event(event);
+        PaintFieldEdge(*this);
+        return true;
+    }
 };
 
 class ListBoxView : public ViewOf<ListBox> {
@@ -55,9 +100,6 @@ public:
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         widget.setContextMenuPolicy(Qt::NoContextMenu);
-        // The room below is a part of the list.
-        widget.setBackgroundRole(QPalette::Base);
-        widget.setAutoFillBackground(true);
         Watch(*widget.viewport());
         const auto* folders = dynamic_cast<const DirListBox*>(&list);
         if (!folders) return;
@@ -69,6 +111,7 @@ public:
         };
         constexpr int widest = 120, height = 11;
         widget.setIconSize({widest, height});
+        widget.setItemDelegate(new RowsDelegate(&widget));
     }
 
     void Detach() override {

@@ -98,7 +98,8 @@ void Outlines::Paint(QPainter& painter) const {
     DevicePixels screen(painter);
     for (const auto& [control, look] : items_) {
         if (!look.visible) continue;
-        // The pen lies about the middle of the pixels that an outline of one pixel's width would have.
+        // The pen lies about the middle of the pixels that an outline of one pixel's width would have. These
+        // adjoin what the outline surrounds, whatever the screen's pixels: they grow outward.
         const int thickness = screen.Thickness(look.width), hair = screen.Thickness(1);
         const int before = hair / 2, behind = hair - before;
         QPen pen(ToQColor(look.border), thickness);
@@ -109,8 +110,8 @@ void Outlines::Paint(QPainter& painter) const {
         // Of the pixels of the two corners, whichever way round.
         const auto place = [&](int x, int y) { return screen.Of(QRect(x, y, 1, 1)); };
         const QRect first = place(look.x1, look.y1), last = place(look.x2, look.y2);
-        const QRect box(QPoint(first.left() + before, first.top() + before),
-                        QPoint(last.right() - behind, last.bottom() - behind));
+        const QRect box(QPoint(first.right() + 1 - behind, first.bottom() + 1 - behind),
+                        QPoint(last.left() + before - 1, last.top() + before - 1));
         switch (look.figure) {
             case Figure::Rectangle:
                 painter.drawRect(box);

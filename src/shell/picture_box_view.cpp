@@ -8,6 +8,7 @@
 #include "shell/outlines.h"
 #include "shell/painted_widget.h"
 #include "shell/qt_image.h"
+#include "shell/qt_text.h"
 #include "shell/views.h"
 
 #include <QRegion>
@@ -60,7 +61,10 @@ private:
         const PixelRect changed = surface.Changed();
         surface.ForgetChanges();
         const QSize size(surface.PixelWidth(), surface.PixelHeight());
-        if (Differs(size_, size)) return Widget().rect();
+        // Lines to be read have letters that reach out of those of the surface.
+        const bool reads = !model().LinesToRead().empty();
+        const bool sizeChanged = Differs(size_, size), readsChanged = Differs(reads_, reads);
+        if (sizeChanged || readsChanged || reads) return Widget().rect();
         const int frame = FrameWidth();
         const QRect place(changed.left + frame, changed.top + frame, changed.Width(), changed.Height());
         // Where a pixel is no whole number of the screen's, it shares some with its neighbours.
@@ -81,8 +85,15 @@ private:
                 screen.Fill(rest, ToQColor(surface.BackColor()));
             // The painter may take a pixel of the screen more than `dirty` covers by half.
             const QRect shown = screen.Of(place);
-            PaintPixels(painter, pixels, shown, screen.Of(dirty).adjusted(-1, -1, 1, 1) & shown);
+            const QRect part = screen.Of(dirty).adjusted(-1, -1, 1, 1) & shown;
+            if (model().LinesToRead().empty()) {
+                PaintPixels(painter, pixels, shown, part);
+            } else {
+                painter.fillRect(part, ToQColor(surface.BackColor()));
+            }
         }
+        for (const PrintedLine& line : model().LinesToRead())
+            PaintLine(painter, line, place);
         outlines_.Paint(painter);
         if (frame > 0) PaintFrame(painter);
         if (markedPlace_ >= 0) PaintFocusRing(painter, MarkedPlace());
@@ -123,6 +134,14 @@ private:
         painter.drawImage(part.topLeft(), enlarged);
     }
 
+    /// With letters of the kind that labels have.
+    static void PaintLine(QPainter& painter, const PrintedLine& line, const QRect& place) {
+        painter.setFont(ToQFont(line.font));
+        painter.setPen(ToQColor(line.colour));
+        painter.drawText(QRect(place.topLeft() + QPoint(line.x, line.y), place.bottomRight()),
+                         Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, ToQString(line.text));
+    }
+
     /// Black on white, so that it shows on every design.
     void PaintFrame(QPainter& painter) const {
         DevicePixels screen(painter);
@@ -138,6 +157,7 @@ private:
 
     std::uint64_t revision_ = ~std::uint64_t{0};
     QSize size_;
+    bool reads_ = false;
     int markedPlace_ = -1;
     FramePace pace_;
     Outlines outlines_;

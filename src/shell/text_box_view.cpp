@@ -3,6 +3,7 @@
 #include "controls/text_lines.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
+#include "shell/field_edge.h"
 #include "shell/field_menu.h"
 #include "shell/line_layout.h"
 #include "shell/look.h"
@@ -10,6 +11,7 @@
 #include "shell/qt_text.h"
 #include "shell/views.h"
 
+#include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -121,6 +123,11 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Paint) return QPlainTextEdit::event(event);
+        PaintFieldEdge(*this);
+        return true;
+    }
     void resizeEvent(QResizeEvent* event) override {
         QPlainTextEdit::resizeEvent(event);
         if (layout_ != nullptr) layout_->LayOutAll();

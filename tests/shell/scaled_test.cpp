@@ -229,6 +229,57 @@ TEST_F(Scaled, CaptionsHaveTheLettersOfLabels) {
     });
 }
 
+// So do lines on pictures that are there to be read.
+TEST_F(Scaled, LinesToReadHaveTheLettersOfLabels) {
+    for (Control* other : std::initializer_list<Control*>{&form.HScroll1, &form.Frame1, &form.Check1,
+                                                          &form.List1, &form.Combo1, &form.Shape1,
+                                                          &form.PicKnop, &form.OkKnop, &form.GrayKnop})
+        other->Visible = false;
+    constexpr Colour ground = RGB(220, 220, 190), ink = RGB(80, 0, 0);
+    // Both stand at a whole number of the screen's pixels at every scale in quarters.
+    form.Pic.Move(200 * 15, 100 * 15, 160 * 15, 40 * 15);
+    form.Pic.surface.SetBackColor(ground);
+    form.Pic.surface.ForeColor = ink;
+    form.Pic.surface.FontSize = 9;
+    form.Pic.surface.CurrentX = 4;
+    form.Pic.surface.CurrentY = 8;
+    form.Pic.PrintToRead("Wider Gap");
+    form.Label1.Caption = "Wider Gap";
+    form.Label1.FontSize = 9;
+    form.Label1.ForeColor = ink;
+    form.Label1.Alignment = Alignment::Left;
+    form.Label1.WordWrap = false;
+    form.Label1.Move(204 * 15, 160 * 15, 100 * 15, 20 * 15);
+    Run(form, [&](User& user) {
+        user.Has([&] {
+            ASSERT_EQ(form.Pic.LinesToRead().size(), 1U);
+            const QImage onPicture = Look(OnScreen(form.Pic, QRect(4, 8, 80, 16)));
+            const QImage onLabel = Look(OnScreen(form.Label1, QRect(0, 0, 80, 16)));
+            EXPECT_EQ(onPicture, onLabel);
+            int letters = 0;
+            for (int y = 0; y < onLabel.height(); ++y) {
+                for (int x = 0; x < onLabel.width(); ++x)
+                    letters += onLabel.pixel(x, y) == qRgb(220, 220, 190) ? 0 : 1;
+            }
+            EXPECT_GT(letters, 100);
+            // One that is drawn upon shows its pixels.
+            form.Pic.surface.PSet(0, 0, black);
+            platform.Mirror();
+        });
+        EXPECT_TRUE(user.Sees(
+            [&] { return Look(OnScreen(form.Pic, QRect(0, 0, 1, 1))).pixel(0, 0) == qRgb(0, 0, 0); }));
+        user.Has([&] {
+            const QImage look = Look(OnScreen(form.Pic, QRect(4, 8, 80, 16)));
+            for (int y = 0; y < look.height(); ++y) {
+                for (int x = 0; x < look.width(); ++x) {
+                    const Colour colour = ToColour(look.pixel(x, y));
+                    EXPECT_TRUE(colour == ground || colour == ink);
+                }
+            }
+        });
+    });
+}
+
 TEST_F(Scaled, PicturesAreWholeAndNotBlurred) {
     form.Shape1.Visible = false;
     form.PicKnop.Visible = false;

@@ -43,7 +43,9 @@ WholeProgram::Folder::Folder() {
         Write("pictures/" + std::string(name), "no picture");
 }
 
-WholeProgram::WholeProgram() = default;
+WholeProgram::WholeProgram() {
+    platform.NameControlsBy(names_);
+}
 
 Form& WholeProgram::Open(User& user, const DialogRow& row) {
     QMetaObject::invokeMethod(

@@ -2,6 +2,7 @@
 
 #include "app/application.h"
 #include "app/dialogs.h"
+#include "core/accessible_names.h"
 #include "core/main_form.h"
 #include "media/media_codecs.h"
 #include "media/qt_font_engine.h"
@@ -36,6 +37,7 @@ private:
     NoScreenGrab screenGrab_;
     Application program_{
         {folder_ / "app", platform, qtFonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
+    AccessibleNames names_{program_.GetContext()};
 };
 
 }  // namespace coinlet::test

@@ -3,14 +3,11 @@
 // nothing else.
 #include "app/dialogs.h"
 
-#include "app/application.h"
 #include "base/text.h"
 #include "core/accessible_names.h"
 #include "core/language.h"
 #include "core/main_form.h"
-#include "media/media_codecs.h"
-#include "media/qt_font_engine.h"
-#include "support/world.h"
+#include "unit/app/delivered_program.h"
 #include "unit/app/layout_check.h"
 
 #include <algorithm>
@@ -66,35 +63,24 @@ void PrintTo(const Opening& opening, std::ostream* out) {
     *out << NameOf(opening);
 }
 
-class EveryDialog : public testing::TestWithParam<Opening> {
+class EveryDialog : public DeliveredProgram, public testing::WithParamInterface<Opening> {
 protected:
-    EveryDialog() {
-        // The program's own data; what it might write lies in folders of this test.
-        fs::create_directories(folder_ / "app/Ontwerpen");
-        fs::create_directories(folder_ / "app/Collection");
-        for (const auto& entry : fs::directory_iterator(COINLET_DATA)) {
-            const fs::path link = folder_ / "app" / entry.path().filename();
-            if (!fs::exists(link)) fs::create_directory_symlink(entry.path(), link);
-        }
-        program_.Start();
-        LoadLanguage(program_.GetContext(), GetParam().language);
-    }
+    EveryDialog() { LoadLanguage(program.GetContext(), GetParam().language); }
 
-    MainForm& Main() { return program_.GetContext().main; }
     const DialogRow& Row() const { return GetParam().row; }
 
     /// Opens the dialog, does this in it, and leaves it by the close box if it is still there.
     void InDialog(const std::function<void(Form&)>& doing) {
         bool opened = false;
-        platform_.doings.emplace_back([&] {
-            Form& dialog = *platform_.FrontForm();
+        platform.doings.emplace_back([&] {
+            Form& dialog = *platform.FrontForm();
             opened = dialog.Name() == Row().form;
             doing(dialog);
             dialog.Unload();
         });
         std::visit(Press(Main()), Row().opener);
         EXPECT_TRUE(opened);
-        EXPECT_EQ(platform_.FrontForm(), &Main());
+        EXPECT_EQ(platform.FrontForm(), &Main());
     }
 
     void ExpectGoodLooks(Form& dialog, const std::string& when) {
@@ -104,18 +90,6 @@ protected:
         ExpectReadingOrder(dialog, when);
         ExpectWhole(Main().InfoLabel, Main().InfoLabel.Caption, when);
     }
-
-    TemporaryFolder folder_;
-    TestPlatform platform_;
-    QtFontEngine fonts_;
-    MediaCodecs codecs_;
-    StillClock clock_;
-    PlainDesktop desktop_{folder_.Path()};
-    NoClipboard clipboard_;
-    NoPrinter printer_;
-    NoScreenGrab screenGrab_;
-    Application program_{
-        {folder_ / "app", platform_, fonts_, codecs_, clock_, desktop_, clipboard_, printer_, screenGrab_}};
 };
 
 /// What a screen reader has to call a control by: its caption, else its tooltip, else the name that it is
@@ -148,7 +122,7 @@ void ExpectNames(Form& form, const NameGiver& names) {
 }
 
 TEST_P(EveryDialog, HasANameForWhatOneUsesInIt) {
-    const AccessibleNames names(program_.GetContext());
+    const AccessibleNames names(program.GetContext());
     ExpectNames(Main(), names);
     InDialog([&](Form& dialog) { ExpectNames(dialog, names); });
 }

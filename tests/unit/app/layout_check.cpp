@@ -90,6 +90,8 @@ bool IsKeptFromSight(const Control& control) {
 }
 
 bool IsGround(const Control& control) {
+    const auto* board = dynamic_cast<const PictureBox*>(&control);
+    if (board != nullptr) return !board->LinesToRead().empty();
     const auto* label = dynamic_cast<const Label*>(&control);
     return label != nullptr && TrimBlanks(label->Caption).empty();
 }

@@ -19,7 +19,8 @@ namespace coinlet::test {
 void ExpectInside(const Form& form, const std::string& when);
 
 /// Of the controls that are seen in one container, none covers another. Lines and edges are no controls in
-/// this sense; a label without a text is a ground, on which others may lie that it holds wholly.
+/// this sense; a label without a text, and a picture of nothing but lines to read, is a ground, on which
+/// others may lie that it holds wholly.
 void ExpectApart(const Form& form, const std::string& when);
 
 /// Captions of labels, check boxes, options and buttons, and texts that are only to be read, are shown whole,

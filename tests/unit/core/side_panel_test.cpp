@@ -2,6 +2,7 @@
 #include "core/side_panel.h"
 
 #include "support/block_fonts.h"
+#include "support/test_platform.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -132,13 +133,19 @@ TEST_F(SidePanelTest, TheBackStandsBelowThem) {
 }
 
 TEST_F(SidePanelTest, ItsHeaderIsPrintedOnTheStripAboveIt) {
-    Surface strip(fonts, 178, 20), expected(fonts, 178, 20);
+    test::TestServices services;
+    Form form(services.ForForms(), "Sample");
+    PictureBox strip(form, "Strip");
+    strip.Move(0, 0, 178 * 15, 20 * 15);
+    Surface expected(services.fonts, 178, 20);
     PrintSidePanelHeader(strip);
     expected.FontSize = 8;
     expected.CurrentX = 4;
     expected.CurrentY = 3;
     expected.Print("Material, PMS Colors and Back");
     EXPECT_EQ(strip.Image(), expected.Image());
+    // Nobody fills its letters.
+    ASSERT_EQ(strip.LinesToRead().size(), 1U);
 }
 
 }  // namespace
