@@ -25,6 +25,7 @@
 #include <cmath>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace coinlet::test {
@@ -375,18 +376,23 @@ private:
     void JudgeIcon(VistaButton& button, const Surface& face, const IsLetter& isLetter) {
         const Image fine = FinerEditionOf(button.Picture());
         if (scale_ > 1) {
-            EXPECT_GE(fine.Height(), button.Picture().Height() * scale_);
+            ASSERT_GE(fine.Height(), button.Picture().Height() * scale_);
         }
 
         const int frames = button.Pictures();
         button.SetPictures(0);
-        Surface bare(button.OwnerForm().Fonts(), face.PixelWidth(), face.PixelHeight());
-        DrawFineButton(bare, button);
+        const Image bare = DrawnAs(button, face);
         button.SetPictures(frames);
+        // What is enlarged is blurred, and another picture.
+        const Image picture = button.Picture();
+        button.SetPicture(WithoutFinerEdition(picture));
+        const Image blurred = DrawnAs(button, face);
+        button.SetPicture(picture);
+        EXPECT_EQ(face.Image() == blurred, scale_ == 1 || IsEnlarged(fine, picture));
         int ink = 0, lettered = 0;
         for (int y = 0; y < face.PixelHeight(); ++y) {
             for (int x = 0; x < face.PixelWidth(); ++x) {
-                if (face.Point(x, y) == bare.Point(x, y)) continue;
+                if (face.Point(x, y) == bare.At(x, y)) continue;
                 ++ink;
                 lettered += isLetter(x, y) ? 1 : 0;
             }
@@ -394,6 +400,28 @@ private:
         EXPECT_GT(ink, 20 * scale_);
         EXPECT_EQ(lettered, 0);
         ++icons;
+    }
+
+    static Image DrawnAs(const VistaButton& button, const Surface& face) {
+        Surface drawn(button.OwnerForm().Fonts(), face.PixelWidth(), face.PixelHeight());
+        DrawFineButton(drawn, button);
+        return drawn.Image();
+    }
+    /// If the picture has nothing that a finer edition could show better: a plain square.
+    static bool IsEnlarged(const Image& fine, const Image& picture) {
+        const int times = fine.Height() / picture.Height();
+        for (int y = 0; y < fine.Height(); ++y) {
+            for (int x = 0; x < fine.Width(); ++x)
+                if (fine.At(x, y) != picture.At(x / times, y / times)) return false;
+        }
+        return true;
+    }
+    /// The same pixels, of which nobody said that they have one.
+    static Image WithoutFinerEdition(const Image& picture) {
+        Bitmap pixels(picture.Width(), picture.Height(), 0);
+        for (int y = 0; y < picture.Height(); ++y)
+            std::copy_n(picture.Row(y), picture.Width(), pixels.Row(y));
+        return Image(std::move(pixels));
     }
 
     /// Each pixel of the screen shows the one of the picture that its middle lies in, in its colour: none is
