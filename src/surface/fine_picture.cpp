@@ -56,7 +56,8 @@ void PaintFinely(Surface& target, const PixelRect& to, const Image& source, cons
     Bitmap& pixels = target.Write(seen);
     const Span across{from.Width(), to.Width()}, down{from.Height(), to.Height()};
     const std::int64_t whole = across.sourceSize * down.sourceSize;
-    // What the picture has of `from`; the rest isn't walked through.
+    // What the picture has of `from`; the rest isn't walked through. The last frame of a button's strip may
+    // go on beyond it.
     const std::int64_t left = -std::int64_t{from.left}, right = left + source.Width() - 1;
     const std::int64_t top = -std::int64_t{from.top}, bottom = top + source.Height() - 1;
     for (int y = seen.top; y < seen.bottom; ++y) {

@@ -19,9 +19,7 @@ public:
     template <class EventMember, class T>
     void Listen(T& control, EventMember event, const std::string& name) {
         control.*event = [this, line = std::string(control.Name()) + "." + name](auto... arguments) {
-            std::string whole = line;
-            ((whole += " " + Number(static_cast<double>(arguments))), ...);
-            lines_.push_back(whole);
+            lines_.push_back((line + ... + (" " + Number(static_cast<double>(arguments)))));
         };
     }
     /// Writes down all events that every control has, but for the moves of the pointer.

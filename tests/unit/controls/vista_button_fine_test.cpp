@@ -216,6 +216,21 @@ TEST_F(FinePictureOfButton, WithoutAMaskItCoversAll) {
     EXPECT_EQ(face.At(24, 19), RGB(50, 100, 200));
 }
 
+// Half of seven columns is nearly four: the second frame would go on by one column beyond the strip.
+TEST_F(FinePictureOfButton, WhatAStripLacksOfItsLastFrameLeavesTheGround) {
+    button.SetPictures(2);
+    button.SetPicture(Strip({"    ###"}, 1));
+    button.SetEnabled(false);
+    for (const int times : {1, 2, 3}) {
+        const Image face = FaceOn(20 * times, 20 * times);
+        const int y = 9 * times;
+        EXPECT_EQ(face.At(8 * times, y), red);
+        EXPECT_EQ(face.At(11 * times - 1, y), red);
+        EXPECT_EQ(face.At(11 * times, y), RGB(50, 100, 200));
+        EXPECT_EQ(face.At(12 * times - 1, y), RGB(50, 100, 200));
+    }
+}
+
 TEST_F(FinePictureOfButton, IsCutWhereTheSmallOneIs) {
     // 30 wide on a button of 20: from 3 to 17, its columns 8 to 22 show.
     std::string row(30, ' ');
