@@ -32,8 +32,9 @@ public:
     QPoint PlaceOf(const MenuItem& item);
 
     void MoveTo(const QPoint& place);
-    /// To a corner of the screens, by way of a corner of a window, which is told of it.
-    void MoveAwayOver(QWidget& window);
+    /// To a corner of the screens. The toolkit, which hears nothing of a pointer beside its windows, forgets
+    /// where it saw it last.
+    void MoveAwayFrom(QWidget& window);
     /// Buttons as the window system counts them: 1 left, 2 middle, 3 right.
     void Press(int button = 1);
     void Release(int button = 1);
