@@ -65,8 +65,7 @@ const std::vector<std::string>& HostileNames() {
         "a\0b"s,
         "\xFF\xFE",
         "\xC3",
-        "\xE2\x80\xAE"
-        "gpj.secret",
+        "\xE2\x80\xAEgpj.secret",
         std::string(255, 'x'),
         std::string(5000, 'x'),
         std::string(2000, '/'),

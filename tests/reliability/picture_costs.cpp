@@ -9,6 +9,7 @@
 #include "media/media_codecs.h"
 #include "support/bmp_bytes.h"
 #include "support/gif_bytes.h"
+#include "support/jpeg_scans.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -112,18 +113,6 @@ Bytes Jpeg(int width, int height, bool progressive, int noise) {
     return file;
 }
 
-/// The same file with its last scan so many times more.
-Bytes WithFurtherScans(const Bytes& file, int count) {
-    const Bytes scan{0xFF, 0xDA}, end{0xFF, 0xD9};
-    const auto lastScan = std::find_end(file.begin(), file.end(), scan.begin(), scan.end());
-    const auto lastEnd = std::find_end(file.begin(), file.end(), end.begin(), end.end());
-    Bytes more(file.begin(), lastEnd);
-    for (int i = 0; i < count; ++i)
-        more.insert(more.end(), lastScan, lastEnd);
-    more.insert(more.end(), lastEnd, file.end());
-    return more;
-}
-
 Bytes Png(int width, int height) {
     QImage picture(width, height, QImage::Format_RGB32);
     picture.fill(Qt::darkCyan);
@@ -170,9 +159,10 @@ std::vector<Picture> Pictures() {
     }
     pictures.push_back({"GIF 8192 x 8192, no frame", GifBytes{.width = 8192, .height = 8192}.File()});
     const Bytes usual = Jpeg(1000, 1000, true, 0);
-    for (const int scans : {100, 240, 480})
+    for (const int scans : {100, 240, 480}) {
         pictures.push_back(
             {"JPEG 1000 x 1000, " + std::to_string(scans) + " scans more", WithFurtherScans(usual, scans)});
+    }
     pictures.push_back({"JPEG 8688 x 5792, a camera's", Jpeg(8688, 5792, false, 40), true});
     return pictures;
 }

@@ -50,7 +50,7 @@ private:
                 constexpr float middle = cellSide / 2.0F;
                 dialog.Pic.PointerPressed(1, 0, isCell ? middle + static_cast<float>(cell * cellSide) : 0,
                                           middle);
-                const auto place = static_cast<std::size_t>(row * cellsARow + cell);
+                const auto place = static_cast<std::size_t>(row) * cellsARow + static_cast<std::size_t>(cell);
                 const std::string told = isCell && place < rows.size() ? rows[place] : "";
                 if (ToCodePage(world_.session.BackName) != told) return "another name";
                 if (ToCodePage(std::string(dialog.Label5.Caption)) != "Name : " + told)

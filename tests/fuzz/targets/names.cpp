@@ -25,9 +25,10 @@ std::string Joined(const std::vector<std::string>& parts) {
 /// By the rule itself: a star takes nothing or one character more.
 bool SlowMatches(std::span<const std::string> name, std::span<const std::string> pattern) {
     if (pattern.empty()) return name.empty();
-    if (pattern[0] == "*")
+    if (pattern[0] == "*") {
         return SlowMatches(name, pattern.subspan(1)) ||
                (!name.empty() && SlowMatches(name.subspan(1), pattern));
+    }
     return !name.empty() && (pattern[0] == "?" || pattern[0] == name[0]) &&
            SlowMatches(name.subspan(1), pattern.subspan(1));
 }

@@ -1,6 +1,8 @@
 // JPEG both ways: colours survive, damage is survived.
 #include "media/jpeg.h"
 
+#include "support/jpeg_scans.h"
+
 #include <turbojpeg.h>
 
 #include <algorithm>
@@ -221,18 +223,6 @@ TEST(Jpeg, RefusesSizesAboveTheLimit) {
     }
 }
 
-/// The same file with its last scan so many times more.
-Bytes WithFurtherScans(const Bytes& file, int count) {
-    const Bytes scan{0xFF, 0xDA}, end{0xFF, 0xD9};
-    const auto lastScan = std::find_end(file.begin(), file.end(), scan.begin(), scan.end());
-    const auto lastEnd = std::find_end(file.begin(), file.end(), end.begin(), end.end());
-    Bytes more(file.begin(), lastEnd);
-    for (int i = 0; i < count; ++i)
-        more.insert(more.end(), lastScan, lastEnd);
-    more.insert(more.end(), end.begin(), end.end());
-    return more;
-}
-
 // A million pixels in one colour: a file of some kilobytes, in ten scans at first.
 TEST(Jpeg, RefusesMoreScansThanAFileOfItsSizeHasReasonFor) {
     constexpr int side = 1000, usualScans = 10, mostScans = 250;
@@ -241,11 +231,11 @@ TEST(Jpeg, RefusesMoreScansThanAFileOfItsSizeHasReasonFor) {
     ASSERT_LT(file.size(), 100'000U);
     const auto image = DecodeJpegBytes(file);
     ASSERT_TRUE(image);
-    const auto most = DecodeJpegBytes(WithFurtherScans(file, mostScans - usualScans));
+    const auto most = DecodeJpegBytes(test::WithFurtherScans(file, mostScans - usualScans));
     ASSERT_TRUE(most);
     EXPECT_EQ(*most, *image);
-    EXPECT_FALSE(DecodeJpegBytes(WithFurtherScans(file, mostScans - usualScans + 1)));
-    EXPECT_FALSE(DecodeJpegBytes(WithFurtherScans(file, 480)));
+    EXPECT_FALSE(DecodeJpegBytes(test::WithFurtherScans(file, mostScans - usualScans + 1)));
+    EXPECT_FALSE(DecodeJpegBytes(test::WithFurtherScans(file, 480)));
 }
 
 TEST(Jpeg, CountsNoScansInTextsAndPreviews) {
