@@ -152,6 +152,16 @@ TEST_F(RegularPolygon, ManySidesAreACircle) {
     }
 }
 
+// Of so many corners some pixels of the circle show how many there are.
+TEST_F(RegularPolygon, HasAtMost32767Sides) {
+    constexpr float size = 99.9F;
+    constexpr int most = 32767;
+    const Image full = Drawn(0, {100, 100}, size, most);
+    for (const int sides : {most + 1, 40000, std::numeric_limits<int>::max()})
+        EXPECT_EQ(Drawn(0, {100, 100}, size, sides), full) << sides;
+    EXPECT_NE(Drawn(0, {100, 100}, size, most - 1), full);
+}
+
 TEST_F(RegularPolygon, MonstrousFiguresAreNoHarm) {
     for (const float number : {1e30F, -1e30F, 3e38F, -3e38F, 1e-30F, 40000.0F}) {
         EXPECT_EQ(Drawn(0, {100, 100}, number, 0), Blank().Image());
