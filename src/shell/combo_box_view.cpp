@@ -2,7 +2,6 @@
 #include "controls/type_ahead.h"
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
-#include "shell/field_menu.h"
 #include "shell/key_events.h"
 #include "shell/look.h"
 #include "shell/one_line.h"
@@ -82,7 +81,8 @@ public:
         list_.setUniformItemSizes(true);
         widget.setModel(&rows_);
         KeepToOneLine(*widget.lineEdit());
-        KeepMenu(*widget.lineEdit(), gate);
+        // Its menu opens by the pointer too, as that of any other field.
+        widget.lineEdit()->setContextMenuPolicy(Qt::DefaultContextMenu);
         Watch(*widget.lineEdit());
         connect(&widget, &QComboBox::activated, this, [this](int index) { Pick(index); });
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Edit(text); });

@@ -3,6 +3,7 @@
 #include "controls/platform.h"
 #include "shell/busy_watch.h"
 #include "shell/event_gate.h"
+#include "shell/field_menus.h"
 #include "shell/frame_pace.h"
 #include "shell/pointer_sign.h"
 #include "shell/pointer_warps.h"
@@ -79,6 +80,7 @@ private:
 
     BusyWatch busy_;
     EventGate gate_;
+    FieldMenus fieldMenus_{gate_};
     QObject connections_;
     std::vector<FormWindow*> windows_;  ///< The last one is in front.
     std::vector<ModalLoop> loops_;

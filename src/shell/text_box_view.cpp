@@ -4,7 +4,6 @@
 #include "shell/control_view.h"
 #include "shell/event_gate.h"
 #include "shell/field_edge.h"
-#include "shell/field_menu.h"
 #include "shell/line_layout.h"
 #include "shell/look.h"
 #include "shell/one_line.h"
@@ -77,7 +76,6 @@ public:
     LineView(TextBox& box, QLineEdit& widget, EventGate& gate)
         : TextBoxView(box, widget, gate), line_(widget) {
         KeepToOneLine(widget);
-        KeepMenu(widget, gate);
         connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
@@ -148,7 +146,6 @@ public:
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         Watch(*widget.viewport());
-        KeepMenu(widget, gate);
         connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Edited(lines_.toPlainText()); });
     }
 
