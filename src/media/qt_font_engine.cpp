@@ -1,6 +1,7 @@
 #include "media/qt_font_engine.h"
 
 #include "base/text.h"
+#include "media/intricate_letters.h"
 #include "surface/image.h"
 
 #include <QFont>
@@ -15,6 +16,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <optional>
 
 namespace coinlet {
 
@@ -129,6 +131,15 @@ TextMask CropToInk(const QImage& picture, QPoint origin) {
     return mask;
 }
 
+/// Makes ink of the pixels that are covered by `least` of 255 or more.
+void MakeCrisp(QImage& picture, uchar least) {
+    const auto nearest = [least](uchar coverage) { return static_cast<uchar>(coverage >= least ? 255 : 0); };
+    for (int y = 0; y < picture.height(); ++y) {
+        uchar* const row = picture.scanLine(y);
+        std::transform(row, row + picture.width(), row, nearest);
+    }
+}
+
 /// A text ready to be drawn.
 class Drawing {
 public:
@@ -151,21 +162,29 @@ public:
         QImage picture(part.size(), QImage::Format_Grayscale8);
         if (picture.isNull()) return {};
         picture.fill(Qt::black);
+        // What is drawn as outlines, very large letters among it, has soft edges whatever is asked for. The
+        // lines of a small picture of many lines nowhere cover half of a pixel.
+        constexpr uchar half = 128, quarter = 64;
+        uchar least = half;
         {
             QPainter painter(&picture);
             painter.setFont(font_);
             painter.setPen(Qt::white);
             painter.setRenderHint(QPainter::TextAntialiasing, edges_ == Edges::Smooth);
             painter.setTransform(turn_ * QTransform::fromTranslate(-part.left(), -part.top()));
-            painter.drawText(QPointF(0, ascent_), letters_);
+            const QPointF start(0, ascent_);
+            const auto outlines =
+                edges_ == Edges::Crisp ? OutlinesOfIntricate(letters_, font_, turn_) : std::nullopt;
+            if (outlines) {
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.fillPath(outlines->translated(start), Qt::white);
+                least = quarter;
+            } else {
+                painter.drawText(start, letters_);
+            }
         }
-        TextMask mask = CropToInk(picture, part.topLeft());
-        if (edges_ == Edges::Crisp) {
-            // Very large letters are drawn as outlines, which have soft edges whatever is asked for.
-            for (auto& coverage : mask.coverage)
-                coverage = coverage >= 128 ? 255 : 0;
-        }
-        return mask;
+        if (edges_ == Edges::Crisp) MakeCrisp(picture, least);
+        return CropToInk(picture, part.topLeft());
     }
 
 private:

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 #include <set>
@@ -568,6 +569,43 @@ TEST(LettersSeenInPart, TellOneTextFromAnother) {
     EXPECT_TRUE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 0, window), first));
     EXPECT_FALSE(Same(fonts.RenderSeen(Arial(1600), "W", Edges::Crisp, 0, window), first));
     EXPECT_FALSE(Same(fonts.RenderSeen(Arial(1500), "W", Edges::Crisp, 5, window), first));
+}
+
+// The fonts of pictures that come with the program have drawings of thousands of points.
+TEST(QtFontEngine, DeliveredPicturesAreCrispHoweverSmallTheyAre) {
+    QtFontEngine fonts;
+    int pictures = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(std::string(COINLET_DATA) + "/Fonts")) {
+        if (entry.path().extension() != ".ttf") continue;
+        const std::string name = fonts.AddFontFile(entry.path());
+        ASSERT_NE(name, "") << entry.path();
+        for (const double points : {0.75, 1.5, 3.0, 4.5, 6.0, 8.0, 10.0}) {
+            for (char letter = '!'; letter <= '~'; ++letter) {
+                const FontSpec font{.name = name, .size = points, .underline = letter % 2 == 0};
+                const TextMask mask =
+                    fonts.Render(font, std::string(1, letter), Edges::Crisp, letter % 3 * 45);
+                const std::set<int> levels = Levels(mask);
+                EXPECT_TRUE(std::ranges::includes(std::set<int>{0, 255}, levels)) << name << ' ' << letter;
+                ++pictures;
+            }
+        }
+    }
+    EXPECT_GT(pictures, 10 * 7 * 90);
+}
+
+TEST(QtFontEngine, IntricatePictureIsASmallOneOfTheLargeOne) {
+    QtFontEngine fonts;
+    const std::string name = fonts.AddFontFile(std::string(COINLET_DATA) + "/Fonts/Animals.ttf");
+    // Its most intricate one, of 275 outlines, here in eight rows of pixels.
+    constexpr int times = 16;
+    const TextMask small = fonts.Render({.name = name, .size = 6}, "'", Edges::Crisp);
+    const TextMask large = fonts.Render({.name = name, .size = 6 * times}, "'", Edges::Smooth);
+    ExpectTight(small);
+    EXPECT_NEAR(small.width * times, large.width, 3 * times);
+    EXPECT_NEAR(small.height * times, large.height, 3 * times);
+    // Its lines are thinner than a pixel, and are seen all the same.
+    EXPECT_GT(Ink(small) * times * times, Ink(large) / 2);
+    EXPECT_LT(Ink(small) * times * times, Ink(large) * 3);
 }
 
 }  // namespace
