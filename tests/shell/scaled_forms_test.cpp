@@ -379,12 +379,10 @@ private:
             ASSERT_GE(fine.Height(), button.Picture().Height() * scale_);
         }
 
-        const int frames = button.Pictures();
-        button.SetPictures(0);
-        const Image bare = DrawnAs(button, face);
-        button.SetPictures(frames);
-        // What is enlarged is blurred, and another picture.
         const Image picture = button.Picture();
+        button.SetPicture({});
+        const Image bare = DrawnAs(button, face);
+        // What is enlarged is blurred, and another picture.
         button.SetPicture(WithoutFinerEdition(picture));
         const Image blurred = DrawnAs(button, face);
         button.SetPicture(picture);
