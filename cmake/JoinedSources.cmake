@@ -1,7 +1,7 @@
 # coinlet_join_sources()
 #
 # Has the sources of every target compiled several at a time: what they include is read once instead of once for each,
-# which takes a third of the time. A build without it still tells whether each source includes what it uses.
+# which takes half the time. A build without it still tells whether each source includes what it uses.
 # joined_sources.awk chooses which stand together. A clash of names that it doesn't foresee goes away by renaming, or
 # by SKIP_UNITY_BUILD_INCLUSION of the source.
 function(coinlet_join_sources)
