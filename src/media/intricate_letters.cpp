@@ -108,9 +108,10 @@ std::optional<QPainterPath> OutlinesOfIntricate(const QString& text, const QFont
         const QRawFont glyphs = run.rawFont();
         const QList<quint32> numbers = run.glyphIndexes();
         const QList<QPointF> places = run.positions();
-        for (qsizetype i = 0; i < numbers.size(); ++i)
-            outlines.addPath(
-                glyphs.pathForGlyph(numbers[i]).translated(places[i] - QPointF(0, line.ascent())));
+        for (qsizetype i = 0; i < numbers.size(); ++i) {
+            const QPointF place = places[i] - QPointF(0, line.ascent());
+            outlines.addPath(glyphs.pathForGlyph(numbers[i]).translated(place));
+        }
     }
     const QFontMetrics metrics(font);
     const int width = metrics.horizontalAdvance(text), thickness = metrics.lineWidth();

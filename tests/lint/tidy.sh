@@ -15,19 +15,23 @@ if [ $# -eq 0 ]; then set -- $(find src dev -name '*.cpp' | sort); fi
 passed="$build/tidy-passed"
 mkdir -p "$passed"
 headers=$(find src dev -name '*.h' | sort)
-common=$(cat .clang-tidy $headers | sha256sum | cut -c1-16)
+settings=$(find . -name .clang-tidy -not -path './build/*' | sort)
+common=$(cat $settings $headers | sha256sum | cut -c1-16)
+# Texts stand in folders like those of their sources, with the same settings.
 texts=$(mktemp -d)
 trap 'rm -rf "$texts"' EXIT
+cp --parents $settings "$texts"
 export build passed common texts
 
 stamp_of() { echo "$passed/$({ echo "$common"; cat "$1"; echo "$1"; } | sha256sum | cut -c1-32)"; }
 
 # Its own compiler warnings are of no interest here: the build has stricter ones.
-tidy() { clang-tidy --config-file=.clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option "$@" 2>/dev/null; }
+tidy() { clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option "$@" 2>/dev/null; }
 
 # check TEXT SOURCE...
 check() {
-    local text="$texts/$1.cpp" source failed=0
+    local text source failed=0
+    text="$texts/$(dirname "$2")/$1.cpp"
     shift
     # What it has no command for, it passes.
     if [ $# -gt 1 ] && grep -qF "\"$text\"" "$texts/compile_commands.json" &&
@@ -56,7 +60,9 @@ done < <(sed 's|/[^/]*$||' "$texts/unread" | sort -u) | sort -rn | cut -d' ' -f2
 number=0
 while read -r -a sources; do
     number=$((number + 1))
-    cat "${sources[@]}" >"$texts/$number.cpp"
+    folder=$texts/$(dirname "${sources[0]}")
+    mkdir -p "$folder"
+    cat "${sources[@]}" >"$folder/$number.cpp"
 done <"$texts/lists"
 
 # Each text is compiled as the first of its sources is.
@@ -67,7 +73,9 @@ awk -v texts="$texts" -v tree="$PWD" '
     FILENAME ~ /lists$/ {
         source = tree "/" $1
         if (!(source in commands)) next
-        text = texts "/" FNR ".cpp"
+        folder = $1
+        sub("[^/]*$", "", folder)
+        text = texts "/" folder FNR ".cpp"
         command = commands[source]
         at = index(command, "-c " source)
         printf "%s{\n%s\n%s\n  \"file\": \"%s\"\n}", count++ ? "," : "[\n", directories[source],
