@@ -17,6 +17,7 @@ namespace coinlet {
 namespace {
 
 constexpr int mostEdges = 180;
+constexpr int printedAsOutlines = 64;  // pixels; letters as large as that the toolkit doesn't have made.
 
 /// Counts the edges of an outline that come near each row of pixels: a small letter is first moved onto the
 /// grid of the pixels, by up to one of them.
@@ -72,6 +73,44 @@ bool HasFullRow(const QPainterPath& outline) {
     return rows.Most() > mostEdges;
 }
 
+/// A text as it is printed, and where its base line is.
+struct Line {
+    Line(const QString& text, const QFont& font) {
+        QTextLayout layout(text, font);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        ascent = line.ascent();
+        runs = layout.glyphRuns();
+    }
+    QList<QGlyphRun> runs;
+    qreal ascent = 0;
+};
+
+/// True if `judge` says so of the outline of one of the run's glyphs.
+template <class Judge>
+bool HasGlyph(const QGlyphRun& run, const Judge& judge) {
+    const QRawFont glyphs = run.rawFont();
+    const QList<quint32> numbers = run.glyphIndexes();
+    const QSet<quint32> each(numbers.begin(), numbers.end());
+    return std::ranges::any_of(each, [&](quint32 number) { return judge(glyphs.pathForGlyph(number)); });
+}
+
+/// The letter has too few lines and arcs to be intricate at any size: each goes up once and down once at
+/// most.
+bool HasFewPieces(QChar letter, QFont font) {
+    font.setPixelSize(printedAsOutlines);  // Very small ones lack some.
+    const Line line(letter, font);
+    return std::ranges::none_of(line.runs, [](const QGlyphRun& run) {
+        return HasGlyph(run, [](const QPainterPath& path) {
+            int pieces = 0;
+            for (int i = 0; i < path.elementCount(); ++i)
+                pieces += path.elementAt(i).type != QPainterPath::CurveToDataElement ? 1 : 0;
+            return pieces > mostEdges / 2;
+        });
+    });
+}
+
 }  // namespace
 
 bool IsIntricate(const QPainterPath& outline) {
@@ -83,24 +122,26 @@ bool IsIntricate(const QPainterPath& outline) {
     return HasFullRow(outline) || HasFullRow(transposed.map(outline));
 }
 
-std::optional<QPainterPath> OutlinesOfIntricate(const QString& text, const QFont& font,
-                                                const QTransform& turn) {
-    constexpr int printedAsOutlines = 64;  // pixels; such letters the toolkit doesn't have made.
-    if (font.pixelSize() >= printedAsOutlines) return {};
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    const QTextLine line = layout.createLine();
-    layout.endLayout();
-    const QList<QGlyphRun> runs = layout.glyphRuns();
+bool IntricateLetters::AreSimple(const QString& text, const QFont& font) {
+    const QString style = QStringLiteral("%1%2").arg(int{font.bold()}).arg(int{font.italic()});
+    Letters& known = faces_[font.families().constFirst() + style];
+    return std::ranges::all_of(text, [&](QChar letter) {
+        // Of two that stand for one letter nothing is known.
+        if (letter.isSurrogate()) return false;
+        const auto [found, isNew] = known.try_emplace(letter.unicode());
+        if (isNew) found->second = HasFewPieces(letter, font);
+        return found->second;
+    });
+}
 
+std::optional<QPainterPath> IntricateLetters::OutlinesOf(const QString& text, const QFont& font,
+                                                         const QTransform& turn) {
+    if (font.pixelSize() >= printedAsOutlines || AreSimple(text, font)) return {};
+    const Line line(text, font);
     const auto hasIntricate = [&](const QGlyphRun& run) {
-        const QRawFont glyphs = run.rawFont();
-        const QList<quint32> numbers = run.glyphIndexes();
-        const QSet<quint32> each(numbers.begin(), numbers.end());
-        return std::any_of(each.begin(), each.end(), [&](quint32 number) {
-            return IsIntricate(turn.map(glyphs.pathForGlyph(number)));
-        });
+        return HasGlyph(run, [&](const QPainterPath& outline) { return IsIntricate(turn.map(outline)); });
     };
+    const QList<QGlyphRun>& runs = line.runs;
     if (std::none_of(runs.begin(), runs.end(), hasIntricate)) return {};
 
     QPainterPath outlines;
@@ -109,7 +150,7 @@ std::optional<QPainterPath> OutlinesOfIntricate(const QString& text, const QFont
         const QList<quint32> numbers = run.glyphIndexes();
         const QList<QPointF> places = run.positions();
         for (qsizetype i = 0; i < numbers.size(); ++i) {
-            const QPointF place = places[i] - QPointF(0, line.ascent());
+            const QPointF place = places[i] - QPointF(0, line.ascent);
             outlines.addPath(glyphs.pathForGlyph(numbers[i]).translated(place));
         }
     }

@@ -157,7 +157,7 @@ public:
     QRect Bounds() const { return bounds_; }
 
     /// The ink in a part of that.
-    TextMask Draw(const QRect& part) const {
+    TextMask Draw(const QRect& part, IntricateLetters& intricate) const {
         if (part.isEmpty()) return {};
         QImage picture(part.size(), QImage::Format_Grayscale8);
         if (picture.isNull()) return {};
@@ -174,7 +174,7 @@ public:
             painter.setTransform(turn_ * QTransform::fromTranslate(-part.left(), -part.top()));
             const QPointF start(0, ascent_);
             const auto outlines =
-                edges_ == Edges::Crisp ? OutlinesOfIntricate(letters_, font_, turn_) : std::nullopt;
+                edges_ == Edges::Crisp ? intricate.OutlinesOf(letters_, font_, turn_) : std::nullopt;
             if (outlines) {
                 painter.setRenderHint(QPainter::Antialiasing);
                 painter.fillPath(outlines->translated(start), Qt::white);
@@ -240,6 +240,10 @@ std::size_t QtFontEngine::PrintedHash::operator()(const Printed& key) const {
     return hash;
 }
 
+QtFontEngine::QtFontEngine() : intricate_(std::make_unique<IntricateLetters>()) {}
+
+QtFontEngine::~QtFontEngine() = default;
+
 TextExtent QtFontEngine::Measure(const FontSpec& font, std::string_view text) const {
     const Printed key{Plain(font), std::string(text)};
     if (const TextExtent* known = extents_.Find(key)) return *known;
@@ -267,7 +271,7 @@ TextMask QtFontEngine::RenderSeen(const FontSpec& font, std::string_view text, E
     // Outlines and shadows print it once more close by.
     constexpr int closeBy = 64;
     const QRect part = PartToDraw(drawing.Bounds(), window, closeBy);
-    TextMask mask = drawing.Draw(part);
+    TextMask mask = drawing.Draw(part, *intricate_);
     constexpr std::size_t small = std::size_t{64} << 10;  // captions, not posters
     constexpr std::size_t largest = std::size_t{4} << 20;
     if (part == drawing.Bounds() && mask.coverage.size() <= small) {
@@ -301,6 +305,7 @@ std::string QtFontEngine::AddFontFile(const std::filesystem::path& file) {
     if (added_.Revision() != before) {
         // The name has stood for something else until now.
         extents_.Clear();
+        intricate_->Forget();
         masks_.Clear();
         large_.reset();
     }

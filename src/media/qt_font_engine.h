@@ -11,11 +11,18 @@
 
 namespace coinlet {
 
+class IntricateLetters;
+
 /// Fonts of the desktop, drawn by Qt. Needs a QGuiApplication, and is used by its thread alone.
 /// Buttons and labels print the same captions again and again, so the latest masks and measures are kept; of
 /// large texts only the last mask, since outlines and shadows print one text many times.
 class QtFontEngine final : public FontEngine {
 public:
+    QtFontEngine();
+    ~QtFontEngine() override;
+    QtFontEngine(const QtFontEngine&) = delete;
+    QtFontEngine& operator=(const QtFontEngine&) = delete;
+
     TextExtent Measure(const FontSpec& font, std::string_view text) const override;
     TextMask Render(const FontSpec& font, std::string_view text, Edges edges,
                     double angle = 0) const override;
@@ -50,6 +57,7 @@ private:
     mutable Recent<Printed, TextExtent, PrintedHash> extents_{kept};
     mutable Recent<Printed, TextMask, PrintedHash> masks_{kept};
     mutable std::optional<LargeMask> large_;
+    std::unique_ptr<IntricateLetters> intricate_;
     AddedFonts added_;
     mutable std::unique_ptr<QtFontEngine> installed_;
 };
