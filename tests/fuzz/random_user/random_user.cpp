@@ -45,9 +45,10 @@ std::string CopyFileLine(const std::string& from, const std::string& to) {
 /// Keeps a copy of each design that is there at first.
 std::vector<std::string> KeepDesignLines(const player::Places& places) {
     std::vector<std::string> lines;
-    for (const std::string& file : ListFiles(places.Application() / designFolder, "*"))
+    for (const std::string& file : ListFiles(places.Application() / designFolder, "*")) {
         lines.push_back(
             CopyFileLine(designFolder + ("/" + file), std::string("@out/") + spareFolder + "/" + file));
+    }
     return lines;
 }
 
@@ -61,9 +62,10 @@ std::vector<std::string> CollectionLines() {
 /// back.
 std::vector<std::string> RefillLines(const player::Places& places) {
     std::vector<std::string> lines = CollectionLines();
-    for (const std::string& file : ListFiles(places.Out() / spareFolder, "*"))
+    for (const std::string& file : ListFiles(places.Out() / spareFolder, "*")) {
         lines.push_back(
             CopyFileLine(std::string("@out/") + spareFolder + "/" + file, designFolder + ("/" + file)));
+    }
     return lines;
 }
 

@@ -229,10 +229,11 @@ void Copy(Canvas& canvas, ByteStream& in) {
 
 void DrawGradient(Canvas& canvas, ByteStream& in) {
     std::array<TRIVERTEX, 3> vertices;
-    for (TRIVERTEX& vertex : vertices)
+    for (TRIVERTEX& vertex : vertices) {
         vertex = {
             in.Whole(), in.Whole(), in.Raw<std::uint16_t>(), in.Raw<std::uint16_t>(), in.Raw<std::uint16_t>(),
             0};
+    }
     const std::array<GRADIENT_RECT, 2> mesh{GRADIENT_RECT{in.Byte() % 4U, in.Byte() % 4U},
                                             GRADIENT_RECT{in.Byte() % 4U, in.Byte() % 4U}};
     GradientFill(canvas.surface.hDC(), vertices, mesh, in.Flag() ? GRADIENT_FILL_RECT_V : in.Whole());
@@ -354,7 +355,8 @@ Outcome Draw(std::span<const std::uint8_t> bytes) {
 Reader SurfaceCallsReader() {
     // Each call with its pens set before, on either surface: a byte chooses the surface, the next the call.
     std::vector<Bytes> files;
-    for (std::uint8_t call = 0; call < calls.size(); ++call) {
+    constexpr auto count = static_cast<std::uint8_t>(calls.size());
+    for (std::uint8_t call = 0; call < count; ++call) {
         Bytes file{0, 0, 1, 2, 1, 4};
         for (std::uint8_t round = 0; round < 4; ++round) {
             file.insert(file.end(), {round, call});
