@@ -96,7 +96,7 @@ bool HasGlyph(const QGlyphRun& run, const Judge& judge) {
     return std::ranges::any_of(each, [&](quint32 number) { return judge(glyphs.pathForGlyph(number)); });
 }
 
-/// The letter has too few lines and arcs to be intricate at any size: each goes up once and down once at
+/// The letter has too few lines and arcs to be intricate at any size: an arc, a cubic one, turns twice at
 /// most.
 bool HasFewPieces(QChar letter, QFont font) {
     font.setPixelSize(printedAsOutlines);  // Very small ones lack some.
@@ -106,7 +106,7 @@ bool HasFewPieces(QChar letter, QFont font) {
             int pieces = 0;
             for (int i = 0; i < path.elementCount(); ++i)
                 pieces += path.elementAt(i).type != QPainterPath::CurveToDataElement ? 1 : 0;
-            return pieces > mostEdges / 2;
+            return 3 * pieces > mostEdges;
         });
     });
 }
