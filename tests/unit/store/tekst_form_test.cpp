@@ -77,6 +77,12 @@ TEST(TekstForm, MakesARowOfEachDisplayedLine) {
         &TekstForm::CancelKnop);
 }
 
+TEST(TekstForm, KeepsTheScrollBarsPlaceFreeWhereLinesEnd) {
+    World world;
+    Confirm(world, std::string(78, 'a') + "\r\n" + std::string(79, 'b'));
+    EXPECT_EQ(world.Rows(), (Rows{std::string(78, 'a'), std::string(78, 'b'), "b", ""}));
+}
+
 TEST(TekstForm, ShowsThePromptOfTheLanguageAndTakesItForAText) {
     World world;
     world.main.InfoList.AddItem("200 what it is for");
