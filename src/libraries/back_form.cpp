@@ -9,58 +9,36 @@
 #include "core/side_panel.h"
 #include "core/text_keys.h"
 #include "libraries/back_form_layout.h"
+#include "libraries/cell_row.h"
 #include "surface/codecs.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
-#include <vector>
 
 namespace coinlet {
 
 namespace {
 
 constexpr int firstCollection = 1;
-constexpr int cellSide = sidePanelBackSide, cellsARow = 4;  // pixels
-constexpr double rowWidth = cellSide * cellsARow;
-constexpr Rectangle oneCell{0, 0, cellSide, cellSide};
+constexpr Rectangle oneBack{0, 0, backSide, backSide};
+constexpr CellRow backRow{backsARow, backSide, backSide, 2};
 
 fs::path FileOf(const Context& context, int collection, const std::string& extension) {
     return Beneath(context.services.applicationFolder,
                    "\\Data\\Back-" + std::to_string(collection) + extension);
 }
 
-/// True if a press lies within one of the cells of a row, whose outermost pixels don't count.
-bool IsWithinCell(float fromEdge) {
-    constexpr float inset = 2;
-    return fromEdge > inset && fromEdge < cellSide - inset;
-}
-
-/// The cell of a row that a press hits, from 0, or -1 for none.
-int CellAt(float x, float y) {
-    if (!IsWithinCell(y)) return -1;
-    for (int cell = 0; cell < cellsARow; ++cell)
-        if (IsWithinCell(x - static_cast<float>(cell * cellSide))) return cell;
-    return -1;
-}
-
-std::vector<Rectangle> CellPlaces() {
-    std::vector<Rectangle> places;
-    places.reserve(cellsARow);
-    for (int cell = 0; cell < cellsARow; ++cell)
-        places.push_back({static_cast<double>(cell * cellSide), 0, cellSide, cellSide});
-    return places;
-}
-
 }  // namespace
 
 BackForm::BackForm(Context& context) : Form(context.services.ForForms(), "BackForm"), context_(context) {
     LayOutBackForm(*this);
+    ShowName("");
     Option1.Bind(&OptionButton::Click, [this](int index) { Option1_Click(index); });
     HScroll1.Change = [this] { HScroll1_Change(); };
     HScroll1.Scroll = [this] { HScroll1_Change(); };
     Pic.MouseDown = [this](int, int, float x, float y) { Pic_MouseDown(x, y); };
-    Pic.SetPressPlaces(CellPlaces());
+    Pic.SetPressPlaces(Places(backRow));
     ExportKnop.Click = [this] { ExportKnop_Click(); };
     CancelKnop.Click = [this] { Unload(); };
 }
@@ -88,7 +66,7 @@ void BackForm::LoadBackNames(int collection) {
 }
 
 int BackForm::LastRow() const {
-    return RoundHalfEven(BackPic.surface.ScaleHeight() / cellSide - 1);
+    return RoundHalfEven(BackPic.surface.ScaleHeight() / backSide - 1);
 }
 
 void BackForm::ShowName(const std::string& name) {
@@ -104,24 +82,24 @@ void BackForm::Option1_Click(int index) {
 }
 
 void BackForm::HScroll1_Change() {
-    const double top = double{cellSide} * HScroll1.Value();
+    const double top = double{backSide} * HScroll1.Value();
     // What a row that is cut off lacks is blank, whatever stood there before.
-    Pic.surface.Line(0, 0, rowWidth, cellSide, white, Box::Filled);
-    Pic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, rowWidth, cellSide},
-                             {0, top, rowWidth, cellSide});
+    Pic.surface.Line(0, 0, backRowWidth, backSide, white, Box::Filled);
+    Pic.surface.PaintPicture(BackPic.surface.Image(), {0, 0, backRowWidth, backSide},
+                             {0, top, backRowWidth, backSide});
 }
 
 std::string BackForm::NameOfCell(int cell) const {
-    const std::int64_t place = std::int64_t{HScroll1.Value()} * cellsARow + cell;
+    const std::int64_t place = std::int64_t{HScroll1.Value()} * backsARow + cell;
     return place >= 0 && place < List1.ListCount() ? List1.List(static_cast<int>(place)) : std::string();
 }
 
 void BackForm::Pic_MouseDown(float x, float y) {
-    const int cell = CellAt(x, y);
-    const double offset = std::max(cell, 0) * cellSide;
-    Orgineel.surface.PaintPicture(Pic.surface.Image(), oneCell, {offset, 0, cellSide, cellSide});
+    const std::optional<int> cell = CellAt(backRow, x, y);
+    const double left = cell.value_or(0) * backSide;
+    Orgineel.surface.PaintPicture(Pic.surface.Image(), oneBack, {left, 0, backSide, backSide});
     // Beside the cells lies no back, and so no name.
-    context_.session.BackName = cell < 0 ? std::string() : NameOfCell(cell);
+    context_.session.BackName = cell ? NameOfCell(*cell) : std::string();
     ShowName(context_.session.BackName);
 }
 

@@ -3,55 +3,33 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "controls/hourglass.h"
+#include "core/clipart_library.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/floating_image.h"
 #include "core/language.h"
 #include "core/text_keys.h"
 #include "filters/colour_removal.h"
+#include "libraries/cell_row.h"
 #include "libraries/clipart_form_layout.h"
 #include "surface/codecs.h"
 #include "surface/mirror.h"
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace coinlet {
 
 namespace {
 
-constexpr std::string_view libraryFolder = "\\Cliparts";
-
 // All in pixels.
-constexpr int sheetWidth = cliparts * clipartWidth, sheetHeight = clipartHeight;
+constexpr int sheetWidth = clipartsASheet * clipartWidth, sheetHeight = clipartHeight;
 constexpr Rectangle wholeSheet{0, 0, sheetWidth, sheetHeight};
-constexpr Rectangle thumbnails{0, 0, cliparts* thumbnailWidth, thumbnailHeight};
+constexpr Rectangle thumbnails{0, 0, clipartsASheet* thumbnailWidth, thumbnailHeight};
+constexpr CellRow thumbnailRow{clipartsASheet, thumbnailWidth, thumbnailHeight, 5};
 constexpr Rectangle wholeClipart{0, 0, clipartWidth, clipartHeight};
 
 /// Height of a clipart for each pixel of its width.
 constexpr double proportion = 1.09;
-
-/// The clipart of the sheet that a press on the thumbnails hits, from 0: the first one between them, too.
-int ClipartAt(float x, float y) {
-    constexpr int inset = 5;
-    if (y > inset && y < thumbnailHeight - inset) {
-        for (int i = 0; i < cliparts; ++i) {
-            const int left = i * thumbnailWidth;
-            if (x > static_cast<float>(left + inset) && x < static_cast<float>(left + thumbnailWidth - inset))
-                return i;
-        }
-    }
-    return 0;
-}
-
-std::vector<Rectangle> ThumbnailPlaces() {
-    std::vector<Rectangle> places;
-    places.reserve(cliparts);
-    for (int i = 0; i < cliparts; ++i)
-        places.push_back({static_cast<double>(i * thumbnailWidth), 0, thumbnailWidth, thumbnailHeight});
-    return places;
-}
 
 }  // namespace
 
@@ -61,7 +39,7 @@ ClipartForm::ClipartForm(Context& context)
     Combo1.Change = [this] { Combo1_Change(); };
     Combo1.Click = [this] { Combo1_Change(); };
     Pic.MouseDown = [this](int, int, float x, float y) { Pic_MouseDown(x, y); };
-    Pic.SetPressPlaces(ThumbnailPlaces());
+    Pic.SetPressPlaces(Places(thumbnailRow));
     VScroll2.Change = [this] { VScroll2_Change(); };
     VScroll2.Scroll = [this] { VScroll2_Change(); };
     BWKnop.Click = [this] { BWKnop_Click(); };
@@ -72,14 +50,14 @@ ClipartForm::ClipartForm(Context& context)
 
 void ClipartForm::Form_Load() {
     Label6.Caption = LookupInfoText(context_, key::clipartHelp);
-    File1.SetPattern("*.art");
-    File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
+    File1.SetPattern(std::string(clipartSheetPattern));
+    File1.SetPath(Beneath(context_.services.applicationFolder, clipartFolder).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         Combo1.AddItem(File1.List(i));
     Combo1.SetFocus();
     // Chosen like any other, the first sheet is shown.
     Combo1.SetListIndex(0);
-    Label5.Caption = "Total " + std::to_string(Combo1.ListCount() * cliparts) + " Cliparts";
+    Label5.Caption = "Total " + std::to_string(Combo1.ListCount() * clipartsASheet) + " Cliparts";
 }
 
 void ClipartForm::LoadSheet() {
@@ -108,7 +86,8 @@ void ClipartForm::Combo1_Change() {
 }
 
 void ClipartForm::Pic_MouseDown(float x, float y) {
-    const double left = ClipartAt(x, y) * clipartWidth;
+    // Between the thumbnails the first one is meant.
+    const double left = CellAt(thumbnailRow, x, y).value_or(0) * clipartWidth;
     ExportPic.surface.PaintPicture(BackPic.surface.Image(), wholeClipart,
                                    {left, 0, clipartWidth, clipartHeight});
     ShowChosen();
@@ -125,8 +104,7 @@ void ClipartForm::VScroll2_Change() {
     BigPic.SetWidth(width * twipsPerPixel);
     BigPic.SetHeight(height * twipsPerPixel);
     ShowChosen();
-    Label9.Caption = "Size Clipart (" + FormatNumber(BigPic.surface.ScaleWidth()) + "x" +
-                     FormatNumber(BigPic.surface.ScaleHeight()) + ")";
+    Label9.Caption = ClipartSizeText(BigPic.surface.ScaleWidth(), BigPic.surface.ScaleHeight());
 }
 
 void ClipartForm::BWKnop_Click() {

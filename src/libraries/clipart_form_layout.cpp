@@ -1,7 +1,9 @@
 #include "libraries/clipart_form_layout.h"
 
+#include "base/numbers.h"
 #include "controls/edge.h"
 #include "controls/placing.h"
+#include "core/clipart_library.h"
 #include "core/dialog_layout.h"
 #include "core/stock_pictures.h"
 #include "core/tool_codes.h"
@@ -14,7 +16,7 @@ namespace {
 // The choice on top, the clipart below with its size beside it, what can be done to it in a column on the
 // right. All in pixels.
 constexpr int margin = dialogMargin;
-constexpr int sheetWidth = cliparts * thumbnailWidth, sheetHeight = thumbnailHeight;
+constexpr int sheetWidth = clipartsASheet * thumbnailWidth, sheetHeight = thumbnailHeight;
 constexpr int formWidth = sheetWidth + 2 * margin;
 constexpr int hintTop = margin, comboTop = 36, sheetTop = 72;
 constexpr int clipartTop = sheetTop + sheetHeight + 16;
@@ -27,7 +29,9 @@ void PlaceHiddenPictures(ClipartForm& form) {
     form.File1.Visible = false;
     form.BackPic.surface.AutoSize = true;
     form.BackPic.Visible = false;
-    form.ExportPic.Move(0, 0, 4950, 6400);
+    // In twips: as wide as a clipart, and higher; what lies below the clipart isn't shown.
+    constexpr double exportWidth = clipartWidth * twipsPerPixel, exportHeight = 6400;
+    form.ExportPic.Move(0, 0, exportWidth, exportHeight);
     form.ExportPic.Visible = false;
 }
 
@@ -48,7 +52,7 @@ void PlaceClipart(ClipartForm& form) {
     form.VScroll2.SetRange(thumbnailWidth, clipartWidth);
     form.VScroll2.SetValue(thumbnailWidth);
     PlaceByPixels(form.VScroll2, sliderLeft, clipartTop, sliderWidth, clipartHeight);
-    PlaceText(form.Label9, "Size Clipart (110x120)", column, clipartTop, columnWidth);
+    PlaceText(form.Label9, ClipartSizeText(thumbnailWidth, thumbnailHeight), column, clipartTop, columnWidth);
 }
 
 void PlaceChanges(ClipartForm& form) {
@@ -64,6 +68,10 @@ void PlaceChanges(ClipartForm& form) {
 }
 
 }  // namespace
+
+std::string ClipartSizeText(double width, double height) {
+    return "Size Clipart (" + FormatNumber(width) + "x" + FormatNumber(height) + ")";
+}
 
 void LayOutClipartForm(ClipartForm& form) {
     SetTitleAndSize(form, "Cliparts", formWidth, formHeight);

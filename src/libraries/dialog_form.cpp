@@ -12,6 +12,7 @@
 #include "core/language.h"
 #include "core/text_keys.h"
 #include "libraries/dialog_form_layout.h"
+#include "libraries/drawn_box.h"
 #include "surface/codecs.h"
 
 #include <algorithm>
@@ -125,6 +126,7 @@ void DialogForm::List1_Click() {
     const Hourglass hourglass(context_.services.platform);
     CheckSize(naturalSize);
     const fs::path file = fs::path(File1.Path()) / File1.List(List1.ListIndex());
+    // Nobody acts on it: saving sets it anew before it reads it.
     constexpr std::size_t extensionLength = 3;
     context_.session.SaveMode = LastCharacters(file.string(), extensionLength);
     // A file that is no picture leaves the former one, which is shown anew.
@@ -181,19 +183,13 @@ void DialogForm::ScrollPicture() {
 }
 
 void DialogForm::Pic_MouseDown(float x, float y) {
-    context_.session.StartX = x;
-    context_.session.StartY = y;
-    Layer.Move(x, y, 0, 0);
-    Layer.Visible = true;
+    BeginBox(context_.session, Layer, x, y);
 }
 
 void DialogForm::Pic_MouseMove(float x, float y) {
     // Pressed or not: the box follows, but is seen only while it is drawn. The text tells of the box before.
-    const Session& session = context_.session;
-    const std::string text = SizeText(WholePixels(Layer.Width()), WholePixels(Layer.Height()));
-    Layer.Move(session.StartX, session.StartY, std::max(x, session.StartX) - session.StartX + 1,
-               std::max(y, session.StartY) - session.StartY + 1);
-    Label5.Caption = text;
+    Label5.Caption = SizeText(WholePixels(Layer.Width()), WholePixels(Layer.Height()));
+    StretchBox(context_.session, Layer, x, y);
 }
 
 void DialogForm::Pic_MouseUp() {

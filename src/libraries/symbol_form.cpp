@@ -8,9 +8,9 @@
 #include "core/dialog.h"
 #include "core/floating_image.h"
 #include "core/main_form.h"
+#include "libraries/drawn_box.h"
 #include "libraries/symbol_form_layout.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace coinlet {
@@ -113,25 +113,18 @@ void SymbolForm::HScroll1_Change() {
 
 void SymbolForm::Combo2_Change() {
     const Hourglass hourglass(context_.services.platform);
-    symbolSize_ = RoundHalfEven(ChosenSize());
-    BackPic.surface.FontSize = BackLabel.FontSize = static_cast<float>(symbolSize_);
+    const int size = RoundHalfEven(ChosenSize());
+    BackPic.surface.FontSize = BackLabel.FontSize = static_cast<float>(size);
     DrawSymbolStrip();
     context_.services.platform.DoEvents();
 }
 
 void SymbolForm::Pic_MouseDown(int button, float x, float y) {
-    if (button != leftButton) return;
-    context_.session.StartX = x;
-    context_.session.StartY = y;
-    Layer.Move(x, y, 0, 0);
-    Layer.Visible = true;
+    if (button == leftButton) BeginBox(context_.session, Layer, x, y);
 }
 
 void SymbolForm::Pic_MouseMove(int button, float x, float y) {
-    if (button != leftButton) return;
-    // The box only grows, to the right and downwards.
-    const double left = context_.session.StartX, top = context_.session.StartY;
-    Layer.Move(left, top, std::max<double>(x, left) - left + 1, std::max<double>(y, top) - top + 1);
+    if (button == leftButton) StretchBox(context_.session, Layer, x, y);
 }
 
 void SymbolForm::ExportKnop_Click() {

@@ -10,7 +10,6 @@
 #include "controls/shapes.h"
 #include "controls/vista_button.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -71,7 +70,6 @@ private:
     };
 
     Context& context_;
-    std::int32_t symbolSize_ = 0;   ///< The last size chosen, in points.
     std::optional<Strip> printed_;  ///< Nothing once the letters of a font may have become others.
 };
 

@@ -3,6 +3,7 @@
 #include "base/clock.h"
 #include "base/files.h"
 #include "controls/file_boxes.h"
+#include "core/clipart_library.h"
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/side_panel.h"
@@ -103,9 +104,9 @@ void ListFolder(FileListBox& files, const Context& context, std::string_view fol
 }
 
 bool UserWantsPages(Platform& platform, int files) {
-    constexpr int clipartsOfFile = 5, filesOfPage = 18;
-    const std::string pages = std::to_string(files / filesOfPage + 1);
-    const std::string total = std::to_string(clipartsOfFile * files);
+    constexpr int sheetsAPage = 18;
+    const std::string pages = std::to_string(files / sheetsAPage + 1);
+    const std::string total = std::to_string(clipartsASheet * files);
     return platform.ShowMessage(
                {.prompt = "Printing of " + pages + " Pages (A4), total " + total + " Cliparts.",
                 .title = "Printing Cliparts",
@@ -146,7 +147,7 @@ void PrintAllDesigns(const Context& context, FileListBox& files, Surface& pictur
 void PrintAllCliparts(const Context& context, FileListBox& files, Surface& picture) {
     constexpr double boxHeight = 1260;
     Printer& printer = context.services.printer;
-    ListFolder(files, context, "\\Cliparts\\", "*.art");
+    ListFolder(files, context, clipartFolder, clipartSheetPattern);
     if (!UserWantsPages(context.services.platform, files.ListCount())) return;
     const PrintJob job(context.services, PageOrientation::Portrait);
     printer.FeedPage();  // A library without a sheet is an empty page.
