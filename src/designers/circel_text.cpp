@@ -21,7 +21,7 @@ namespace coinlet {
 namespace {
 
 constexpr int centre = canvasSide / 2;
-/// Not pi to the last digit: with these, curved texts land on the same pixels as in the designs of old.
+/// Not pi to the last digit, on purpose: the places of the letters depend on it.
 constexpr double pi = 3.14159625;
 constexpr double halfTurn = 180, quarterTurn = 90;
 

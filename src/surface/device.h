@@ -123,11 +123,11 @@ struct LOGFONT {
     std::uint8_t lfOutPrecision = 0, lfClipPrecision = 0;
     std::uint8_t lfQuality = 0;  ///< 4: smooth edges.
     std::uint8_t lfPitchAndFamily = 0;
-    std::string lfFaceName;  ///< At most 31 characters.
+    std::string lfFaceName;  ///< At most 32 characters.
 };
 using HFONT = std::shared_ptr<const LOGFONT>;
 
-/// A device font, or null for a name of more than 31 characters or a height that is 0. It lives as long as
+/// A device font, or null for a name of more than 32 characters or a height that is 0. It lives as long as
 /// somebody holds it: releasing the handle deletes it.
 HFONT CreateFontIndirectA(const LOGFONT& font);
 /// Selects a font for TextOutA and DrawTextA and returns the one that was selected before; null is the

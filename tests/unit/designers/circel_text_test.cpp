@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "designers/rotated_text.h"
+#include "support/watching_screen.h"
 #include "support/world.h"
 
 #include <cmath>
@@ -93,6 +94,13 @@ protected:
     Context dotContext{dotServices, session, main, plaatjes};
     CircelText form{dotContext};
 };
+
+TEST_F(CircelTextTest, OffersTheFontsOfTheScreen) {
+    ASSERT_EQ(form.Combo4.ListCount(), 2);
+    EXPECT_EQ(form.Combo4.List(0), "Arial");
+    EXPECT_EQ(form.Combo4.List(1), "Dots");
+    EXPECT_EQ(form.Combo4.Text(), "Arial");
+}
 
 TEST_F(CircelTextTest, TextOnTopGoesFromNineOClockOverTheTop) {
     Draw();
@@ -256,6 +264,17 @@ TEST_F(CircelTextTest, OpenLettersMayLieBeyondAllNumbers) {
     }
 }
 
+TEST_F(CircelTextTest, EachLetterIsShownOnceItIsWritten) {
+    for (const bool open : {false, true}) {
+        form.Check5.SetValue(open);
+        const test::WatchingScreen screen(form.Pic.surface, [this](int before) {
+            EXPECT_EQ(dots.asked.size(), static_cast<std::size_t>(before) + 1);
+        });
+        Draw();
+        EXPECT_EQ(screen.Refreshes(), open ? 27 : 3);
+    }
+}
+
 TEST_F(CircelTextTest, FillColourIsThatOfTheColourField) {
     main.ColorLabel.BackColor = RGB(1, 100, 200);
     form.Check1.SetValue(true);
@@ -294,9 +313,11 @@ TEST_F(CircelTextTest, LongFontNamesLeaveTheLettersOut) {
     form.Combo4.SetText(std::string(33, 'x'));
     Draw();
     EXPECT_TRUE(dots.asked.empty());
-    form.Combo4.SetText(std::string(31, 'x'));
-    Draw();
-    EXPECT_EQ(dots.asked.size(), 3U);
+    for (const std::size_t length : {32U, 31U}) {
+        form.Combo4.SetText(std::string(length, 'x'));
+        Draw();
+        EXPECT_EQ(dots.asked.size(), 3U) << length;
+    }
 }
 
 TEST_F(CircelTextTest, MonstrousNumbersAreNoHarm) {

@@ -1,6 +1,7 @@
 // What a fill shows, and when.
 #include "tools/fill_tools.h"
 
+#include "support/watching_screen.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>
@@ -11,16 +12,12 @@ namespace {
 class FillToolTest : public testing::Test, protected World {};
 
 TEST_F(FillToolTest, WhatIsFilledIsShownAtOnce) {
-    struct Screen : SurfaceScreen {
-        void SurfaceRefreshed(const Surface& surface) override { shown = surface.Point(499, 499); }
-        Colour shown = black;
-    } screen;
-    Surface& canvas = main.Pic.surface;
-    canvas.SetScreen(&screen);
+    const Surface& canvas = main.Pic.surface;
+    Colour shown = black;
+    const WatchingScreen screen(main.Pic.surface, [&](int) { shown = canvas.Point(499, 499); });
     main.ColorLabel.BackColor = RGB(10, 20, 30);
     FillTool(context).press({.x = 5, .y = 5});
-    EXPECT_EQ(screen.shown, RGB(10, 20, 30));
-    canvas.SetScreen(nullptr);
+    EXPECT_EQ(shown, RGB(10, 20, 30));
 }
 
 }  // namespace
