@@ -29,6 +29,12 @@ constexpr std::array fieldLabels{
     FieldLabel{&PMSForm::Label10, "M : ", pmsMagenta},    FieldLabel{&PMSForm::Label11, "Y : ", pmsYellow},
     FieldLabel{&PMSForm::Label12, "K : ", pmsBlack},
 };
+constexpr std::string_view numberCaption = "Color : ";
+
+void ShowField(PMSForm& form, PmsFieldNumbers field, std::string_view value) {
+    const FieldLabel& row = *std::ranges::find(fieldLabels, field, &FieldLabel::field);
+    (form.*row.label).Caption = std::string(row.caption) + std::string(value);
+}
 
 }  // namespace
 
@@ -50,7 +56,8 @@ void PMSForm::Form_Load() {
     savedGreen_ = session.PmsGreen;
     savedBlue_ = session.PmsBlue;
     for (const FieldLabel& row : fieldLabels)
-        (this->*row.label).Caption = row.caption;
+        ShowField(*this, row.field, "");
+    Label1.Caption = numberCaption;
     // Without a table the first thing to see is the colour there is.
     Label2.BackColor = context_.main.ColorLabel.BackColor;
     DrawPmsPalette(Pic.surface);
@@ -72,8 +79,8 @@ void PMSForm::FillPmsCombo() {
 void PMSForm::HScroll1_Change() {
     if (TableIsEmpty()) return;
     const ListBox& table = context_.main.PMSlist;
-    Label1.Caption =
-        "Color : " + std::to_string(HScroll1.Value()) + " / " + std::to_string(table.ListCount() - 1);
+    Label1.Caption = std::string(numberCaption) + std::to_string(HScroll1.Value()) + " / " +
+                     std::to_string(table.ListCount() - 1);
     ShowPmsEntry(table.List(HScroll1.Value()));
 }
 
@@ -89,8 +96,8 @@ void PMSForm::ShowNumber(int number) {
 void PMSForm::ShowPmsEntry(const std::string& line) {
     const auto fields = SplitPmsLine(line);
     if (!fields) return;
-    for (const auto& [label, caption, field] : fieldLabels)
-        (this->*label).Caption = std::string(caption) + std::string((*fields)[field]);
+    for (const FieldLabel& row : fieldLabels)
+        ShowField(*this, row.field, (*fields)[row.field]);
     const std::string_view red = (*fields)[pmsRed], green = (*fields)[pmsGreen], blue = (*fields)[pmsBlue];
     Session& session = context_.session;
     session.PmsRed = red;
@@ -112,9 +119,9 @@ void PMSForm::Pic_MouseDown(int button, float x, float y) {
     if (button != leftButton) return;
     const Colour picked = GetPixel(Pic.surface.hDC(), RoundHalfEven(x), RoundHalfEven(y));
     const int red = Red(picked), green = Green(picked), blue = Blue(picked);
-    Label5.Caption = "R : " + std::to_string(red);
-    Label6.Caption = "G : " + std::to_string(green);
-    Label7.Caption = "B : " + std::to_string(blue);
+    ShowField(*this, pmsRed, std::to_string(red));
+    ShowField(*this, pmsGreen, std::to_string(green));
+    ShowField(*this, pmsBlue, std::to_string(blue));
     Session& session = context_.session;
     session.PmsRed = std::to_string(std::max(red, 0));
     session.PmsGreen = std::to_string(std::max(green, 0));

@@ -72,7 +72,6 @@ void LayOutPmsForm(PMSForm& form) {
     form.Label2.Transparent = false;
     form.Label2.Border = true;
     form.Label8.FontBold = true;
-    form.Label1.Caption = "Color : ";
     form.Label13.Caption = "Search by number";
 
     PlaceByPixels(form.HScroll1, column1, 164, 280, 20);

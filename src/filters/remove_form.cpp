@@ -46,6 +46,7 @@ RemoveForm::RemoveForm(Context& context)
 
 void RemoveForm::Form_Load() {
     Label2.Caption = LookupInfoText(context_, key::removalHelp);
+    ShowColour(white);
     CopyCanvas(context_, Pic.surface);
     Check1.SetFocus();
 }
@@ -55,7 +56,10 @@ void RemoveForm::Pic_MouseDown(int button, float x, float y) {
 }
 
 void RemoveForm::Pic_MouseMove(float x, float y) {
-    const Colour colour = Pic.surface.Point(x, y);
+    ShowColour(Pic.surface.Point(x, y));
+}
+
+void RemoveForm::ShowColour(Colour colour) {
     ColorLabel.BackColor = colour;
     Label4.Caption = "RGB : " + std::to_string(Red(colour)) + "," + std::to_string(Green(colour)) + "," +
                      std::to_string(Blue(colour));

@@ -53,6 +53,7 @@ private:
 
     bool WipesTheOthers() const { return Check1.Value(); }
     void RemoveColor(Colour colour);
+    void ShowColour(Colour colour);
 
     Context& context_;
 };

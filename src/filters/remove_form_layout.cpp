@@ -16,7 +16,8 @@ namespace {
 constexpr int column = canvasDialogColumn, columnWidth = dialogColumnWidth;
 constexpr int glassInterval = 25;  // milliseconds
 
-/// What a button leaves is told by its caption, by a swatch on it and by a label beside it.
+/// The swatch on a button shows the colours that the button leaves or, where it takes out a channel, those
+/// that it takes.
 constexpr int swatchSide = 12;
 
 /// The swatch in its own size, or so many times as large.
@@ -61,11 +62,9 @@ void Place(VistaButton& button, Label& label, const RemovalRow& row, const Remov
 void PlaceReadOut(RemoveForm& form) {
     form.ColorLabel.Transparent = false;
     form.ColorLabel.Border = true;
-    form.ColorLabel.BackColor = white;
     PlaceByPixels(form.ColorLabel, column, 64, 40, 40);
     form.Label3.Caption = "Current Color";
     PlaceByPixels(form.Label3, column + 48, 68, 200, 16);
-    form.Label4.Caption = "RGB : 255,255,255";
     PlaceByPixels(form.Label4, column + 48, 86, 200, 16);
     form.Check1.Caption = "Remove all colors except Current.";
     PlaceByPixels(form.Check1, column, 112, columnWidth, 20);

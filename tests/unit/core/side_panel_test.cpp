@@ -98,6 +98,25 @@ TEST_F(SidePanelTest, ANameTakesThePlaceOfTheOneBefore) {
     EXPECT_TRUE(HasInk(45, 160, 80, 176, RGB(90, 90, 90)));
 }
 
+// Its cell begins 45 pixels from the left and 4 below the top of the row, in letters of 8 points.
+TEST_F(SidePanelTest, ANameStandsInItsExactPlace) {
+    Surface expected(fonts, 178, 500);
+    for (Surface* each : {&panel, &expected}) {
+        each->SetBackColor(beige);
+        DrawEmptyRows(*each, rowTextAfterNew);
+        // Whatever was printed last leaves its font and its cursor.
+        PrintMetal(*each, "Shiny Gold");
+    }
+    PrintRowName(panel, 3, "RGB 1,2,3");
+    expected.Line(44, 135, 180, 155, white, Box::Filled);
+    expected.CurrentX = 45;
+    expected.CurrentY = 139;
+    expected.FontSize = 8;
+    expected.ForeColor = RGB(50, 50, 50);
+    expected.Print("RGB 1,2,3");
+    EXPECT_EQ(panel.Image(), expected.Image());
+}
+
 TEST_F(SidePanelTest, AClearedRowIsGrayAgainAndItsFieldBlank) {
     DrawEmptyRows(panel, rowTextAtStart);
     FillSwatch(panel, 9, 30, 295, green);
