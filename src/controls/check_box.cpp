@@ -1,5 +1,7 @@
 #include "controls/check_box.h"
 
+#include "controls/arrow_keys.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -79,7 +81,7 @@ void OptionButton::KeyPressed(int code, int shift) {
 }
 
 bool OptionButton::WantsKey(int code, int shift) const {
-    return code >= keyLeft && code <= keyDown && IsPlainKey(shift);
+    return IsArrowKey(code) && IsPlainKey(shift);
 }
 
 }  // namespace coinlet

@@ -1,6 +1,7 @@
 #include "controls/pointed_picture.h"
 
 #include "base/numbers.h"
+#include "controls/arrow_keys.h"
 #include "controls/form.h"
 #include "controls/platform.h"
 
@@ -9,12 +10,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr int step = 1, longStep = 10;
-
-bool IsArrow(int code) {
-    return code >= keyLeft && code <= keyDown;
-}
 
 /// The button of the pointer that a key stands for; none for other keys.
 int ButtonOfKey(int code) {
@@ -92,7 +87,7 @@ bool PointedPicture::StopsTab() const {
 bool PointedPicture::WantsKey(int code, int shift) const {
     if (PictureBox::WantsKey(code, shift)) return true;
     if (!IsPlainKey(shift)) return false;
-    return Presses(code, shift) || (IsArrow(code) && !(ArrowsAreTaken && ArrowsAreTaken()));
+    return Presses(code, shift) || (IsArrowKey(code) && !(ArrowsAreTaken && ArrowsAreTaken()));
 }
 
 void PointedPicture::PointerPressed(int button, int shift, float x, float y) {
@@ -115,10 +110,7 @@ void PointedPicture::KeyPressed(int code, int shift) {
     PictureBox::KeyPressed(code, shift);
     if (!Answers() || !PointedPicture::WantsKey(code, shift)) return;
     if (Presses(code, shift)) PressByKeys(ButtonOfKey(code), shift);
-    if (code == keyLeft) MoveByKeys(-1, 0, shift);
-    if (code == keyRight) MoveByKeys(1, 0, shift);
-    if (code == keyUp) MoveByKeys(0, -1, shift);
-    if (code == keyDown) MoveByKeys(0, 1, shift);
+    if (const auto steps = ArrowSteps(code, shift)) MoveByKeys(steps->columns, steps->rows, shift);
 }
 
 void PointedPicture::KeyReleased(int code, int shift) {
@@ -140,8 +132,7 @@ bool PointedPicture::HoldsByKeys() const {
 void PointedPicture::MoveByKeys(int columns, int rows, int shift) {
     // What the pointer itself holds it drags alone.
     if (OwnerForm().PointerHeld() && !HoldsByKeys()) return;
-    const int pixels = (shift & shiftHeld) != 0 ? longStep : step;
-    const auto place = PlaceFromPointer(columns * pixels, rows * pixels);
+    const auto place = PlaceFromPointer(columns, rows);
     if (!place) return;
     OwnerForm().GetPlatform().MovePointer(*this, place->x, place->y);
     PointerMoved(OwnerForm().ButtonsHeldByKeys, shift, place->x, place->y);

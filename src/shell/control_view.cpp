@@ -195,7 +195,7 @@ bool ControlView::HandleKey(const QKeyEvent& event) {
 bool ControlView::KeepsKey(const QKeyEvent& event) const {
     const bool plain = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
     const int code = KeyCode(event.key());
-    const bool steps = (code >= keyPageUp && code <= keyDown) || code == keySpace || code == keyReturn;
+    const bool steps = IsStepKey(code) || code == keySpace || code == keyReturn;
     return keys_ == Handling::Program && plain && steps;
 }
 

@@ -17,13 +17,18 @@ struct NamedKey {
     int code;
 };
 
-// By rising toolkit key.
+// A code without a name is no key that the program itself knows.
 constexpr NamedKey namedKeys[] = {
-    {Qt::Key_Escape, keyEscape}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},      {Qt::Key_Backspace, 8},
-    {Qt::Key_Return, 13},        {Qt::Key_Enter, 13},    {Qt::Key_Insert, 45},      {Qt::Key_Delete, 46},
-    {Qt::Key_Pause, 19},         {Qt::Key_Print, 44},    {Qt::Key_Home, keyHome},   {Qt::Key_End, keyEnd},
-    {Qt::Key_Left, keyLeft},     {Qt::Key_Up, keyUp},    {Qt::Key_Right, keyRight}, {Qt::Key_Down, keyDown},
-    {Qt::Key_PageUp, 33},        {Qt::Key_PageDown, 34}, {Qt::Key_Shift, 16},       {Qt::Key_Control, 17},
+    {Qt::Key_Escape, keyEscape}, {Qt::Key_Tab, 9},
+    {Qt::Key_Backtab, 9},        {Qt::Key_Backspace, keyBackspace},
+    {Qt::Key_Return, keyReturn}, {Qt::Key_Enter, keyReturn},
+    {Qt::Key_Insert, 45},        {Qt::Key_Delete, 46},
+    {Qt::Key_Pause, 19},         {Qt::Key_Print, 44},
+    {Qt::Key_Home, keyHome},     {Qt::Key_End, keyEnd},
+    {Qt::Key_Left, keyLeft},     {Qt::Key_Up, keyUp},
+    {Qt::Key_Right, keyRight},   {Qt::Key_Down, keyDown},
+    {Qt::Key_PageUp, keyPageUp}, {Qt::Key_PageDown, keyPageDown},
+    {Qt::Key_Shift, keyShift},   {Qt::Key_Control, 17},
     {Qt::Key_Alt, 18},           {Qt::Key_CapsLock, 20},
 };
 
@@ -44,8 +49,9 @@ int KeyCode(int qtKey) {
 }
 
 int ShiftState(Qt::KeyboardModifiers modifiers) {
-    return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
-           (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) + (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
+    return (modifiers.testFlag(Qt::ShiftModifier) ? shiftHeld : 0) +
+           (modifiers.testFlag(Qt::ControlModifier) ? controlHeld : 0) +
+           (modifiers.testFlag(Qt::AltModifier) ? altHeld : 0);
 }
 
 bool PressKey(Form& form, EventGate& gate, const QKeyEvent& event) {

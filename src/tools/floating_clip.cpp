@@ -1,6 +1,7 @@
 #include "tools/floating_clip.h"
 
 #include "base/numbers.h"
+#include "controls/arrow_keys.h"
 #include "controls/hourglass.h"
 #include "core/context.h"
 #include "core/floating_image.h"
@@ -72,25 +73,11 @@ void FloatingClip::MoveTo(float left, double top) {
 bool FloatingClip::TakesKey(int code, int shift) {
     MainForm& main = context_.main;
     if (!ImageFloats(context_) || !IsPlainKey(shift)) return false;
-    constexpr int step = 1, longStep = 10;
-    const int pixels = (shift & shiftHeld) != 0 ? longStep : step;
-    const auto by = [&](int columns, int rows) {
-        MoveTo(static_cast<float>(main.ClipPic.Left() + columns * pixels),
-               main.ClipPic.Top() + rows * pixels);
-    };
+    if (const auto steps = ArrowSteps(code, shift)) {
+        MoveTo(static_cast<float>(main.ClipPic.Left() + steps->columns), main.ClipPic.Top() + steps->rows);
+        return true;
+    }
     switch (code) {
-        case keyLeft:
-            by(-1, 0);
-            return true;
-        case keyRight:
-            by(1, 0);
-            return true;
-        case keyUp:
-            by(0, -1);
-            return true;
-        case keyDown:
-            by(0, 1);
-            return true;
         case keyReturn:
             Paste_Click(pasteNormal);
             return true;
