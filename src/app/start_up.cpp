@@ -3,6 +3,7 @@
 #include "base/desktop.h"
 #include "base/files.h"
 #include "colour/pms_table.h"
+#include "controls/number_list.h"
 #include "core/about.h"
 #include "core/context.h"
 #include "core/language.h"
@@ -20,7 +21,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr int smallestLetter = 8, largestLetter = 150, letterStep = 2, standardLetter = 6;
+constexpr NumberList letterSizes{8, 150, 2, 20};
 
 /// In the folders that the program writes files into.
 void RemoveFilesOfKilledPrograms(Context& context) {
@@ -59,9 +60,7 @@ void FillTextPanel(Context& context) {
     for (const std::string& family : context.services.fonts.Families())
         main.Combo2.AddItem(family);
     main.Combo2.SetText("Arial");
-    for (int size = smallestLetter; size <= largestLetter; size += letterStep)
-        main.Combo3.AddItem(std::to_string(size));
-    main.Combo3.SetListIndex(standardLetter);
+    FillWithNumbers(main.Combo3, letterSizes);
     main.Text1.SetText("Coinlet Designer");
     main.Label17.Caption = "Draw Text";
     main.InfoLabel.Caption = "Maak uw keuze...";

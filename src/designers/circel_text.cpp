@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "controls/number_list.h"
 #include "core/canvas_dialog.h"
 #include "core/context.h"
 #include "core/font_sample.h"
@@ -25,17 +26,7 @@ constexpr int centre = canvasSide / 2;
 constexpr double pi = 3.14159625;
 constexpr double halfTurn = 180, quarterTurn = 90;
 
-/// What a list of numbers offers, and what stands in it at first.
-struct NumberList {
-    int first, last, step, standard;
-};
 constexpr NumberList distances{0, 10, 1, 2}, radii{100, 200, 5, 185}, sizes{20, 120, 2, 30};
-
-void Fill(ComboBox& combo, const NumberList& list) {
-    for (int number = list.first; number <= list.last; number += list.step)
-        combo.AddItem(std::to_string(number));
-    combo.SetListIndex((list.standard - list.first) / list.step);
-}
 
 double Radians(double degrees) {
     return degrees / halfTurn * pi;
@@ -58,9 +49,9 @@ CircelText::CircelText(Context& context)
 void CircelText::Form_Load() {
     Text1.SetText("Coinlet Designer");
     Label8.Caption = LookupInfoText(context_, key::curvedTextHelp);
-    Fill(Combo1, distances);
-    Fill(Combo2, radii);
-    Fill(Combo3, sizes);
+    FillWithNumbers(Combo1, distances);
+    FillWithNumbers(Combo2, radii);
+    FillWithNumbers(Combo3, sizes);
     for (const std::string& family : context_.services.fonts.Families())
         Combo4.AddItem(family);
     Combo4.SetText("Arial");

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/form.h"
+#include "controls/number_list.h"
 #include "controls/platform.h"
 #include "designers/regular_polygon.h"
 #include "surface/device.h"
@@ -16,17 +17,7 @@ namespace {
 constexpr std::array<int, 3> standardChannels{255, 255, 0};
 constexpr int mostOfAChannel = 255;
 
-/// A list of whole numbers, and what stands in it at first.
-struct WholeNumbers {
-    int first, last, step, standard;
-};
-constexpr WholeNumbers sides{3, 20, 1, 3}, sizes{10, 400, 5, 60};
-
-void Fill(ComboBox& combo, const WholeNumbers& numbers) {
-    for (int number = numbers.first; number <= numbers.last; number += numbers.step)
-        combo.AddItem(std::to_string(number));
-    combo.SetListIndex((numbers.standard - numbers.first) / numbers.step);
-}
+constexpr NumberList sides{3, 20, 1, 3}, sizes{10, 400, 5, 60};
 
 /// From 0.00 to 4.00.
 void FillWithTurns(ComboBox& combo) {
@@ -57,8 +48,8 @@ PolygonDrawing::PolygonDrawing(Form& form, Surface& picture, Shape& layer)
       form_(&form),
       picture_(&picture),
       layer_(&layer) {
-    Fill(Combo1, sides);
-    Fill(Combo2, sizes);
+    FillWithNumbers(Combo1, sides);
+    FillWithNumbers(Combo2, sizes);
     FillWithTurns(Combo3);
     for (int i = ColorScroll.First(); i <= ColorScroll.Last(); ++i) {
         const int standard = standardChannels.at(static_cast<std::size_t>(i));

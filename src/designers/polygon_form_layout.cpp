@@ -1,6 +1,7 @@
 #include "designers/polygon_form_layout.h"
 
 #include "controls/house_colours.h"
+#include "controls/number_list.h"
 #include "controls/placing.h"
 #include "core/dialog_layout.h"
 #include "designers/polygon_figure.h"
@@ -95,10 +96,9 @@ void PlaceFigures(PolygonForm& form) {
 }
 
 void PlacePen(PolygonForm& form) {
-    constexpr int widestPen = 9, checkHeight = 20, checkPitch = 22;
-    for (int width = 1; width <= widestPen; ++width)
-        form.Combo1.AddItem(std::to_string(width));
-    form.Combo1.SetListIndex(0);
+    constexpr NumberList penWidths{1, 9, 1, 1};
+    constexpr int checkHeight = 20, checkPitch = 22;
+    FillWithNumbers(form.Combo1, penWidths);
     PlaceNamedField(form.Label15, "Line Width", form.Combo1, column1, penTop, columnWidth);
     form.Check1.Caption = "Flat Circle";
     PlaceByPixels(form.Check1, column2, penTop, columnWidth, checkHeight);

@@ -1,6 +1,7 @@
 #include "libraries/symbol_form_layout.h"
 
 #include "controls/edge.h"
+#include "controls/number_list.h"
 #include "controls/placing.h"
 #include "core/dialog_layout.h"
 #include "libraries/symbol_form.h"
@@ -24,6 +25,9 @@ constexpr int stripPanelHeight = windowRows + 6 + sliderHeight + 2 * inset;
 constexpr int foot = stripTop + stripPanelHeight + margin;
 constexpr int formHeight = foot + buttonHeight + margin;
 
+/// Of the symbols, in points.
+constexpr NumberList sizes{10, 150, 2, 60};
+
 /// All printable characters but the blank.
 std::string Printable() {
     constexpr char first = '!', last = '~';
@@ -34,11 +38,10 @@ std::string Printable() {
 }
 
 void PlaceStrip(SymbolForm& form) {
-    constexpr float standardSize = 60;  // points
     form.File1.Visible = false;
     form.BackLabel.AutoSize = true;
     form.BackLabel.Sample = true;
-    form.BackLabel.FontSize = standardSize;
+    form.BackLabel.FontSize = static_cast<float>(sizes.standard);
     form.BackLabel.Caption = Printable();
     form.BackLabel.Visible = false;
     form.BackPic.SetHeight(windowRows * twipsPerPixel);
@@ -54,10 +57,7 @@ void PlaceChoice(SymbolForm& form) {
     PlaceByPixels(form.InstalKnop, left + fontWidth + dialogGap, top, showWidth, buttonHeight);
     form.DefaultButton = &form.InstalKnop;
     PlaceText(form.Label1, "Size", sizeLeft - labelWidth, fieldTop + 5, labelWidth);
-    constexpr int smallest = 10, largest = 150, step = 2, standardIndex = 25;
-    for (int size = smallest; size <= largest; size += step)
-        form.Combo2.AddItem(std::to_string(size));
-    form.Combo2.SetListIndex(standardIndex);
+    FillWithNumbers(form.Combo2, sizes);
     PlaceByPixels(form.Combo2, sizeLeft, fieldTop, sizeWidth, dialogFieldHeight);
 }
 

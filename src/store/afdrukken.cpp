@@ -1,6 +1,7 @@
 #include "store/afdrukken.h"
 
 #include "base/numbers.h"
+#include "controls/number_list.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/main_form.h"
@@ -15,7 +16,7 @@ namespace {
 
 enum Job { currentDesign, allDesigns, allCliparts };
 
-constexpr int mostCopiesListed = 20;
+constexpr NumberList copies{1, 20, 1, 1};
 
 }  // namespace
 
@@ -37,9 +38,7 @@ void Afdrukken::Form_Load() {
     for (const std::string& name : printer.DeviceNames())
         Combo2.AddItem(name);
     Combo2.SetText(printer.DeviceName());
-    for (int copies = 1; copies <= mostCopiesListed; ++copies)
-        Combo1.AddItem(std::to_string(copies));
-    Combo1.SetListIndex(0);
+    FillWithNumbers(Combo1, copies);
     ShowCanvas();
     Combo1.SetFocus();
 }

@@ -40,7 +40,7 @@ struct Mixture {
     }
     /// The mean, rounded; the weight is above 0.
     Pixel Mean() const {
-        Pixel pixel = 255U << 24;
+        Pixel pixel = spareByte;
         for (int i = 0; i < channels; ++i)
             pixel |= static_cast<Pixel>((sums[static_cast<std::size_t>(i)] + weight / 2) / weight) << (8 * i);
         return pixel;
