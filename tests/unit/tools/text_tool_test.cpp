@@ -142,6 +142,16 @@ TEST_F(TextToolTest, AnOddSizeIsNoHarm) {
     }
 }
 
+TEST_F(TextToolTest, WithoutATextTheUserIsStopped) {
+    main.Text1.SetText("  ");
+    main.PlaatsKnop.Click();
+    ASSERT_EQ(platform.messages.size(), 1U);
+    EXPECT_EQ(platform.messages.front().prompt, "There is no text...");
+    EXPECT_EQ(platform.messages.front().title, "Error");
+    EXPECT_EQ(platform.messages.front().icon, MessageIcon::Stop);
+    EXPECT_FALSE(session.TextPlacing);
+}
+
 TEST_F(TextToolTest, TheTextStandsUpAndLeftOfThePointerByTheSizeOfTheLabel) {
     main.PlaatsKnop.Click();
     EXPECT_EQ(main.TextLabel.Caption, "ab ");
