@@ -16,6 +16,7 @@
 #include "controls/text_box.h"
 #include "controls/timer.h"
 #include "controls/vista_button.h"
+#include "core/tool_codes.h"
 
 #include <functional>
 
@@ -89,11 +90,11 @@ public:
 
     // --- Tools -----------------------------------------------------------------------------------------
     Frame Frame4{*this, "Frame4"};
-    Shape ToolShape{Frame4, "ToolShape"};                   ///< Behind the button of the tool in use.
-    ControlArray<VistaButton> Knop{Frame4, "Knop", 0, 16};  ///< The tools, by their codes.
-    Label Label6{Frame4, "Label6"};                         ///< What ColorLabel is.
-    Label ColorLabel{Frame4, "ColorLabel"};                 ///< The fill colour.
-    Label Label7{Frame4, "Label7"};                         ///< The width of the pen.
+    Shape ToolShape{Frame4, "ToolShape"};  ///< Behind the button of the tool in use.
+    ControlArray<VistaButton> Knop{Frame4, "Knop", 0, toolButtonCount};  ///< The tools, by their codes.
+    Label Label6{Frame4, "Label6"};                                      ///< What ColorLabel is.
+    Label ColorLabel{Frame4, "ColorLabel"};                              ///< The fill colour.
+    Label Label7{Frame4, "Label7"};                                      ///< The width of the pen.
     ScrollBar HScroll1{Frame4, "HScroll1", Orientation::Horizontal};
     // The panels behind the sliders of single tools; three of them share one place.
     Label Label9{Frame4, "Label9"};  ///< Of rounded corners.
@@ -189,7 +190,7 @@ public:
 
     // Popped up by buttons; not in the menu bar.
     MenuItem Shapes{*this, "Shapes", "Shapes"};
-    ControlArray<MenuItem> Vormen{Shapes, "Vormen", 1, 16};  ///< The shapes.
+    ControlArray<MenuItem> Vormen{Shapes, "Vormen", 1, shapeCount};  ///< The shapes.
     MenuItem FlipImage{*this, "FlipImage", "FlipImage"};
     ControlArray<MenuItem> FlipPic{FlipImage, "FlipPic", 1, 6};
     MenuItem PasteImage{*this, "PasteImage", "PasteImage"};

@@ -1,6 +1,7 @@
 #include "core/main_menus.h"
 
 #include "core/main_form.h"
+#include "core/tool_codes.h"
 
 #include <array>
 #include <string_view>
@@ -12,14 +13,14 @@ namespace {
 // In the order of their indexes, from the first of the array on.
 constexpr std::array<std::string_view, 2> languageCaptions{"Dutch", "English"};
 constexpr std::array<std::string_view, 2> screenCaptions{"Resolution", "Change Resolution"};
-constexpr std::array<std::string_view, 16> shapeCaptions{"Rectangle",      "Rounded Rectangle",
-                                                         "Ellipse",        "Triangle",
-                                                         "Square",         "Pentagon",
-                                                         "Hexagon",        "Heart",
-                                                         "Diamond",        "Quatro",
-                                                         "Raster",         "Open Star",
-                                                         "Star",           "Rectangle / Square",
-                                                         "Double Trangle", "Tree"};
+constexpr std::array<std::string_view, shapeCount> shapeCaptions{"Rectangle",      "Rounded Rectangle",
+                                                                 "Ellipse",        "Triangle",
+                                                                 "Square",         "Pentagon",
+                                                                 "Hexagon",        "Heart",
+                                                                 "Diamond",        "Quatro",
+                                                                 "Raster",         "Open Star",
+                                                                 "Star",           "Rectangle / Square",
+                                                                 "Double Trangle", "Tree"};
 constexpr std::array<std::string_view, 6> flipCaptions{
     "Flip Leftside to Right", "Flip Upperside to Bottom", "Mirror", "Upside Down",
     "Rotate 90° to Left",     "Rotate 45° to Right"};

@@ -2,6 +2,7 @@
 
 #include "core/materials.h"
 #include "core/stock_bytes.h"
+#include "core/tool_codes.h"
 #include "surface/codecs.h"
 #include "surface/finer_edition.h"
 
@@ -13,7 +14,6 @@ namespace coinlet {
 namespace {
 
 constexpr int iconSide = 14, fineness = 6, framesAStrip = 3, tagSide = 100;
-constexpr std::size_t toolIcons = 16;
 
 Image Cut(const Image& sheet, int left, int top, int width, int height) {
     Bitmap bitmap(width, height);
@@ -23,8 +23,8 @@ Image Cut(const Image& sheet, int left, int top, int width, int height) {
 }
 
 /// The strips lie below each other in one bitmap, in the order of the buttons.
-std::array<Image, toolIcons> CutIcons(const Image& sheet, int side) {
-    std::array<Image, toolIcons> strips;
+std::array<Image, toolButtonCount> CutIcons(const Image& sheet, int side) {
+    std::array<Image, toolButtonCount> strips;
     int top = 0;
     for (Image& strip : strips) {
         strip = Cut(sheet, 0, top, framesAStrip * side, side);

@@ -53,6 +53,10 @@ enum ToolCodes : int {
     nothingArmed = 999,
 };
 
+/// How many buttons the tools have, and how many entries the menu of shapes.
+constexpr int toolButtonCount = lastToolButton + 1;
+constexpr int shapeCount = lastShapeTool - firstShapeTool + 1;
+
 constexpr bool IsShapeTool(int code) {
     return code >= firstShapeTool && code <= lastShapeTool;
 }

@@ -11,7 +11,7 @@ namespace coinlet {
 /// The keys that choose the tools while no field has the focus, by the codes of the tools: letters of their
 /// captions, as capitals.
 constexpr std::string_view toolKeys = "DLSPAFEUTGRXCIHB";
-static_assert(toolKeys.size() == lastToolButton + 1);
+static_assert(toolKeys.size() == toolButtonCount);
 
 /// The tool that a key chooses; nothing for other keys.
 constexpr std::optional<int> ToolOfKey(int keyCode) {
