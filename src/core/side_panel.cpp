@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "surface/device.h"
+#include "surface/print_at.h"
 
 namespace coinlet {
 
@@ -26,12 +27,6 @@ constexpr Colour nameColour = RGB(50, 50, 50);
 
 constexpr int metalTop = 15, metalBottom = 45, metalTextLeft = 19, metalTextTop = 20;
 constexpr float metalFontSize = 12;
-
-void PrintAt(Surface& surface, int x, int y, std::string_view text) {
-    surface.CurrentX = static_cast<float>(x);
-    surface.CurrentY = static_cast<float>(y);
-    surface.Print(text);
-}
 
 void DrawSwatchBox(Surface& panel, int top, int inset, Colour colour, Box box) {
     panel.Line(swatchLeft + inset, top + inset, swatchRight - inset, top + rowHeight - inset, colour, box);

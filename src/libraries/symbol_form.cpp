@@ -10,6 +10,7 @@
 #include "core/main_form.h"
 #include "libraries/drawn_box.h"
 #include "libraries/symbol_form_layout.h"
+#include "surface/print_at.h"
 
 #include <string_view>
 
@@ -82,8 +83,7 @@ void SymbolForm::PrintStrip() {
     strip.SetPicture({});
     // A text that no picture can hold leaves the strip as wide as it was.
     BackPic.SetWidth(BackLabel.Width());
-    strip.CurrentX = strip.CurrentY = 0;
-    strip.Print(BackLabel.Caption);
+    PrintAt(strip, 0, 0, BackLabel.Caption);
     printed_ = wanted;
 }
 

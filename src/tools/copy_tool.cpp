@@ -18,7 +18,11 @@ ToolFamily CopyTool(Context& context) {
                                           {main.Layer.Left(), main.Layer.Top(), width, height});
         FloatImage(context, main.IconPic.surface.Image());
     };
-    return {.firstCode = copyTool, .lastCode = copyTool, .band = Band::Area, .release = release};
+    return {.firstCode = copyTool,
+            .lastCode = copyTool,
+            .band = Band::Area,
+            .release = release,
+            .movesChangeDesign = true};
 }
 
 }  // namespace coinlet

@@ -4,6 +4,7 @@
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/undo.h"
+#include "tools/hanging_text.h"
 
 #include <algorithm>
 
@@ -13,7 +14,6 @@ namespace {
 
 // The read-out of the band stands above its anchor, a little to the left.
 constexpr float readOutAbove = 15, readOutLeft = 3;
-constexpr double textDistance = 5;
 
 bool IsSized(Band band) {
     return band == Band::Drag || band == Band::Area;
@@ -74,8 +74,8 @@ void GestureEngine::Pic_MouseMove(int button, int shift, float x, float y) {
     const ToolFamily* family = Family();
     if (family != nullptr && family->follow) family->follow({x, y});
     // The text rides on the pointer also while nobody sees it, so that it appears in its place.
-    main.TextLabel.Move(x - main.TextLabel.Width() - textDistance,
-                        y - main.TextLabel.Height() - textDistance);
+    const TextCorner corner = CornerOfHangingText(main.TextLabel, {x, y});
+    main.TextLabel.Move(corner.left, corner.top);
     PlaceEraserMarker(x, y);
     if (button != leftButton) return;
 
@@ -147,7 +147,6 @@ void GestureEngine::SizeBand(Band band, GesturePoint& pointer) {
     main.Layer.Move(session.StartX, session.StartY, width + 1, height + 1);
     const float extra = band == Band::Area ? 1 : 0;
     main.XYcor.Caption = " " + FormatNumber(width + extra) + "," + FormatNumber(height + extra) + " ";
-    session.DesignChanged = true;
 }
 
 const ToolFamily* GestureEngine::Family() const {

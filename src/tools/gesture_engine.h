@@ -36,8 +36,8 @@ struct ToolFamily {
     bool movesChangeDesign = false;
 };
 
-/// The tools of these codes do nothing with the canvas but leave an empty band at a press: they are buttons
-/// that open a menu, or no tools at all.
+/// The tools of these codes do nothing with the canvas but leave an empty band at a press: buttons that open
+/// a menu, About, and codes that no tool has.
 ToolFamily EmptyBandTools(int firstCode, int lastCode);
 
 /// The three pointer events of the canvas. It takes the undo copy, keeps the anchor and the read-outs, shows

@@ -200,7 +200,8 @@ ToolFamily ShapeTools(Context& context) {
             .lastCode = lastShapeTool,
             .band = Band::Drag,
             .release = release,
-            .withShift = withShift};
+            .withShift = withShift,
+            .movesChangeDesign = true};
 }
 
 }  // namespace coinlet

@@ -8,6 +8,8 @@
 #include "core/main_form.h"
 #include "core/undo.h"
 #include "surface/device.h"
+#include "surface/print_at.h"
+#include "tools/hanging_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +21,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr float textDistance = 5;  // pixels between the text and the pointer
 constexpr int fullChannel = 255;
 
 constexpr int shadowDepth = 8, shadowDarkest = 180, shadowStep = 6;
@@ -36,12 +37,6 @@ void TakeTicks(const TextStyle& style, FontProperties& font) {
     font.FontBold = style.bold;
     font.FontItalic = style.italic;
     font.FontUnderline = style.underline;
-}
-
-void PrintAt(Surface& target, float x, float y, std::string_view text) {
-    target.CurrentX = x;
-    target.CurrentY = y;
-    target.Print(text);
 }
 
 /// Dropped in turning: paper, and with it all that has a channel at its full.
@@ -66,21 +61,21 @@ bool DrawStyledText(Surface& target, float x, int y, std::string_view text, cons
     if (!style.size) return false;
     target.FontSize = *style.size;
     TakeTicks(style, target);
-    const auto top = static_cast<float>(y);
+    const double left = x, top = y;
     if (style.shadow) {
         for (int i = shadowDepth; i >= 1; --i) {
             const int gray = shadowDarkest + shadowStep * i;
             target.ForeColor = RGB(gray, gray, gray);
-            PrintAt(target, x + static_cast<float>(i), top + static_cast<float>(i), text);
+            PrintAt(target, left + i, top + i, text);
         }
     }
     target.ForeColor = black;
     if (style.open) {
         for (const LetterOffset& offset : letterOutline)
-            PrintAt(target, x + static_cast<float>(offset.x), top + static_cast<float>(offset.y), text);
+            PrintAt(target, left + offset.x, top + offset.y, text);
         target.ForeColor = white;
     }
-    PrintAt(target, x, top, text);
+    PrintAt(target, left, top, text);
     return true;
 }
 
@@ -155,9 +150,10 @@ void TextTool::Place(GesturePoint pointer) {
     if (main.VertCheck.Value()) {
         PlaceTurned(pointer);
     } else {
-        const auto left = static_cast<float>(pointer.x - main.TextLabel.Width() - textDistance);
-        const int top = RoundHalfEven(pointer.y - main.TextLabel.Height() - textDistance);
-        if (!DrawStyledText(main.Pic.surface, left, top, main.Text1.Text(), StyleOnPanel(main))) return;
+        const TextCorner corner = CornerOfHangingText(main.TextLabel, pointer);
+        if (!DrawStyledText(main.Pic.surface, static_cast<float>(corner.left), RoundHalfEven(corner.top),
+                            main.Text1.Text(), StyleOnPanel(main)))
+            return;
     }
     main.TextLabel.Visible = false;
     context_.session.TextPlacing = false;

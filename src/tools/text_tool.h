@@ -33,8 +33,8 @@ class TextTool {
 public:
     explicit TextTool(Context& context);
 
-    /// Burns the text that hangs on the pointer into the canvas. While the size on the panel is no number
-    /// the text stays on the pointer.
+    /// Burns the text that hangs on the pointer into the canvas. While the size on the panel is no number a
+    /// level text stays on the pointer; a vertical one has its size from before and doesn't.
     void Place(GesturePoint pointer);
 
 private:
