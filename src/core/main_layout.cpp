@@ -3,7 +3,9 @@
 #include "controls/house_colours.h"
 #include "core/main_form.h"
 #include "core/side_panel.h"
+#include "core/slider_groups.h"
 #include "core/stock_pictures.h"
+#include "core/tool_codes.h"
 #include "core/tool_sliders.h"
 
 #include <array>
@@ -159,7 +161,7 @@ struct ToolButton {
     std::string_view caption, toolTip;
     float points = 7.5F;
 };
-constexpr std::array<ToolButton, 16> toolButtons{{
+constexpr std::array<ToolButton, toolButtonCount> toolButtons{{
     {"Draw", " Draw freehand "},
     {"Line", " Draw lines "},
     {"Shapes", " Draw rectangles, circles, triangles etc. "},
@@ -183,31 +185,44 @@ constexpr int buttonsInAColumn = 7;
 constexpr std::array<double, 2> columnWidths{1050, 1170};
 constexpr int toolIconFrames = 3;
 
-struct Slider {
-    ScrollBar MainForm::*bar;
-    Label MainForm::*panel;  ///< What shows that the slider belongs to one tool; none for the pen's.
-    Label MainForm::*caption;
+struct SliderLook {
+    const SliderGroup& group;
     SliderRange range;
     int largeChange;
     int top;  ///< Of the caption, in pixels.
-    std::string (*text)(int value);
 };
 constexpr SliderRange canvasPlaces{canvasLeft, canvasLeft + canvasTwips, canvasLeft};
-std::string MoveCaption(int /*value*/) {
-    return "Move Coinlet";
-}
 constexpr int toolSliderTop = 372, aboutSliderTop = 452;
-constexpr std::array<Slider, 5> sliders{{
-    {&MainForm::HScroll1, nullptr, &MainForm::Label7, lineWidths, 1, 324, LineWidthCaption},
-    {&MainForm::HScroll2, &MainForm::Label9, &MainForm::Label10, cornerSizes, 10, toolSliderTop,
-     CornerCaption},
-    {&MainForm::HScroll3, &MainForm::Label11, &MainForm::Label12, eraserSizes, 5, toolSliderTop,
-     EraserCaption},
-    {&MainForm::HScroll4, &MainForm::Label20, &MainForm::Label21, rasterSteps, 10, toolSliderTop,
-     RasterCaption},
-    {&MainForm::HScroll5, &MainForm::Label5, &MainForm::Label22, canvasPlaces, 750, aboutSliderTop,
-     MoveCaption},
-}};
+constexpr std::array sliderLooks{
+    SliderLook{penSlider, lineWidths, 1, 324},
+    SliderLook{cornerSlider, cornerSizes, 10, toolSliderTop},
+    SliderLook{eraserSlider, eraserSizes, 5, toolSliderTop},
+    SliderLook{rasterSlider, rasterSteps, 10, toolSliderTop},
+    SliderLook{canvasSlider, canvasPlaces, 750, aboutSliderTop},
+};
+
+void LayOutSlider(MainForm& main, const SliderLook& look) {
+    const SliderGroup& group = look.group;
+    ScrollBar& bar = main.*group.bar;
+    Label& caption = main.*group.caption;
+    bar.SetRange(look.range.minimum, look.range.maximum);
+    bar.SetValue(look.range.standard);
+    bar.LargeChange = look.largeChange;
+    caption.Caption = group.text(look.range.standard);
+    const bool framed = group.panel != nullptr;
+    const int left = framed ? 16 : 10, width = framed ? 138 : 150;
+    Place(caption, left, look.top, width, 14);
+    Place(bar, left, look.top + 18, width, 16);
+    if (!framed) return;
+    Label& panel = main.*group.panel;
+    Place(panel, 10, look.top - 6, 150, group.tick != nullptr ? 70 : 48);
+    panel.Transparent = false;
+    panel.BackColor = sliderPanelColour;
+    if (group.tick == nullptr) return;
+    CheckBox& tick = main.*group.tick;
+    Place(tick, left, look.top + 40, width, 18);
+    tick.BackColor = sliderPanelColour;
+}
 
 void LayOutTools(MainForm& main) {
     Place(main.Frame5, 928, 32, 166, 36);
@@ -246,30 +261,11 @@ void LayOutTools(MainForm& main) {
     Place(main.ColorLabel, 10, 292, 150, 24);
     main.ColorLabel.LetKeysPress();
 
-    for (const Slider& slider : sliders) {
-        ScrollBar& bar = main.*slider.bar;
-        Label& caption = main.*slider.caption;
-        bar.SetRange(slider.range.minimum, slider.range.maximum);
-        bar.SetValue(slider.range.standard);
-        bar.LargeChange = slider.largeChange;
-        caption.Caption = slider.text(slider.range.standard);
-        const bool framed = slider.panel != nullptr;
-        const int left = framed ? 16 : 10, width = framed ? 138 : 150;
-        Place(caption, left, slider.top, width, 14);
-        Place(bar, left, slider.top + 18, width, 16);
-        if (!framed) continue;
-        Label& panel = main.*slider.panel;
-        const bool eraser = slider.bar == &MainForm::HScroll3;
-        Place(panel, 10, slider.top - 6, 150, eraser ? 70 : 48);
-        panel.Transparent = false;
-        panel.BackColor = sliderPanelColour;
-        for (Control* part : std::initializer_list<Control*>{&panel, &caption, &bar})
-            part->Visible = false;
-    }
+    for (const SliderLook& look : sliderLooks)
+        LayOutSlider(main, look);
+    for (const SliderGroup* group : slidersOfTools)
+        ShowSlider(main, *group, false);
     main.Check1.Caption = "Erase in Fillcolor";
-    main.Check1.BackColor = sliderPanelColour;
-    Place(main.Check1, 16, toolSliderTop + 40, 138, 18);
-    main.Check1.Visible = false;
 }
 
 void LayOutTextPanel(MainForm& main) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 namespace coinlet {
 
 /// What a slider ranges over, and where it stands when the program starts.
@@ -14,11 +12,5 @@ constexpr SliderRange lineWidths{1, 9, 2};
 constexpr SliderRange cornerSizes{10, 100, 30};
 constexpr SliderRange eraserSizes{10, 50, 20};
 constexpr SliderRange rasterSteps{5, 100, 10};
-
-// What stands over the sliders while they are at that value.
-std::string LineWidthCaption(int value);
-std::string CornerCaption(int value);
-std::string EraserCaption(int value);
-std::string RasterCaption(int value);
 
 }  // namespace coinlet

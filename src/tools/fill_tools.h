@@ -9,8 +9,8 @@ ToolFamily FillTool(Context& context);
 /// Dabs a disc up and to the left of the pointer, at the press and at each move: white, or in the fill colour
 /// if the user ticked that.
 ToolFamily EraseTool(Context& context);
-/// Stores the colour under a press as the colour of the present pick. What the field shows meanwhile is the
-/// gesture engine's.
+/// Shows the colour under the pointer in the colour field all the time, and stores it at a press as the
+/// colour of the present pick.
 ToolFamily PickTool(Context& context);
 
 }  // namespace coinlet

@@ -5,7 +5,7 @@
 namespace coinlet {
 
 /// Punches a hole at the release: a white disc with a ring of the design's metal. One press of the tool's
-/// button is good for one hole. The marker that follows the pointer is the gesture engine's.
+/// button is good for one hole. A circle on the pointer shows where it would come.
 ToolFamily HoleTool(Context& context);
 
 }  // namespace coinlet

@@ -4,12 +4,14 @@
 #include "core/language.h"
 #include "core/main_form.h"
 #include "core/main_layout.h"
+#include "core/slider_groups.h"
 #include "core/text_keys.h"
 #include "core/tool_codes.h"
 #include "core/tool_keys.h"
-#include "core/tool_sliders.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace coinlet {
@@ -21,11 +23,8 @@ struct ToolRow {
     void (*further)(Context&) = nullptr;
 };
 
-void ShowEraserControls(Context& context) {
-    MainForm& main = context.main;
-    for (Control* control :
-         std::initializer_list<Control*>{&main.Label11, &main.HScroll3, &main.Label12, &main.Check1})
-        control->Visible = true;
+void ShowEraserSlider(Context& context) {
+    ShowSlider(context.main, eraserSlider, true);
 }
 
 void ShowTextPanel(Context& context) {
@@ -44,10 +43,8 @@ void ArmPick(Context& context) {
     main.Pic.MousePointer = crossPointer;
 }
 
-void ShowAboutSlider(Context& context) {
-    MainForm& main = context.main;
-    for (Control* control : std::initializer_list<Control*>{&main.Label5, &main.HScroll5, &main.Label22})
-        control->Visible = true;
+void ShowCanvasSlider(Context& context) {
+    ShowSlider(context.main, canvasSlider, true);
 }
 
 void PopUpShapes(Context& context) {
@@ -57,14 +54,14 @@ void PopUpFlips(Context& context) {
     context.services.platform.PopupMenu(context.main.FlipImage);
 }
 
-constexpr std::array<ToolRow, ToolStrip::toolButtons> toolRows{{
+constexpr std::array<ToolRow, toolButtonCount> toolRows{{
     {key::drawFreeHand},
     {key::drawLine},
     {"", PopUpShapes},
     {key::designPolygon},
     {key::designArc},
     {key::fill},
-    {key::erase, ShowEraserControls},
+    {key::erase, ShowEraserSlider},
     {key::writeCurvedText},
     {key::writeText, ShowTextPanel},
     {key::pickColour, ArmPick},
@@ -73,11 +70,12 @@ constexpr std::array<ToolRow, ToolStrip::toolButtons> toolRows{{
     {key::copyArea},
     {key::flipOrTurn, PopUpFlips},
     {key::makeHole},
-    {key::readAbout, ShowAboutSlider},
+    {key::readAbout, ShowCanvasSlider},
 }};
 
-/// "Tree" isn't among the entries that a choice unchecks: once chosen it keeps its check mark.
-constexpr int lastUncheckedShape = 15;
+/// The last shape, "Tree", isn't among the entries that a choice unchecks: once chosen it keeps its check
+/// mark.
+constexpr int lastUncheckedShape = shapeCount - 1;
 
 }  // namespace
 
@@ -116,28 +114,21 @@ void ToolStrip::MarkTool() {
 void ToolStrip::BindSliders() {
     MainForm& main = context_.main;
     Session& session = context_.session;
-    // The slider's value has the range of the session's field, so the conversions lose nothing.
-    const auto bind = [](ScrollBar& bar, auto handler) {
-        bar.Change = handler;
-        bar.Scroll = handler;
+    const auto bind = [&main](const SliderGroup& group, auto take) {
+        const auto moved = [&main, &group, take] {
+            const int value = (main.*group.bar).Value();
+            (main.*group.caption).Caption = group.text(value);
+            take(value);
+        };
+        (main.*group.bar).Change = moved;
+        (main.*group.bar).Scroll = moved;
     };
-    bind(main.HScroll1, [&] {
-        session.LineWidth = static_cast<std::uint8_t>(main.HScroll1.Value());
-        main.Label7.Caption = LineWidthCaption(main.HScroll1.Value());
-    });
-    bind(main.HScroll2, [&] {
-        session.CornerSize = main.HScroll2.Value();
-        main.Label10.Caption = CornerCaption(main.HScroll2.Value());
-    });
-    bind(main.HScroll3, [&] {
-        session.EraserSize = static_cast<std::uint8_t>(main.HScroll3.Value());
-        main.Label12.Caption = EraserCaption(main.HScroll3.Value());
-    });
-    bind(main.HScroll4, [&] {
-        session.RasterStep = static_cast<std::int16_t>(main.HScroll4.Value());
-        main.Label21.Caption = RasterCaption(main.HScroll4.Value());
-    });
-    bind(main.HScroll5, [this] { HScroll5_Change(); });
+    // The slider's value has the range of the session's field, so the conversions lose nothing.
+    bind(penSlider, [&session](int value) { session.LineWidth = static_cast<std::uint8_t>(value); });
+    bind(cornerSlider, [&session](int value) { session.CornerSize = value; });
+    bind(eraserSlider, [&session](int value) { session.EraserSize = static_cast<std::uint8_t>(value); });
+    bind(rasterSlider, [&session](int value) { session.RasterStep = static_cast<std::int16_t>(value); });
+    bind(canvasSlider, [this](int /*value*/) { HScroll5_Change(); });
 }
 
 void ToolStrip::Knop_Click(int index) {
@@ -146,15 +137,13 @@ void ToolStrip::Knop_Click(int index) {
     session.TextPlacing = false;
     session.ToolCode = index;
     main.Pic.MousePointer = toolPointer;
-    for (Control* control : std::initializer_list<Control*>{
-             &main.Label16, &main.Label9, &main.HScroll2, &main.Label10, &main.Label11, &main.HScroll3,
-             &main.Label12, &main.Check1, &main.Label20, &main.HScroll4, &main.Label21, &main.HoleShape,
-             &main.Label5, &main.HScroll5})
-        control->Visible = false;
+    main.Label16.Visible = false;
+    main.HoleShape.Visible = false;
+    for (const SliderGroup* group : slidersOfTools)
+        ShowSlider(main, *group, false);
     main.HScroll5.SetValue(canvasLeft);
     main.Pic.SetLeft(canvasLeft);
     main.Pic.SetWidth(canvasTwips);
-    main.Label22.Visible = false;
 
     const auto place = static_cast<std::size_t>(index);
     const ToolRow& row = toolRows.at(place);
@@ -169,18 +158,10 @@ void ToolStrip::Vormen_Click(int index) {
     for (int i = main.Vormen.First(); i <= lastUncheckedShape; ++i)
         main.Vormen[i].Checked = false;
     main.Vormen[index].Checked = true;
-    const std::initializer_list<Control*> rasterControls{&main.Label20, &main.Label21, &main.HScroll4};
-    for (Control* control : rasterControls)
-        control->Visible = false;
+    ShowSlider(main, rasterSlider, false);
     ShowHint(context_, key::drawShape);
-    if (context_.session.ToolCode == roundedRectangleShape) {
-        for (Control* control : std::initializer_list<Control*>{&main.Label9, &main.HScroll2, &main.Label10})
-            control->Visible = true;
-    }
-    if (context_.session.ToolCode == rasterShape) {
-        for (Control* control : rasterControls)
-            control->Visible = true;
-    }
+    if (context_.session.ToolCode == roundedRectangleShape) ShowSlider(main, cornerSlider, true);
+    if (context_.session.ToolCode == rasterShape) ShowSlider(main, rasterSlider, true);
 }
 
 void ToolStrip::ColorLabel_MouseDown() {

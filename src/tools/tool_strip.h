@@ -4,7 +4,6 @@
 #include "core/tool_codes.h"
 
 #include <array>
-#include <cstddef>
 
 namespace coinlet {
 
@@ -15,16 +14,14 @@ class ToolStrip {
 public:
     explicit ToolStrip(Context& context);
 
-    static constexpr std::size_t toolButtons = lastToolButton + 1;
-
     /// The dialogs of the tools that have one, by the tools' buttons, and the chooser of the fill colour;
     /// they come when all else is done that belongs to the press.
-    std::array<Event<>, toolButtons> openDialog;
+    std::array<Event<>, toolButtonCount> openDialog;
     Event<> openColourChooser;
 
     /// Chooses the tool of a key, as a click on its button does, if that can be clicked. The canvas gets the
-    /// focus, so that who chooses by keys draws by keys. False for keys of no tool, and while the pointer is
-    /// held down.
+    /// focus, so that who chooses by keys draws by keys. False for keys of no tool, with Shift, Ctrl or Alt
+    /// held, and while the pointer is held down.
     bool TakesKey(int code, int shift);
 
 private:
