@@ -3,6 +3,7 @@
 #include "app/dialogs.h"
 #include "app/named_document.h"
 #include "app/start_up.h"
+#include "core/canvas_work.h"
 #include "core/help_menu.h"
 #include "core/main_form.h"
 #include "core/main_life.h"
@@ -71,6 +72,7 @@ struct Application::House {
     PlaatjesForm plaatjes;
     Context context;
     Recovery recovery{context, services.recoveryFolder};
+    CanvasWork canvasWork;
     FilterCore filterCore{context};
     // Each binds itself to the controls that it serves.
     MainLife life{context};
@@ -80,11 +82,11 @@ struct Application::House {
     TextTool text{context};
     ImageBrowser browser{context};
     GestureEngine gestures{context};
-    FloatingClip clip{context};
-    IncomingPictures incoming{context};
-    FlipMenu flips{context};
+    FloatingClip clip{context, canvasWork};
+    IncomingPictures incoming{context, canvasWork};
+    FlipMenu flips{context, canvasWork};
     SidePanelRows panelRows{context};
-    FilterMenu filters{context, filterCore};
+    FilterMenu filters{context, canvasWork, filterCore};
 };
 
 Application::Application(const Services& services) : house_(std::make_unique<House>(services)) {}

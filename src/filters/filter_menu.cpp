@@ -1,5 +1,6 @@
 #include "filters/filter_menu.h"
 
+#include "core/canvas_work.h"
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/progress_bar.h"
@@ -88,7 +89,8 @@ void CaptionEntries(MainForm& main) {
 
 }  // namespace
 
-FilterMenu::FilterMenu(Context& context, FilterCore& core) : context_(context), core_(core) {
+FilterMenu::FilterMenu(Context& context, CanvasWork& work, FilterCore& core)
+    : context_(context), work_(work), core_(core) {
     MainForm& main = context.main;
     CaptionEntries(main);
     main.Filter.Bind(&MenuItem::Click, [this](int index) { Filter_Click(index); });
@@ -123,6 +125,7 @@ void FilterMenu::RunEntry(FilterMenuPart part, int index) {
 }
 
 void FilterMenu::ChangeCanvas(const std::function<void()>& change) {
+    const CanvasWork::Piece piece(work_);
     Surface& canvas = context_.main.Pic.surface;
     KeepForUndo(context_.main);
     const ProgressShown shown(context_);

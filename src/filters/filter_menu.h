@@ -7,13 +7,14 @@
 
 namespace coinlet {
 
+class CanvasWork;
 class FilterCore;
 struct Context;
 
 /// The Filters menu with its two sub-menus: each entry changes the whole canvas, under one step of undo.
 class FilterMenu {
 public:
-    FilterMenu(Context& context, FilterCore& core);
+    FilterMenu(Context& context, CanvasWork& work, FilterCore& core);
 
 private:
     void Filter_Click(int index);
@@ -28,6 +29,7 @@ private:
     void RunFilter(const NumberedFilter& filter, std::int32_t parameter);
 
     Context& context_;
+    CanvasWork& work_;
     FilterCore& core_;
 };
 

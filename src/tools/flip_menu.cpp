@@ -1,6 +1,7 @@
 #include "tools/flip_menu.h"
 
 #include "base/numbers.h"
+#include "core/canvas_work.h"
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/progress_bar.h"
@@ -76,11 +77,12 @@ void RotatePicture(Context& context, const Surface& source, Surface& target, flo
     }
 }
 
-FlipMenu::FlipMenu(Context& context) : context_(context) {
+FlipMenu::FlipMenu(Context& context, CanvasWork& work) : context_(context), work_(work) {
     context.main.FlipPic.Bind(&MenuItem::Click, [this](int index) { FlipPic_Click(index); });
 }
 
 void FlipMenu::FlipPic_Click(int index) {
+    const CanvasWork::Piece piece(work_);
     MainForm& main = context_.main;
     KeepForUndo(main);
     const ProgressShown shown(context_, ImagesButton::Disabled);

@@ -2,6 +2,7 @@
 
 namespace coinlet {
 
+class CanvasWork;
 class Surface;
 struct Context;
 
@@ -14,12 +15,13 @@ void RotatePicture(Context& context, const Surface& source, Surface& target, flo
 /// The menu of flips and turns of the whole canvas, each under one step of undo.
 class FlipMenu {
 public:
-    explicit FlipMenu(Context& context);
+    FlipMenu(Context& context, CanvasWork& work);
 
 private:
     void FlipPic_Click(int index);
 
     Context& context_;
+    CanvasWork& work_;
 };
 
 }  // namespace coinlet

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "controls/arrow_keys.h"
 #include "controls/hourglass.h"
+#include "core/canvas_work.h"
 #include "core/context.h"
 #include "core/floating_image.h"
 #include "core/language.h"
@@ -44,7 +45,7 @@ void PasteWhole(MainForm& main, RasterOp op) {
 
 }  // namespace
 
-FloatingClip::FloatingClip(Context& context) : context_(context) {
+FloatingClip::FloatingClip(Context& context, CanvasWork& work) : context_(context), work_(work) {
     MainForm& main = context.main;
     main.ClipPic.MouseDown = [this](int, int, float x, float y) { ClipPic_MouseDown(x, y); };
     main.ClipPic.MouseMove = [this](int button, int, float x, float y) { ClipPic_MouseMove(button, x, y); };
@@ -94,6 +95,7 @@ void FloatingClip::HoekKnop_Click() {
 }
 
 void FloatingClip::Paste_Click(int index) {
+    const CanvasWork::Piece piece(work_);
     MainForm& main = context_.main;
     KeepForUndo(main);
     if (index == pasteNormal) PasteWhole(main, SRCCOPY);

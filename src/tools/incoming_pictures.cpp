@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/hourglass.h"
+#include "core/canvas_work.h"
 #include "core/context.h"
 #include "core/floating_image.h"
 #include "core/language.h"
@@ -42,7 +43,8 @@ Image FittedToCanvas(const Image& picture, const FontEngine& fonts) {
 
 }  // namespace
 
-IncomingPictures::IncomingPictures(Context& context) : context_(context) {
+IncomingPictures::IncomingPictures(Context& context, const CanvasWork& work)
+    : context_(context), work_(work) {
     context.main.Dropped = [this](const Offer& offer) { Take(offer); };
 }
 
@@ -54,11 +56,8 @@ bool IncomingPictures::TakesKey(int code, int shift) {
 }
 
 bool IncomingPictures::IsFree() const {
-    const Services& services = context_.services;
     const MainForm& main = context_.main;
-    // Filters, flips and the burning in of an image show the one or the other while they serve events.
-    const bool isBusy = services.platform.Screen.MousePointer == hourglassPointer || main.Bar.Visible;
-    return services.platform.FrontForm() == &main && !isBusy && !main.PointerHeld() &&
+    return context_.services.platform.FrontForm() == &main && !work_.UnderWay() && !main.PointerHeld() &&
            !context_.session.TextPlacing;
 }
 

@@ -6,6 +6,7 @@
 
 namespace coinlet {
 
+class CanvasWork;
 struct Context;
 struct Offer;
 
@@ -16,7 +17,7 @@ struct Offer;
 /// the pointer is held, or a text hangs on the pointer.
 class IncomingPictures {
 public:
-    explicit IncomingPictures(Context& context);
+    IncomingPictures(Context& context, const CanvasWork& work);
 
     /// Ctrl+V; false for other keys.
     bool TakesKey(int code, int shift);
@@ -28,6 +29,7 @@ private:
     bool IsFree() const;
 
     Context& context_;
+    const CanvasWork& work_;
 };
 
 }  // namespace coinlet

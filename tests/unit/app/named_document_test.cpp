@@ -2,6 +2,7 @@
 
 #include "app/named_document.h"
 
+#include "core/canvas_work.h"
 #include "core/language.h"
 #include "support/world.h"
 #include "surface/codecs.h"
@@ -30,7 +31,8 @@ protected:
     }
 
     test::World world;
-    IncomingPictures pictures{world.context};
+    CanvasWork canvasWork;
+    IncomingPictures pictures{world.context, canvasWork};
 };
 
 TEST_F(NamedDocumentTest, DesignIsShownUnderItsNameAndNothingIsUnsaved) {
