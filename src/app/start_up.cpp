@@ -31,11 +31,10 @@ void RemoveFilesOfKilledPrograms(Context& context) {
         RemoveStrays(each);
 }
 
-void ListStockImages(Context& context) {
+void FillImageBrowser(Context& context) {
     context.main.Label2.Caption = fileNameCaption;
-    context.session.ImageFolder = Beneath(context.services.applicationFolder, "\\Images").string();
+    ListStockImages(context);
     context.main.Pic2.surface.SetPicture({});
-    ListImages(context, "*.bmp;*.jpg;*.gif");
     ShowImageCount(context);
 }
 
@@ -84,7 +83,7 @@ void StartLanguage(Context& context) {
 // The form is laid out when it is made, and the session has its defaults; these steps do the rest.
 constexpr void (*steps[])(Context&) = {
     RemoveFilesOfKilledPrograms,
-    ListStockImages,
+    FillImageBrowser,
     PrepareCanvas,
     PreparePanel,
     ShowStartPicture,

@@ -61,7 +61,7 @@ void LayOutBrowser(MainForm& main) {
     main.List1.BackColor = fileListColour;
     main.File1.Visible = false;
     Place(main.Label8, 9, 332, 178, 16);
-    main.Pic2.Move(135, 5355, 2625, 2625);
+    main.Pic2.Move(135, 5355, Twips(previewSide), Twips(previewSide));
 
     Place(main.Frame3, 4, 584, 196, 80);
     Place(main.HorKnop, 9, 10, 58, 28);

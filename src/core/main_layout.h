@@ -7,6 +7,9 @@ namespace coinlet {
 /// Where the canvas lies on its board while it isn't slid aside, and the length of its sides, in twips.
 constexpr int canvasLeft = 495, canvasTop = 570, canvasTwips = static_cast<int>(canvasSide * twipsPerPixel);
 
+/// The sides of the image browser's preview, in pixels: no picture shows larger.
+constexpr int previewSide = 175;
+
 /// Places every control of the main form and gives it its looks. Places that other rules speak of are twips;
 /// the rest stands on a grid of 4 pixels.
 void LayOutMain(MainForm& main);

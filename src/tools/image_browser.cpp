@@ -8,22 +8,26 @@
 #include "core/floating_image.h"
 #include "core/folder_picker.h"
 #include "core/main_form.h"
+#include "core/main_layout.h"
 #include "core/plaatjes.h"
 #include "surface/codecs.h"
 #include "surface/device.h"
 #include "surface/mirror.h"
 
 #include <string>
+#include <string_view>
 
 namespace coinlet {
 
 namespace {
 
-constexpr int previewSide = 175;  // pixels
-constexpr double previewSideInTwips = 2625;
+constexpr std::string_view stockPattern = "*.bmp;*.jpg;*.gif", anyFoldersPattern = "*.jpg;*.gif;*.bmp";
 
-}  // namespace
+fs::path StockFolder(const Context& context) {
+    return Beneath(context.services.applicationFolder, "\\Images");
+}
 
+/// Fills the list with the pictures of the session's image folder that match `pattern`.
 void ListImages(Context& context, std::string_view pattern) {
     MainForm& main = context.main;
     main.File1.SetPath(context.session.ImageFolder);
@@ -31,6 +35,13 @@ void ListImages(Context& context, std::string_view pattern) {
     main.List1.Clear();
     for (int i = 0; i < main.File1.ListCount(); ++i)
         main.List1.AddItem(main.File1.List(i));
+}
+
+}  // namespace
+
+void ListStockImages(Context& context) {
+    context.session.ImageFolder = StockFolder(context).string();
+    ListImages(context, stockPattern);
 }
 
 void ShowImageCount(Context& context) {
@@ -61,15 +72,16 @@ void ImageBrowser::List1_Click() {
 }
 
 void ImageBrowser::ImgKnop_Click() {
-    context_.session.ImageFolder = (context_.services.applicationFolder / "Images" / "").string();
-    ListImages(context_, "*.bmp;*.jpg;*.gif");
+    // The path ends in a separator, and the files open all the same.
+    context_.session.ImageFolder = (StockFolder(context_) / "").string();
+    ListImages(context_, stockPattern);
     context_.main.Pic2.surface.SetPicture(context_.plaatjes.Img[0].Picture);
 }
 
 void ImageBrowser::MapKnop_Click() {
     const std::string folder = BrowseForFolder(context_, context_.session.ImageFolder);
     if (!TrimBlanks(folder).empty()) context_.session.ImageFolder = folder;
-    ListImages(context_, "*.jpg;*.gif;*.bmp");
+    ListImages(context_, anyFoldersPattern);
     context_.main.Pic2.surface.SetPicture({});
     ShowImageCount(context_);
 }
@@ -83,8 +95,9 @@ void ImageBrowser::ShowPicked() {
     MainForm& main = context_.main;
     const Surface& picked = main.IconPic.surface;
     if (IsLarge()) {
-        main.Pic2.SetWidth(previewSideInTwips);
-        main.Pic2.SetHeight(previewSideInTwips);
+        constexpr double twips = previewSide * twipsPerPixel;
+        main.Pic2.SetWidth(twips);
+        main.Pic2.SetHeight(twips);
         main.Pic2.surface.PaintPicture(picked.Image(), {0, 0, previewSide, previewSide},
                                        {0, 0, picked.ScaleWidth(), picked.ScaleHeight()});
     } else {
@@ -94,13 +107,15 @@ void ImageBrowser::ShowPicked() {
 }
 
 void ImageBrowser::HorKnop_Click() {
-    FlipHorizontal(context_.main.IconPic.surface);
-    ShowPicked();
-    if (IsLarge()) context_.services.platform.Screen.MousePointer = toolPointer;
+    Mirror(FlipHorizontal);
 }
 
 void ImageBrowser::VerKnop_Click() {
-    FlipVertical(context_.main.IconPic.surface);
+    Mirror(FlipVertical);
+}
+
+void ImageBrowser::Mirror(void (&flip)(Surface& picture)) {
+    flip(context_.main.IconPic.surface);
     ShowPicked();
     if (IsLarge()) context_.services.platform.Screen.MousePointer = toolPointer;
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <string_view>
-
 namespace coinlet {
 
+class Surface;
 struct Context;
 
-/// Fills the list of the image browser with the pictures of the session's image folder that match `pattern`.
-void ListImages(Context& context, std::string_view pattern);
+/// Lists the pictures that come with the program: their folder becomes the session's image folder.
+void ListStockImages(Context& context);
 /// Shows how many there are.
 void ShowImageCount(Context& context);
 
@@ -26,6 +25,8 @@ private:
     void RotatieKnop_Click();
     void OkKnop_Click();
 
+    /// Mirrors the picked picture and shows it.
+    void Mirror(void (&flip)(Surface& picture));
     /// Shows the picked picture in the preview; one that doesn't fit is squeezed and can't be turned.
     void ShowPicked();
     bool IsLarge() const;
