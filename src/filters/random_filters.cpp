@@ -86,8 +86,7 @@ public:
     }
 
 private:
-    /// Not pulled into work for wide units, for the reason given at RowByRule.
-    [[gnu::noinline]] int ByRule() { return RoundWhole(run_.random.Next() * reach_ - half_); }
+    int ByRule() { return RoundWhole(run_.random.Next() * reach_ - half_); }
 
     FilterRun& run_;
     std::int32_t reach_;
@@ -96,11 +95,9 @@ private:
     std::vector<std::int16_t> dice_;
 };
 
-/// Adds noise to a row of so many bytes, one channel after the other. A function of its own, which isn't
-/// pulled into work for wide units: they could round a product and its difference in one step, and so
-/// differently.
-[[gnu::noinline]] void RowByRule(RandomGenerator& random, std::int32_t strength, const std::uint8_t* from,
-                                 std::uint8_t* to, int end) {
+/// Adds noise to a row of so many bytes, one channel after the other.
+void RowByRule(RandomGenerator& random, std::int32_t strength, const std::uint8_t* from, std::uint8_t* to,
+               int end) {
     const double range = 2.0 * strength + 1;
     for (int i = 0; i < end; i += pixelBytes) {
         for (int j = i; j < i + colourChannels; ++j)
