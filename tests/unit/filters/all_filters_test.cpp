@@ -282,21 +282,73 @@ TEST_P(EveryFilter, TakesAPictureOfNoPixels) {
         EXPECT_EQ(test::Filtered(GetParam(), 3, Picture(size.width, size.height)).H, size.height);
 }
 
-TEST_P(EveryFilter, TellsItsProgressUpwardAndTheRowsWithTheHeightLessOne) {
-    constexpr int height = 40;
-    test::NotedPace pace;
-    RandomGenerator random;
+/// What a filter tells of its progress on a picture of that height, by what it walks.
+test::NotedPace ToldOf(int number, int height) {
+    test::NotedPace told;
+    /// Rows from 1 on, both included, which take the progress from one percentage to another.
+    const auto walk = [&told, height](int first, int last, int from = 0, int to = 100) {
+        for (int row = first; row <= last; ++row) {
+            told.Reached(from + row * (to - from) / height);
+            told.RowShown(row, height - 1);
+        }
+    };
+    switch (number) {
+        case 1:   // Sharpen
+        case 3:   // Blur
+        case 5:   // Smooth
+        case 6:   // Edge
+        case 7:   // Contour
+        case 9:   // GradientBack
+        case 11:  // GradientForward
+        case 13:  // Relief
+        case 25:  // Dilate
+        case 26:  // Erode
+        case 27:  // Connection
+            walk(2, height - 1);
+            break;
+        case 8:   // DiagonalBack
+        case 10:  // DiagonalForward
+            walk(1, height - 1);
+            break;
+        case 24:  // Aquarel
+            walk(3, height - 2);
+            break;
+        case 17:  // Contrast
+        case 19:  // SharpDither
+            told.Reached(5);
+            walk(1, height, 5);
+            break;
+        case 21:  // FloydDither
+        case 22:  // BurkesDither
+        case 23:  // StuckiDither
+            told.Reached(number == 21 ? 2 : 3);
+            told.Reached(10);
+            walk(1, height, 10);
+            break;
+        case 28:  // Stretch
+            walk(1, height, 0, 10);
+            told.Reached(10);
+            walk(1, height, 10);
+            break;
+        default:
+            walk(1, height);
+    }
+    return told;
+}
+
+TEST_P(EveryFilter, TellsEveryRowThatItWalks) {
     std::mt19937 paint(7);
-    test::Filtered(GetParam(), 10, Painted(Kind::Noise, {9, height}, paint), random, pace);
-    ASSERT_FALSE(pace.percents.empty());
-    EXPECT_TRUE(std::ranges::is_sorted(pace.percents));
-    EXPECT_GE(pace.percents.front(), 0);
-    EXPECT_LE(pace.percents.back(), 100);
-    ASSERT_FALSE(pace.rows.empty());
-    for (const auto& [row, last] : pace.rows)
-        EXPECT_EQ(last, height - 1);
-    // No filter leaves more than two rows at the bottom.
-    EXPECT_GE(pace.rows.back().first, height - 2);
+    for (const int height : {1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 40, 41}) {
+        const test::NotedPace expected = ToldOf(GetParam(), height);
+        // Great parameters take other ways to the same walk.
+        for (const std::int32_t parameter : {10, 1000, 100'000}) {
+            test::NotedPace pace;
+            RandomGenerator random;
+            test::Filtered(GetParam(), parameter, Painted(Kind::Noise, {9, height}, paint), random, pace);
+            EXPECT_EQ(pace.rows, expected.rows) << height << ", parameter " << parameter;
+            EXPECT_EQ(pace.percents, expected.percents) << height << ", parameter " << parameter;
+        }
+    }
 }
 
 TEST(FilterNumbers, RunFrom1To31) {

@@ -2,7 +2,9 @@
 
 #include "filtered.h"
 
+#include <cstddef>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -76,9 +78,29 @@ TEST(Contrast, SharesWhatAChannelCantHold) {
 }
 
 TEST(Contrast, SpreadsByHalvesAsTheSlowRuleDoes) {
+    const auto row = [](const std::vector<test::Trio>& colours) {
+        Picture picture(static_cast<int>(colours.size()), 1);
+        for (int x = 1; x <= picture.W; ++x) {
+            const auto& [blue, green, red] = colours[static_cast<std::size_t>(x - 1)];
+            picture(1, x, 1) = static_cast<int>(blue);
+            picture(2, x, 1) = static_cast<int>(green);
+            picture(3, x, 1) = static_cast<int>(red);
+        }
+        return picture;
+    };
+    // The mean gray is (154 + 96) / 2 = 125, and 1.4 (v - 125) + 125 makes 300 of 250, whose 45 beyond 255
+    // are shared out as 22 and 22; 107 becomes 99.8, 96 becomes 84.4.
+    EXPECT_EQ(Filtered(contrast, 40, row({{250, 107, 107}, {96, 96, 96}})),
+              row({{255, 122, 122}, {84, 84, 84}}));
+    // The same by a factor that is worked out in another way: (133 + 67) / 2 = 100, 2 v - 100.
+    EXPECT_EQ(Filtered(contrast, 100, row({{200, 100, 100}, {67, 67, 67}})),
+              row({{255, 122, 122}, {34, 34, 34}}));
     EXPECT_EQ(test::SlowSpread({300, 100, 100}), (test::Trio{255, 122, 122}));
-    EXPECT_EQ(test::SlowSpread({-5, 0, -1}), (test::Trio{0, 0, 0}));
-    EXPECT_EQ(test::SlowSpread({255, 256, 400}), (test::Trio{255, 255, 255}));
+    // With a mean of (16 + 235 + 124) / 3 = 125: -50, -8 and -22 become black, 258, 307 and 272 white.
+    EXPECT_EQ(Filtered(contrast, 40, row({{0, 30, 20}, {220, 255, 230}, {124, 124, 124}})),
+              row({{0, 0, 0}, {255, 255, 255}, {124, 124, 124}}));
+    EXPECT_EQ(test::SlowSpread({-50, -8, -22}), (test::Trio{0, 0, 0}));
+    EXPECT_EQ(test::SlowSpread({258, 307, 272}), (test::Trio{255, 255, 255}));
 }
 
 TEST(Contrast, TellsThatTheMeanIsTaken) {

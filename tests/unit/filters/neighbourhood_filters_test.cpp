@@ -14,9 +14,9 @@ using test::Flat;
 using test::NotedPace;
 using test::Picture;
 
-constexpr int sharpen = 1, blur = 3, smooth = 5, edge = 6, contour = 7, diagonalBack = 8, gradientBack = 9,
-              diagonalForward = 10, gradientForward = 11, relief = 13, pixelize = 15, aquarel = 24,
-              dilate = 25, erode = 26, connection = 27;
+constexpr int sharpen = 1, negative = 2, blur = 3, smooth = 5, edge = 6, contour = 7, diagonalBack = 8,
+              gradientBack = 9, diagonalForward = 10, gradientForward = 11, relief = 13, pixelize = 15,
+              aquarel = 24, dilate = 25, erode = 26, connection = 27;
 constexpr int white = 0xFFFFFF;
 
 /// A gray picture from its rows.
@@ -81,8 +81,7 @@ TEST(DivisorsOfZero, LeaveThePicture) {
 }
 
 TEST(Blur, LeavesTheCentreOutAndRunsOnToTheLowerRight) {
-    // The bright one gets 0; its light is passed on by what was written: 80 / 8 = 10 at the right of it,
-    // where the ring holds nothing bright any more but below and left comes what is written later.
+    // The bright one is the first to be written, and becomes 0 before anybody has read it.
     EXPECT_EQ(Filtered(blur, 0, Gray({{0, 0, 0, 0}, {0, 80, 0, 0}, {0, 0, 0, 0}, {0, 0, 0, 0}})),
               Gray({{0, 0, 0, 0}, {0, 0, 0, 0}, {0, 0, 0, 0}, {0, 0, 0, 0}}));
     // Above left of the bright pixel comes first: 10. Right of that: (10 + 80) / 8 = 11; below the first:
@@ -168,13 +167,18 @@ TEST(Aquarel, TakesTheCalmestBlockAndOfEqualsTheFirst) {
                              {0, 90, 50, 50, 50},
                              {90, 0, 50, 50, 50}}))(1, 3, 3),
               50);
-    // All four are flat but for the two colours of their columns: upper left and upper right are as calm as
-    // each other, and the first one wins.
-    EXPECT_EQ(
-        Filtered(aquarel, 0,
-                 Gray({{0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}, {0, 0, 0, 9, 9}}))(
-            1, 3, 3),
-        0);
+    // Of nine values three of 255 have a mean of 85, six one of 170, and both have a spread of 3 * 170 + 6 *
+    // 85 = 1020. The upper left block holds three, the others six; and the other way round.
+    constexpr int W = 255;
+    const Picture threeFirst =
+        Gray({{W, 0, W, W, W}, {0, 0, 0, W, 0}, {W, 0, 0, W, W}, {W, W, W, W, W}, {W, 0, W, 0, 0}});
+    EXPECT_EQ(Filtered(aquarel, 0, threeFirst)(1, 3, 3), 85);
+    EXPECT_EQ(Filtered(aquarel, 0, Filtered(negative, 0, threeFirst))(1, 3, 3), 170);
+    // Upper left and lower right hold four, whose spread is 4 * 142 + 5 * 113 = 1133; the upper right block
+    // holds three and the lower left one, which is looked at after it, six.
+    const Picture threeSecond =
+        Gray({{W, 0, W, W, 0}, {0, 0, 0, 0, 0}, {W, W, 0, W, 0}, {W, W, W, W, 0}, {0, 0, W, 0, 0}});
+    EXPECT_EQ(Filtered(aquarel, 0, threeSecond)(1, 3, 3), 85);
 }
 
 TEST(Aquarel, WalksTheRowsOfNarrowPicturesToo) {

@@ -2,10 +2,13 @@
 
 #include "tools/image_browser.h"
 
+#include "core/language.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>
 #include <new>
+#include <string>
+#include <vector>
 
 namespace coinlet {
 namespace {
@@ -17,6 +20,9 @@ protected:
 
 TEST_F(ImageBrowserTest, ThePickerBeginsInTheFolderInUse) {
     const std::string first = folder / "app", second = folder / "Pictures";
+    fs::create_directories(folder / "app/Data");
+    folder.Write("app/Data/English.txt", "006 Choose a folder with pictures\r\n");
+    LoadLanguage(context, "English");
     session.ImageFolder = first;
     platform.folders = {second, ""};
     main.MapKnop.Click();
@@ -25,6 +31,8 @@ TEST_F(ImageBrowserTest, ThePickerBeginsInTheFolderInUse) {
     main.MapKnop.Click();
     EXPECT_EQ(session.ImageFolder, second);
     EXPECT_EQ(platform.foldersOffered, (std::vector<std::string>{first, second}));
+    // It says what is to be chosen.
+    EXPECT_EQ(platform.prompts, std::vector<std::string>(2, "Choose a folder with pictures"));
 }
 
 /// There is no memory for the picture.
