@@ -20,7 +20,7 @@ protected:
     fs::path Picture(const std::string& name, int width, int height) const {
         Surface surface(world.fonts, width, height);
         surface.Line(0, 0, width - 1, height - 1, red, Box::Filled);
-        const fs::path path = world.folder / name;
+        fs::path path = world.folder / name;
         EXPECT_FALSE(SavePicture(surface.Image(), path));
         return path;
     }
