@@ -1,12 +1,15 @@
 #include "base/files.h"
 
+#include "base/file_reading.h"
 #include "base/system_path.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
+#include <utility>
 
 namespace coinlet {
 
@@ -32,9 +35,9 @@ public:
     }
 
     /// As many of the next `size` bytes as there are, or -1.
-    long Read(void* data, std::size_t size) const {
+    long Read(void* data, std::size_t size, const ReadCall& read) const {
         for (;;) {
-            const long got = ::read(file_, data, size);
+            const long got = read(file_, data, size);
             if (got >= 0 || errno != EINTR) return got;
         }
     }
@@ -43,6 +46,24 @@ private:
     int file_;
 };
 
+/// The first bytes of an open file that has `size` of them: no more than `most`, nor than can be read.
+FileStart ReadUpTo(const OpenFile& file, std::size_t size, std::size_t most, const ReadCall& read) {
+    // The end is where reading says it is: a file may grow meanwhile, and some claim to be empty. One byte
+    // more than the size makes the usual file end in one buffer, and one more than the most tells of others.
+    FileStart start{.bytes = Bytes(std::min(size, most) + 1)};
+    Bytes& bytes = start.bytes;
+    std::size_t filled = 0;
+    while (filled <= most) {
+        if (filled == bytes.size()) bytes.resize(std::min(bytes.size() * 2, most + 1));
+        const long got = file.Read(bytes.data() + filled, bytes.size() - filled, read);
+        start.isWhole = got == 0;
+        if (got <= 0) break;
+        filled += static_cast<std::size_t>(got);
+    }
+    bytes.resize(std::min(filled, most));
+    return start;
+}
+
 }  // namespace
 
 std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit) {
@@ -50,21 +71,24 @@ std::optional<Bytes> ReadFile(const fs::path& path, std::size_t limit) {
     const OpenFile file(path);
     const auto size = file.RegularSize();
     if (!size || *size > limit) return std::nullopt;
+    FileStart start = ReadUpTo(file, *size, limit, ReadBySystem);
+    return start.isWhole ? std::optional(std::move(start.bytes)) : std::nullopt;
+}
 
-    // The end is where reading says it is: a file may grow meanwhile, and some claim to be empty. One byte
-    // more than the size makes the usual file end in one buffer.
-    Bytes bytes(*size + 1);
-    std::size_t filled = 0;
-    for (;;) {
-        const long got = file.Read(bytes.data() + filled, bytes.size() - filled);
-        if (got < 0) return std::nullopt;
-        if (got == 0) break;
-        filled += static_cast<std::size_t>(got);
-        if (filled > limit) return std::nullopt;
-        if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
-    }
-    bytes.resize(filled);
-    return bytes;
+long ReadBySystem(int file, void* data, std::size_t size) {
+    return ::read(file, data, size);
+}
+
+std::optional<FileStart> ReadStart(const fs::path& path, std::size_t most, const ReadCall& read) {
+    if (!FileExists(path)) return std::nullopt;
+    const OpenFile file(path);
+    const auto size = file.RegularSize();
+    return size ? std::optional(ReadUpTo(file, *size, most, read)) : std::nullopt;
+}
+
+bool IsMissing(const fs::path& path) {
+    std::error_code error;
+    return !IsSystemPath(path) || fs::symlink_status(path, error).type() == fs::file_type::not_found;
 }
 
 std::optional<FileState> StateOfFile(const fs::path& path) {

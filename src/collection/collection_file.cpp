@@ -1,5 +1,6 @@
 #include "collection/collection_file.h"
 
+#include "base/file_reading.h"
 #include "base/text.h"
 
 #include <algorithm>
@@ -72,8 +73,7 @@ std::string FormatCollection(const std::vector<std::string>& numbers) {
 }
 
 Collection ReadCollection(const fs::path& file) {
-    std::error_code error;
-    if (fs::symlink_status(file, error).type() == fs::file_type::not_found) return {};
+    if (IsMissing(file)) return {};
     const auto bytes = ReadFile(file, largestCollection);
     if (!bytes) return {.numbers = {}, .readable = false};
     const std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());

@@ -3,15 +3,7 @@
 #include "base/text.h"
 #include "controls/list_box.h"
 
-#include <cstddef>
-
 namespace coinlet {
-
-namespace {
-
-constexpr std::size_t largestFile = std::size_t{16} << 20;
-
-}  // namespace
 
 void AddRows(ListBox& list, std::string_view text) {
     for (const std::string& line : Lines(FromCodePage(text)))
@@ -19,7 +11,7 @@ void AddRows(ListBox& list, std::string_view text) {
 }
 
 void AddRowsOfFile(ListBox& list, const fs::path& path) {
-    if (const auto bytes = ReadFile(path, largestFile))
+    if (const auto bytes = ReadFile(path, largestRowText))
         AddRows(list, {reinterpret_cast<const char*>(bytes->data()), bytes->size()});
 }
 

@@ -1,11 +1,12 @@
 #include "launch/application_folder.h"
 
-#include "base/files.h"
+#include "base/file_reading.h"
 #include "base/text.h"
 
 #include <unistd.h>
 
 #include <array>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -78,11 +79,13 @@ void LinkFiles(const fs::path& folder, const fs::path& delivered) {
         if (!taken.contains(name)) fs::create_symlink(delivered / name, folder / name, error);
 }
 
-/// What was handed out so far, a line a file, such as "Ontwerpen/Hiker.pat".
-std::set<std::string> HandedOut(const fs::path& folder) {
+/// What was handed out so far, a line a file, such as "Ontwerpen/Hiker.pat". Nothing if there is a list that
+/// can't be read: then nobody knows.
+std::optional<std::set<std::string>> HandedOut(const fs::path& folder) {
     std::set<std::string> files;
+    if (IsMissing(folder / handedOutList)) return files;
     const auto bytes = ReadFile(folder / handedOutList);
-    if (!bytes) return files;
+    if (!bytes) return std::nullopt;
     std::string line;
     for (const std::uint8_t byte : *bytes) {
         if (byte != '\n') {
@@ -106,7 +109,9 @@ void CopyFile(const fs::path& from, const fs::path& to) {
 }
 
 void HandOut(const fs::path& folder, const fs::path& delivered) {
-    std::set<std::string> handedOut = HandedOut(folder);
+    const auto before = HandedOut(folder);
+    if (!before) return;
+    std::set<std::string> handedOut = *before;
     std::vector<fs::path> fresh;
     for (const std::string_view part : changedFolders) {
         if (!MakeFolder(folder / part)) continue;
@@ -119,7 +124,7 @@ void HandOut(const fs::path& folder, const fs::path& delivered) {
             if (!taken.contains(LowerCase(name))) fresh.push_back(file);
         }
     }
-    if (handedOut.size() == HandedOut(folder).size()) return;
+    if (handedOut.size() == before->size()) return;
     // The list comes first: a file that is missing after a crash is a smaller loss than one that the user
     // deleted and that comes back at every start.
     if (!RememberHandedOut(folder, handedOut)) return;

@@ -39,7 +39,7 @@ std::filesystem::path DeliveredFolder(const std::filesystem::path& programFolder
 /// files;
 ///   new ones are added and those whose file is gone are removed, so an upgrade reaches every user;
 /// - what the user may change or delete (designs, the collection) is copied once. A list of what was handed
-///   out, `.handed-out`, keeps deleted what he deleted.
+///   out, `.handed-out`, keeps deleted what he deleted; while it can't be read, nothing is handed out.
 ///
 /// What the user put there is never touched: a name that is taken, by whatever, stays as it is. A folder that
 /// holds delivered files of its own instead of links, since somebody carried it there whole, is left alone.

@@ -17,7 +17,6 @@ constexpr std::string_view banner = "Ivo Kestrell Software 2014";
 constexpr std::string_view rule = "--------------------------";
 constexpr int headerItems = 2;
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t largestInfoText = std::size_t{16} << 20;
 
 /// `text` behind its first item, which ends at a comma or with its line.
 std::string_view AfterItem(std::string_view text) {
@@ -47,22 +46,24 @@ std::error_code WriteDesignInfoText(const Context& context, std::string_view nam
     return ReplaceFile(InfoTextPath(*picture), InfoTextFile(context.main.List2), calls);
 }
 
-void ReadDesignInfoText(const Context& context, std::string_view name) {
+void ReadDesignInfoText(const Context& context, std::string_view name, const ReadCall& read) {
     if (const auto picture = DesignPicture(context.services.applicationFolder, name)) {
-        ReadInfoTextOf(context, *picture);
+        ReadInfoTextOf(context, *picture, read);
     } else {
         context.main.List2.Clear();
     }
 }
 
-void ReadInfoTextOf(const Context& context, const fs::path& picture) {
+void ReadInfoTextOf(const Context& context, const fs::path& picture, const ReadCall& read) {
     ListBox& rows = context.main.List2;
     rows.Clear();
     const auto file = FindInfoText(picture);
     if (!file) return;
-    const auto bytes = ReadFile(*file, largestInfoText);
-    if (!bytes) return;
-    std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+    const auto start = ReadStart(*file, largestRowText, read);
+    if (!start) return;
+    std::string_view text(reinterpret_cast<const char*>(start->bytes.data()), start->bytes.size());
+    // A row that is cut off was never read; npos + 1 is 0, no row at all.
+    if (!start->isWhole) text = text.substr(0, text.find_last_of(lineEnd) + 1);
     for (int item = 0; item < headerItems; ++item)
         text = AfterItem(text);
     AddRows(rows, text);

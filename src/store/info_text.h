@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/files.h"
+#include "base/file_reading.h"
 
 #include <string_view>
 
@@ -18,10 +18,11 @@ std::error_code WriteDesignInfoText(const Context& context, std::string_view nam
                                     FileCalls& calls = SystemFileCalls());
 
 /// Fills `Main.List2` from the info text of the design `name`, without its blank rows. A design without one
-/// has no rows.
-void ReadDesignInfoText(const Context& context, std::string_view name);
+/// has no rows. After an error in the middle those that were read so far stay, and so do those at the
+/// beginning of a text that is longer than largestRowText.
+void ReadDesignInfoText(const Context& context, std::string_view name, const ReadCall& read = ReadBySystem);
 
 /// The same for the design with this picture.
-void ReadInfoTextOf(const Context& context, const fs::path& picture);
+void ReadInfoTextOf(const Context& context, const fs::path& picture, const ReadCall& read = ReadBySystem);
 
 }  // namespace coinlet

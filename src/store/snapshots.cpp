@@ -1,5 +1,7 @@
 #include "store/snapshots.h"
 
+#include "base/file_reading.h"
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -63,6 +65,19 @@ private:
     int file_;
 };
 
+using Taker = std::function<bool(const DesignFiles&, std::int64_t)>;
+
+/// True if all of the snapshot could be read, and was taken. What a disk or a network refuses now, it may
+/// give at the next start.
+bool IsTaken(const fs::path& stem, const Taker& take) {
+    const fs::path picture = With(stem, pictureEnd), infoText = With(stem, infoTextEnd);
+    auto pictureBytes = ReadFile(picture);
+    auto infoTextBytes = ReadFile(infoText);
+    const auto state = StateOfFile(picture);
+    if (!pictureBytes || !state || (!infoTextBytes && !IsMissing(infoText))) return false;
+    return take({std::move(*pictureBytes), std::move(infoTextBytes)}, state->changed);
+}
+
 }  // namespace
 
 OwnSnapshot::~OwnSnapshot() {
@@ -109,17 +124,12 @@ void OwnSnapshot::Remove() {
     stem_.clear();
 }
 
-void TakeLostSnapshots(const fs::path& folder,
-                       const std::function<bool(const DesignFiles&, std::int64_t)>& take) {
+void TakeLostSnapshots(const fs::path& folder, const Taker& take) {
     for (const std::string& name : ListFiles(folder, "*" + std::string(lockEnd))) {
         const OpenFileHandle lock(folder / name);
         if (lock.Get() < 0 || !TryLock(lock.Get())) continue;
         const fs::path stem = folder / name.substr(0, name.size() - lockEnd.size());
-        const auto picture = ReadFile(With(stem, pictureEnd));
-        struct stat status {};
-        const bool isWhole = picture && ::stat(With(stem, pictureEnd).c_str(), &status) == 0;
-        if (isWhole && !take({*picture, ReadFile(With(stem, infoTextEnd))}, status.st_mtime)) continue;
-        RemoveSnapshot(stem);
+        if (IsMissing(With(stem, pictureEnd)) || IsTaken(stem, take)) RemoveSnapshot(stem);
     }
 }
 

@@ -43,8 +43,9 @@ private:
 };
 
 /// Hands each snapshot in `folder` whose program no longer runs to `take`, with the time of its last writing
-/// in seconds since 1970, and removes it if `take` says that it isn't needed any more. Two programs that
-/// start at once take each snapshot once.
+/// in seconds since 1970, and removes it if `take` says that it isn't needed any more. One that can't be
+/// read, be it only its info text, is left for the next start. Two programs that start at once take each
+/// snapshot once.
 void TakeLostSnapshots(const fs::path& folder,
                        const std::function<bool(const DesignFiles& design, std::int64_t written)>& take);
 

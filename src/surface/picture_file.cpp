@@ -1,3 +1,4 @@
+#include "base/file_reading.h"
 #include "surface/codecs.h"
 
 #include <algorithm>
@@ -31,6 +32,31 @@ bool StartsWith(std::span<const std::uint8_t> bytes, std::string_view start) {
     return bytes.size() >= wanted.size() && std::equal(wanted.begin(), wanted.end(), bytes.begin());
 }
 
+const Format* FormatOf(std::span<const std::uint8_t> bytes) {
+    const auto* format = std::find_if(formats.begin(), formats.end(), [&](const Format& candidate) {
+        return StartsWith(bytes, candidate.firstBytes);
+    });
+    return format == formats.end() ? nullptr : format;
+}
+
+bool IsPng(std::span<const std::uint8_t> bytes) {
+    return StartsWith(bytes, "\x89PNG\r\n\x1A\n");
+}
+
+bool IsWebp(std::span<const std::uint8_t> bytes) {
+    constexpr std::size_t afterLength = 8;  // A RIFF file says its length before it says what it is.
+    return StartsWith(bytes, "RIFF") && bytes.size() > afterLength &&
+           StartsWith(bytes.subspan(afterLength), "WEBP");
+}
+
+/// The bytes of a file that is a picture as far as its first ones tell; other files are read no further.
+template <class IsPicture>
+std::optional<Bytes> ReadPicture(const fs::path& path, IsPicture isPicture) {
+    constexpr std::size_t head = 12;
+    const auto start = ReadStart(path, head);
+    return start && isPicture(std::span(start->bytes)) ? ReadFile(path, largestFile) : std::nullopt;
+}
+
 }  // namespace
 
 std::size_t BytesWorthDecoding(std::size_t fileSize) {
@@ -44,28 +70,26 @@ bool IsWorthDecoding(long long width, long long height, std::size_t fileSize) {
 }
 
 std::optional<Image> DecodePicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {
-    const auto* format = std::find_if(formats.begin(), formats.end(), [&](const Format& candidate) {
-        return StartsWith(bytes, candidate.firstBytes);
-    });
-    return format == formats.end() ? std::nullopt : format->decode(bytes, codecs);
+    const Format* format = FormatOf(bytes);
+    return format ? format->decode(bytes, codecs) : std::nullopt;
 }
 
 std::optional<Image> DecodeOfferedPicture(std::span<const std::uint8_t> bytes, const PictureCodecs& codecs) {
-    constexpr std::string_view png("\x89PNG\r\n\x1A\n"), riff("RIFF"), webp("WEBP");
-    constexpr std::size_t afterLength = 8;  // A RIFF file says its length before it says what it is.
-    if (StartsWith(bytes, png)) return codecs.DecodePng(bytes);
-    if (StartsWith(bytes, riff) && bytes.size() > afterLength && StartsWith(bytes.subspan(afterLength), webp))
-        return codecs.DecodeWebp(bytes);
+    if (IsPng(bytes)) return codecs.DecodePng(bytes);
+    if (IsWebp(bytes)) return codecs.DecodeWebp(bytes);
     return DecodePicture(bytes, codecs);
 }
 
 std::optional<Image> LoadPicture(const fs::path& path, const PictureCodecs& codecs) {
-    const auto bytes = ReadFile(path, largestFile);
+    const auto bytes =
+        ReadPicture(path, [](std::span<const std::uint8_t> head) { return FormatOf(head) != nullptr; });
     return bytes ? DecodePicture(*bytes, codecs) : std::nullopt;
 }
 
 std::optional<Image> LoadOfferedPicture(const fs::path& path, const PictureCodecs& codecs) {
-    const auto bytes = ReadFile(path, largestFile);
+    const auto bytes = ReadPicture(path, [](std::span<const std::uint8_t> head) {
+        return FormatOf(head) != nullptr || IsPng(head) || IsWebp(head);
+    });
     return bytes ? DecodeOfferedPicture(*bytes, codecs) : std::nullopt;
 }
 

@@ -1,11 +1,14 @@
 // Reading and deleting files, and the names that may lead to one.
 #include "base/files.h"
 
+#include "base/file_reading.h"
 #include "support/temporary_folder.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -87,6 +90,67 @@ TEST(ReadFile, AZeroByteLeadsToNoOtherFile) {
     const TemporaryFolder folder;
     folder.Write("file", "content");
     EXPECT_EQ(Text(ReadFile(folder / std::string("file\0.txt", 9))), "(nothing)");
+}
+
+std::string StartOf(const fs::path& path, std::size_t most, const ReadCall& read = ReadBySystem) {
+    const auto start = ReadStart(path, most, read);
+    return start ? Text(start->bytes) + (start->isWhole ? "" : "...") : "(nothing)";
+}
+
+TEST(ReadStart, GivesAsManyBytesAsAreWanted) {
+    const TemporaryFolder folder;
+    const auto path = folder.Write("file", "12345");
+    EXPECT_EQ(StartOf(path, 0), "...");
+    EXPECT_EQ(StartOf(path, 3), "123...");
+    EXPECT_EQ(StartOf(path, 5), "12345");
+    EXPECT_EQ(StartOf(path, 1000), "12345");
+    EXPECT_EQ(StartOf(folder.Write("empty", ""), 0), "");
+    fs::resize_file(path, std::uintmax_t{1} << 40);
+    EXPECT_EQ(StartOf(path, 5), "12345...");
+}
+
+TEST(ReadStart, GivesNothingForWhatIsNoRegularFile) {
+    const TemporaryFolder folder;
+    fs::create_symlink("gone", folder / "broken");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    for (const char* name : {"", "broken", "pipe", "missing"})
+        EXPECT_EQ(StartOf(folder / name, 9), "(nothing)") << name;
+}
+
+TEST(ReadStart, KeepsWhatWasReadBeforeAnError) {
+    const TemporaryFolder folder;
+    // A disk that gives three bytes at once, and after the second time an error.
+    int reads = 0;
+    const auto disk = [&](int file, void* data, std::size_t size) -> long {
+        if (++reads < 3) return ReadBySystem(file, data, std::min<std::size_t>(size, 3));
+        errno = EIO;
+        return -1;
+    };
+    EXPECT_EQ(StartOf(folder.Write("file", "12345678"), 100, disk), "123456...");
+}
+
+TEST(ReadStart, GoesOnAfterASignal) {
+    const TemporaryFolder folder;
+    int reads = 0;
+    const auto disk = [&](int file, void* data, std::size_t size) -> long {
+        if (reads++ % 2 == 1) return ReadBySystem(file, data, std::min<std::size_t>(size, 1));
+        errno = EINTR;
+        return -1;
+    };
+    EXPECT_EQ(StartOf(folder.Write("file", "12345"), 100, disk), "12345");
+}
+
+TEST(IsMissing, IsTrueOnlyWhereCertainlyNothingStands) {
+    const TemporaryFolder folder;
+    folder.Write("file", "");
+    fs::create_symlink("gone", folder / "broken");
+    fs::create_symlink("circle", folder / "circle");
+    for (const char* name : {"", "file", "broken", "circle", "circle/file"})
+        EXPECT_FALSE(IsMissing(folder / name)) << name;
+    EXPECT_FALSE(IsMissing(folder / std::string(300, 'n')));  // nobody can tell
+    for (const fs::path& path : {folder / "missing", folder / "missing/file", folder / "file/file",
+                                 folder / std::string("file\0", 5), fs::path()})
+        EXPECT_TRUE(IsMissing(path)) << path;
 }
 
 TEST(FileExists, SaysYesToRegularFilesAlone) {

@@ -128,6 +128,26 @@ TEST_F(ApplicationFolderTest, DeletedDesignStaysDeleted) {
     EXPECT_FALSE(IsThere(Own() / "Ontwerpen/Hiker.pat"));
 }
 
+TEST_F(ApplicationFolderTest, DeletedDesignStaysDeletedAlsoIfTheListCannotBeRead) {
+    Start();
+    fs::remove(Own() / "Ontwerpen/Hiker.pat");
+    const fs::path list = Own() / ".handed-out";
+    const auto size = fs::file_size(list);
+    // Nobody can read it, the superuser neither: more than the program takes of any file.
+    fs::resize_file(list, std::uintmax_t{1} << 40);
+    Deliver("Ontwerpen/Owl.pat");
+    Start();
+    EXPECT_FALSE(IsThere(Own() / "Ontwerpen/Hiker.pat"));
+    EXPECT_FALSE(IsThere(Own() / "Ontwerpen/Owl.pat"));
+    EXPECT_EQ(fs::file_size(list), std::uintmax_t{1} << 40);
+    EXPECT_TRUE(IsThere(Own() / "Data/first"));
+    // What was left out comes as soon as it can be read again.
+    fs::resize_file(list, size);
+    Start();
+    EXPECT_FALSE(IsThere(Own() / "Ontwerpen/Hiker.pat"));
+    EXPECT_EQ(InOwn("Ontwerpen/Owl.pat"), "delivered");
+}
+
 TEST_F(ApplicationFolderTest, ChangedDesignStaysChanged) {
     Start();
     Put("home/coinlet-designer/Ontwerpen/Hiker.pat", "with a hat");

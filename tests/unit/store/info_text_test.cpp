@@ -4,6 +4,8 @@
 #include "support/failing_step.h"
 #include "support/world.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace coinlet {
@@ -141,6 +143,41 @@ TEST(ReadDesignInfoText, FindsNoRowsWhereThereIsNoText) {
         ReadDesignInfoText(world.context, name);
         EXPECT_EQ(world.Rows(), Rows{}) << name;
     }
+}
+
+TEST(ReadDesignInfoText, KeepsTheRowsThatWereReadBeforeAnError) {
+    const auto rowsAfter = [](std::size_t bytes) {
+        World world;
+        world.SetRows({"of an earlier design"});
+        world.Store("coin.txt", header + "one\r\ntwo\r\nthree\r\n");
+        // A disk that gives so many bytes, in pieces, and then fails.
+        ReadDesignInfoText(world.context, "coin", [&](int file, void* data, std::size_t size) -> long {
+            if (bytes == 0) {
+                errno = EIO;
+                return -1;
+            }
+            const long got = ReadBySystem(file, data, std::min(size, (bytes + 1) / 2));
+            bytes -= static_cast<std::size_t>(got);
+            return got;
+        });
+        EXPECT_TRUE(world.platform.messages.empty());
+        return world.Rows();
+    };
+    const std::size_t two = header.size() + std::string_view("one\r\ntwo").size();
+    EXPECT_EQ(rowsAfter(0), Rows{});
+    EXPECT_EQ(rowsAfter(header.size() - 5), Rows{});
+    EXPECT_EQ(rowsAfter(header.size() + 2), Rows{});
+    EXPECT_EQ(rowsAfter(two), Rows{"one"});  // its line isn't read as long as there is no end of it
+    EXPECT_EQ(rowsAfter(two + 1), (Rows{"one", "two"}));
+    EXPECT_EQ(rowsAfter(two + 2), (Rows{"one", "two"}));
+}
+
+TEST(ReadDesignInfoText, KeepsTheBeginningOfAnEndlessText) {
+    World world;
+    world.Store("coin.txt", header + "first\r\n");
+    fs::resize_file(world.folder / "app/Ontwerpen/coin.txt", std::uintmax_t{1} << 30);
+    ReadDesignInfoText(world.context, "coin");
+    EXPECT_EQ(world.Rows(), Rows{"first"});
 }
 
 TEST(ReadDesignInfoText, PassesOverAFolderOfThatName) {

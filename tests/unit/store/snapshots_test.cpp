@@ -130,6 +130,21 @@ TEST_F(SnapshotsTest, ProgramKilledBeforeItsFirstPictureLeavesNothingToTake) {
     EXPECT_EQ(FilesInFolder(), 0);
 }
 
+TEST_F(SnapshotsTest, OneThatCantBeReadWaits) {
+    for (const char* file : {"design-abc.pat", "design-abc.txt"}) {
+        fs::create_directories(folder);
+        for (const char* name : {"design-abc.lock", "design-abc.pat", "design-abc.txt"})
+            root.Write(fs::path("state/coinlet-designer") / name, "what the user drew");
+        // Nobody may read it, the superuser neither: more than the program takes of any file.
+        fs::resize_file(folder / file, std::uintmax_t{1} << 40);
+        EXPECT_TRUE(Lost().empty()) << file;
+        EXPECT_EQ(FilesInFolder(), 3) << file;
+        fs::resize_file(folder / file, 4);
+        EXPECT_EQ(Lost().size(), 1U) << file;
+        EXPECT_EQ(FilesInFolder(), 0) << file;
+    }
+}
+
 TEST_F(SnapshotsTest, FolderThatCantBeMadeIsNoFault) {
     root.Write("state", "a file");
     OwnSnapshot snapshot(folder);

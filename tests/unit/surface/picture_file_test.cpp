@@ -2,6 +2,7 @@
 #include "support/temporary_folder.h"
 #include "surface/codecs.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -95,6 +96,53 @@ TEST(LoadPicture, LeavesAloneWhatIsLargerThanAnyPicture) {
     EXPECT_FALSE(LoadPicture(path, TellingCodecs()));
     fs::resize_file(path, std::uintmax_t{1} << 20);
     EXPECT_EQ(LoadPicture(path, TellingCodecs()), Filled(2, 0x123456));
+}
+
+/// How many bytes this process has read so far; nothing where the system doesn't count them.
+std::optional<long long> BytesRead() {
+    std::ifstream counters("/proc/self/io");
+    std::string name;
+    long long count = 0;
+    while (counters >> name >> count)
+        if (name == "rchar:") return count;
+    return std::nullopt;
+}
+
+TEST(LoadPicture, ReadsNoMoreThanTheHeadOfWhatIsNoPicture) {
+    const TemporaryFolder folder;
+    const auto film = folder.Write("film.mkv", "no picture");
+    fs::resize_file(film, std::uintmax_t{100} << 20);
+    const auto before = BytesRead();
+    if (!before) GTEST_SKIP() << "no counters here";
+    EXPECT_FALSE(LoadPicture(film, TellingCodecs()));
+    EXPECT_FALSE(LoadOfferedPicture(film, TellingCodecs()));
+    EXPECT_LT(*BytesRead() - *before, 100'000);
+}
+
+TEST(LoadOfferedPicture, ReadsAllOfTheOtherFormats) {
+    class WebCodecs final : public PictureCodecs {
+    public:
+        std::optional<Image> DecodeGif(std::span<const std::uint8_t>) const override { return {}; }
+        std::optional<Image> DecodeJpeg(std::span<const std::uint8_t>) const override { return {}; }
+        std::optional<Image> DecodePng(std::span<const std::uint8_t> bytes) const override {
+            return Filled(static_cast<int>(bytes.size()), white);
+        }
+        std::optional<Image> DecodeWebp(std::span<const std::uint8_t> bytes) const override {
+            return Filled(static_cast<int>(bytes.size()), black);
+        }
+        std::optional<Bytes> EncodeJpeg(const Image&, int) const override { return {}; }
+    };
+    using namespace std::string_view_literals;
+    const TemporaryFolder folder;
+    const WebCodecs codecs;
+    const auto png = folder.Write("a.txt", "\x89PNG\r\n\x1A\n and the rest of it"sv);
+    const auto webp = folder.Write("b", "RIFF\x04\0\0\0WEBPVP8 "sv);
+    EXPECT_EQ(LoadOfferedPicture(png, codecs), Filled(27, white));
+    EXPECT_EQ(LoadOfferedPicture(webp, codecs), Filled(16, black));
+    EXPECT_EQ(LoadOfferedPicture(folder.Write("c", FileOf(Filled(5, 0x123456))), codecs),
+              Filled(5, 0x123456));
+    EXPECT_FALSE(LoadPicture(png, codecs));
+    EXPECT_FALSE(LoadPicture(webp, codecs));
 }
 
 TEST(SavePicture, WritesWhatLoadPictureReads) {
