@@ -56,13 +56,13 @@ void PlaceTriangles(TriangleDrawing& panel) {
 
 /// The picture of a quarter of a circle: 0 and 1 are the upper ones, 0 and 2 those on the left. In its own
 /// size, or so many times as large.
-Image QuarterIcon(const ArcForm& form, int quarter, int times = 1) {
+Image QuarterIcon(const FontEngine& fonts, int quarter, int times = 1) {
     const int side = 20 * times, radius = 15 * times, penWidth = 3 * times, edge = 2 * times + times / 2;
     constexpr Colour mask = RGB(0, 255, 0);
     constexpr std::array<ArcAngles, 4> quarters{
         {{1.5708, 3.1416}, {0, 1.5708}, {3.1416, 4.7124}, {4.7124, 0}}};
     const bool isLeft = quarter % 2 == 0, isUpper = quarter < 2;
-    Surface icon(form.Fonts(), side, side);
+    Surface icon(fonts, side, side);
     icon.SetBackColor(mask);
     icon.DrawWidth = penWidth;
     const int x = isLeft ? side - 1 - edge : edge, y = isUpper ? side - 1 - edge : edge;
@@ -86,9 +86,11 @@ void PlaceSegments(ArcForm& form) {
         VistaButton& knop = panel.SegmentKnop[i];
         knop.SetCaption("");
         knop.SetPictures(1);
-        knop.SetPicture(QuarterIcon(form, i));
         constexpr int fineness = 6;
-        HasFinerEdition(knop.Picture(), [&form, i] { return QuarterIcon(form, i, fineness); });
+        knop.SetPicture(QuarterIcon(form.Fonts(), i));
+        // The fonts are the program's: no copy of the picture outlives them.
+        HasFinerEdition(knop.Picture(),
+                        [&fonts = form.Fonts(), i] { return QuarterIcon(fonts, i, fineness); });
         knop.ToolTipText = hints.at(static_cast<std::size_t>(i));
         PlaceByPixels(knop, inset + i % 2 * (knopWidth + between), knopsTop + i / 2 * (knopHeight + between),
                       knopWidth, knopHeight);

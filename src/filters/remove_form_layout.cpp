@@ -21,9 +21,9 @@ constexpr int glassInterval = 25;  // milliseconds
 constexpr int swatchSide = 12;
 
 /// The swatch in its own size, or so many times as large.
-Image Swatch(const RemoveForm& form, Colour upper, Colour lower, int times = 1) {
+Image Swatch(const FontEngine& fonts, Colour upper, Colour lower, int times = 1) {
     const int side = swatchSide * times, edge = times, inner = side - 2 * edge;
-    Surface swatch(form.Fonts(), side, side);
+    Surface swatch(fonts, side, side);
     swatch.SetBackColor(RGB(60, 60, 60));
     for (int y = 0; y < inner; ++y) {
         const auto mixed = [&](int (*channel)(Colour)) {
@@ -49,13 +49,15 @@ constexpr std::array<RemovalRow, 3> channelRows{{
     {260, "Blue", "Remove Blue Filter", RGB(120, 150, 255), RGB(0, 30, 200)},
 }};
 
-void Place(VistaButton& button, Label& label, const RemovalRow& row, const RemoveForm& form) {
+void Place(VistaButton& button, Label& label, const RemovalRow& row, const FontEngine& fonts) {
     constexpr int buttonWidth = 76, buttonHeight = 24, fineness = 6;
     button.SetCaption(row.caption);
     button.SetUseMaskColor(false);
     button.SetPictures(1);
-    button.SetPicture(Swatch(form, row.upper, row.lower));
-    HasFinerEdition(button.Picture(), [&form, row] { return Swatch(form, row.upper, row.lower, fineness); });
+    button.SetPicture(Swatch(fonts, row.upper, row.lower));
+    // The fonts are the program's: no copy of the picture outlives them.
+    HasFinerEdition(button.Picture(),
+                    [&fonts, row] { return Swatch(fonts, row.upper, row.lower, fineness); });
     PlaceButtonRow(button, label, row.label, {column, row.top, columnWidth, buttonWidth, buttonHeight});
 }
 
@@ -94,10 +96,10 @@ void LayOutRemoveForm(RemoveForm& form) {
     form.Pic.MousePointer = crossPointer;
     PlaceByPixels(form.Label2, column, dialogMargin, columnWidth, 44);
     PlaceReadOut(form);
-    Place(form.BWKnop, form.Label5, blackRow, form);
-    Place(form.GrayKnop, form.Label6, grayRow, form);
+    Place(form.BWKnop, form.Label5, blackRow, form.Fonts());
+    Place(form.GrayKnop, form.Label6, grayRow, form.Fonts());
     for (int i = form.RGBKnop.First(); i <= form.RGBKnop.Last(); ++i)
-        Place(form.RGBKnop[i], form.RGBLabel[i], channelRows.at(static_cast<std::size_t>(i)), form);
+        Place(form.RGBKnop[i], form.RGBLabel[i], channelRows.at(static_cast<std::size_t>(i)), form.Fonts());
     PlaceGlass(form);
     PlaceWaysOut(form);
     SetEdge(form.Shape1[1], form.Picture1);

@@ -9,7 +9,8 @@ namespace coinlet {
 namespace {
 
 struct Edition {
-    std::weak_ptr<const Bitmap> of;
+    /// Held, so that its pixels stay what they are: a surface draws only into those that nobody else holds.
+    std::shared_ptr<const Bitmap> of;
     std::function<Image()> make;
 };
 
@@ -24,13 +25,13 @@ std::map<const Bitmap*, Edition>& Editions() {
 void HasFinerEdition(const Image& picture, std::function<Image()> make) {
     if (picture.Empty()) return;
     auto& editions = Editions();
-    std::erase_if(editions, [](const auto& entry) { return entry.second.of.expired(); });
+    std::erase_if(editions, [](const auto& entry) { return entry.second.of.use_count() == 1; });
     editions[picture.Shared().get()] = {picture.Shared(), std::move(make)};
 }
 
 Image FinerEditionOf(const Image& picture) {
     const auto found = Editions().find(picture.Shared().get());
-    if (picture.Empty() || found == Editions().end() || found->second.of.expired()) return {};
+    if (picture.Empty() || found == Editions().end()) return {};
     Image finer = found->second.make();
     const int times = finer.Height() / picture.Height();
     const bool fits =
