@@ -34,4 +34,9 @@ std::string FormatTimeWithLeadingZero(const DateTime& moment) {
     return Time(moment, 2);
 }
 
+std::string FormatForFileName(const DateTime& moment) {
+    return Digits(moment.year, 4) + "-" + Digits(moment.month, 2) + "-" + Digits(moment.day, 2) + " " +
+           Digits(moment.hour, 2) + "." + Digits(moment.minute, 2);
+}
+
 }  // namespace coinlet

@@ -29,5 +29,8 @@ std::string FormatDate(const DateTime& moment);
 std::string FormatTime(const DateTime& moment);
 /// "hh:mm:ss".
 std::string FormatTimeWithLeadingZero(const DateTime& moment);
+/// "yyyy-mm-dd hh.mm": in the order of time where names are sorted, and without the colon that some systems
+/// refuse in the name of a file.
+std::string FormatForFileName(const DateTime& moment);
 
 }  // namespace coinlet

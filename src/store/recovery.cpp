@@ -10,7 +10,6 @@
 #include "store/info_text.h"
 #include "surface/codecs.h"
 
-#include <ctime>
 #include <string>
 
 namespace coinlet {
@@ -18,15 +17,6 @@ namespace coinlet {
 namespace {
 
 constexpr int longestWait = 10;  // seconds
-
-/// "2026-11-22 15.04": a moment as a part of a file name, without the colon that some systems refuse.
-std::string FileNameOf(std::int64_t seconds) {
-    const std::time_t moment = seconds;
-    std::tm local{};
-    ::localtime_r(&moment, &local);
-    char text[32];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H.%M", &local)};
-}
 
 /// True if a file of that name would be overwritten, or be one of a design that is there.
 bool IsTaken(const fs::path& folder, const std::string& name) {
@@ -63,8 +53,8 @@ bool Recovery::PutIntoStore(const DesignFiles& design, std::int64_t written) {
     // A snapshot that went down with the machine half written holds no design that anybody could open.
     if (!DecodeBmp(design.picture)) return true;
     const fs::path& folder = context_.services.applicationFolder;
-    const std::string name =
-        FreeName(folder, LookupInfoText(context_, key::recovered) + " " + FileNameOf(written));
+    const std::string name = FreeName(
+        folder, LookupInfoText(context_, key::recovered) + " " + FormatForFileName(ToLocalTime(written)));
     const fs::path picture = DesignFile(folder, name, designPicture);
     const fs::path infoText = DesignFile(folder, name, designInfoText);
     // Its text first: with the picture, the design is there.

@@ -37,5 +37,11 @@ TEST(Clock, WritesTheHourWithALeadingZeroWhereColumnsStand) {
     EXPECT_EQ(FormatTimeWithLeadingZero({2011, 3, 7, 13, 0, 30}), "13:00:30");
 }
 
+TEST(Clock, WritesMomentsThatCanBeNamesOfFiles) {
+    EXPECT_EQ(FormatForFileName({2026, 11, 2, 15, 4, 59}), "2026-11-02 15.04");
+    // A file may claim to be of any time.
+    EXPECT_EQ(FormatForFileName(ToLocalTime(std::numeric_limits<std::time_t>::max())), "0000-01-01 00.00");
+}
+
 }  // namespace
 }  // namespace coinlet
