@@ -15,6 +15,7 @@
 #include "event_log.h"
 #include "support/test_platform.h"
 
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 #include <set>
@@ -33,6 +34,18 @@ struct Properties : PropertyVisitor {
     }
     std::vector<Property> all;
 };
+
+TEST(RoundIntoRange, TakesRangesBeyondInt) {
+    constexpr std::int64_t highest = std::numeric_limits<std::uint32_t>::max();
+    EXPECT_EQ(RoundIntoRange(3'000'000'000.5, 0, highest), 3'000'000'000);
+    EXPECT_EQ(RoundIntoRange(3'000'000'001.5, 0, highest), 3'000'000'002);
+    EXPECT_EQ(RoundIntoRange(5e9, 0, highest), highest);
+    EXPECT_EQ(RoundIntoRange(-1, 0, highest), 0);
+    EXPECT_EQ(RoundIntoRange(-2.5, -128, 127), -2);
+    EXPECT_EQ(RoundIntoRange(-1e300, -128, 127), -128);
+    EXPECT_EQ(RoundIntoRange(std::numeric_limits<double>::quiet_NaN(), -128, 127), 0);
+    EXPECT_EQ(RoundIntoRange(std::numeric_limits<double>::infinity(), -128, 127), 127);
+}
 
 struct Events : EventVisitor {
     void Visit(const NamedEvent& event) override { all.push_back(event); }
