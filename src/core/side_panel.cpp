@@ -36,6 +36,19 @@ void FrameSwatch(Surface& panel, int top) {
     DrawSwatchBox(panel, top, frameInset, white, Box::Outline);
 }
 
+void WipeMetalField(Surface& panel) {
+    panel.Line(0, metalTop, sidePanelWidth, metalBottom, white, Box::Filled);
+}
+
+/// Or anything else in its place.
+bool ShowsMetal(const Surface& panel) {
+    for (int y = metalTop; y <= metalBottom; ++y) {
+        for (int x = 0; x < sidePanelWidth; ++x)
+            if (panel.Point(x, y) != white) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 void PrintSidePanelHeader(PictureBox& strip) {
@@ -102,10 +115,14 @@ void ClearRow(Surface& panel, int row) {
 }
 
 void PrintMetal(Surface& panel, std::string_view name) {
-    panel.Line(0, metalTop, sidePanelWidth, metalBottom, white, Box::Filled);
+    WipeMetalField(panel);
     panel.FontSize = metalFontSize;
     panel.ForeColor = black;
     PrintAt(panel, metalTextLeft, metalTextTop, name);
+}
+
+void WipeMetal(Surface& panel) {
+    if (ShowsMetal(panel)) WipeMetalField(panel);
 }
 
 void PaintBack(Surface& panel, const Image& back) {

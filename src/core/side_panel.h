@@ -50,6 +50,10 @@ void ClearRow(Surface& panel, int row);
 /// Prints the name of a metal, in place of the one that stood there.
 void PrintMetal(Surface& panel, std::string_view name);
 
+/// Wipes the name of a metal. A panel that shows none stays untouched, so that a stored design doesn't count
+/// as changed.
+void WipeMetal(Surface& panel);
+
 /// Paints a picture of a tag's back in its place; of a larger one the upper left corner.
 void PaintBack(Surface& panel, const Image& back);
 

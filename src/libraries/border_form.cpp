@@ -21,9 +21,9 @@ namespace {
 
 constexpr std::string_view libraryFolder = "\\Borders";
 
-constexpr int frameSide = 500, previewSide = 250, tagSide = 100, holeSide = 100;  // pixels
-constexpr Rectangle fullSize{0, 0, frameSide, frameSide};
-constexpr Rectangle previewSize{0, 0, previewSide, previewSide};
+constexpr int tagSide = 100, holeSide = 100;  // pixels
+constexpr Rectangle fullSize{0, 0, borderSide, borderSide};
+constexpr Rectangle previewSize{0, 0, borderPreviewSide, borderPreviewSide};
 constexpr Rectangle tagSize{0, 0, tagSide, tagSide};
 constexpr Rectangle previewMiddle{75, 75, tagSide, tagSide};
 
@@ -91,7 +91,7 @@ void BorderForm::SetMaterial(int index) {
 }
 
 int BorderForm::BorderColumn() const {
-    return static_cast<int>(borderMetal_) * frameSide;
+    return static_cast<int>(borderMetal_) * borderSide;
 }
 
 int BorderForm::HoleColumn() const {
@@ -130,7 +130,7 @@ void BorderForm::Check1_Click() {
 void BorderForm::DrawBorderPreview() {
     const Image strip = BackPic.surface.Image();
     const int column = BorderColumn();
-    const Rectangle frame{static_cast<double>(column), 0, frameSide, frameSide};
+    const Rectangle frame{static_cast<double>(column), 0, borderSide, borderSide};
     // What a short strip lacks stays blank, whatever was shown before.
     Orgineel.surface.Cls();
     Orgineel.surface.PaintPicture(strip, fullSize, frame);
@@ -157,8 +157,7 @@ void BorderForm::ExportKnop_Click() {
     Surface& canvas = main.Pic.surface;
     KeepForUndo(main);
     CutOutTag(canvas);
-    const int lineWidth = main.HScroll1.Value();
-    canvas.DrawWidth = lineWidth;
+    canvas.DrawWidth = main.HScroll1.Value();
     if (HasHole()) StampHole(Orgineel.surface, 2, HoleColumn());
     canvas.PaintPicture(Orgineel.surface.Image(), fullSize, fullSize, Merges() ? SRCAND : SRCCOPY);
     CloseDialog(context_, *this);
@@ -168,6 +167,7 @@ void BorderForm::ExportKnop_Click() {
 void BorderForm::CancelKnop_Click() {
     context_.session.MaterialName.clear();
     CloseDialog(context_, *this);
+    WipeMetal(context_.main.InfoPic.surface);
 }
 
 }  // namespace coinlet

@@ -15,16 +15,15 @@ namespace {
 // Three columns: the names, the preview, the choices. All in pixels.
 constexpr int margin = dialogMargin, gap = 16;
 constexpr int listWidth = 196, listHeight = 292;
-constexpr int previewLeft = margin + listWidth + gap, previewSide = 250;
-constexpr int column = previewLeft + previewSide + gap, columnWidth = 180;
+constexpr int previewLeft = margin + listWidth + gap;
+constexpr int column = previewLeft + borderPreviewSide + gap, columnWidth = 180;
 constexpr int formWidth = column + columnWidth + margin;
 constexpr int formHeight = listHeight + 2 * margin;
 constexpr int rowHeight = 20, rowPitch = 24;
 
 void PlaceHiddenPictures(BorderForm& form) {
-    constexpr int fullSide = 500;
     form.BackPic.surface.AutoSize = true;
-    PlaceByPixels(form.Orgineel, 0, 0, fullSide, fullSide);
+    PlaceByPixels(form.Orgineel, 0, 0, borderSide, borderSide);
     form.File1.Visible = false;
     form.BackPic.Visible = false;
     form.Orgineel.Visible = false;
@@ -48,7 +47,7 @@ void PlaceChoices(BorderForm& form) {
 }
 
 void PlaceHoleSlider(BorderForm& form) {
-    constexpr int panelHeight = 56, panelTop = margin + previewSide - panelHeight, inset = 8;
+    constexpr int panelHeight = 56, panelTop = margin + borderPreviewSide - panelHeight, inset = 8;
     constexpr int lastPosition = 7;
     form.Label2.Border = true;
     PlaceByPixels(form.Label2, column, panelTop, columnWidth, panelHeight);
@@ -72,7 +71,7 @@ void LayOutBorderForm(BorderForm& form) {
     SetTitleAndSize(form, "Tag Borders", formWidth, formHeight);
     PlaceHiddenPictures(form);
     PlaceByPixels(form.List1, margin, margin, listWidth, listHeight);
-    PlaceByPixels(form.Pic, previewLeft, margin, previewSide, previewSide);
+    PlaceByPixels(form.Pic, previewLeft, margin, borderPreviewSide, borderPreviewSide);
     SetEdge(form.Shape1, form.Pic);
     PlaceChoices(form);
     PlaceHoleSlider(form);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace coinlet {
 namespace {
@@ -135,6 +136,23 @@ TEST_F(SidePanelTest, TheMetalStandsAboveTheRows) {
     PrintMetal(panel, "Shiny Gold");
     EXPECT_TRUE(HasInk(19, 20, 177, 32, black));
     PrintMetal(panel, "");
+    ExpectBox(0, 15, 177, 45, white);
+    ExpectBox(0, 14, 177, 14, beige);
+    ExpectBox(0, 46, 177, 59, beige);
+}
+
+TEST_F(SidePanelTest, TheMetalIsWipedIfThereIsOne) {
+    for (const auto& [x, y] : {std::pair{0, 15}, {177, 15}, {0, 45}, {177, 45}, {90, 30}}) {
+        panel.SetBackColor(white);
+        panel.PSet(x, y, RGB(255, 255, 254));
+        WipeMetal(panel);
+        ExpectBox(0, 0, 177, 499, white);
+        const auto revision = panel.Revision();
+        WipeMetal(panel);
+        EXPECT_EQ(panel.Revision(), revision);
+    }
+    panel.SetBackColor(beige);
+    WipeMetal(panel);
     ExpectBox(0, 15, 177, 45, white);
     ExpectBox(0, 14, 177, 14, beige);
     ExpectBox(0, 46, 177, 59, beige);

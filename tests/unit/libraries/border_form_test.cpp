@@ -1,6 +1,7 @@
 // What goes to the canvas and the side panel, pixel by pixel, and what may stand in the folder of borders.
 #include "libraries/border_form.h"
 
+#include "core/design_revision.h"
 #include "support/world.h"
 
 #include <algorithm>
@@ -76,6 +77,45 @@ TEST_F(BorderFormTest, PrintsTheMetalOnTheSidePanel) {
         for (int x = 0; x < expected.PixelWidth(); ++x)
             ASSERT_EQ(main.InfoPic.surface.Point(x, y), expected.Point(x, y)) << x << ", " << y;
     }
+}
+
+TEST_F(BorderFormTest, CancelTakesTheMetalOffTheSidePanel) {
+    const Image blank = main.InfoPic.surface.Image();
+    Open([](BorderForm& dialog) {
+        dialog.Option1[3].SetValue(true);
+        dialog.ExportKnop.Click();
+    });
+    ASSERT_NE(main.InfoPic.surface.Image(), blank);
+    Open([](BorderForm& dialog) {
+        dialog.Option1[1].SetValue(true);
+        dialog.CancelKnop.Click();
+    });
+    EXPECT_EQ(main.InfoPic.surface.Image(), blank);
+    EXPECT_EQ(session.MaterialName, "");
+    EXPECT_EQ(session.MaterialRed, 228);
+    EXPECT_EQ(session.MaterialGreen, 112);
+    EXPECT_EQ(session.MaterialBlue, 30);
+}
+
+// Or a look at the borders would leave a stored design as unsaved work.
+TEST_F(BorderFormTest, CancelDoesNotCountAsAChangeWhereNoMetalIsShown) {
+    const DesignRevision before = RevisionOf(main);
+    Open([](BorderForm& dialog) { dialog.CancelKnop.Click(); });
+    EXPECT_EQ(RevisionOf(main), before);
+}
+
+TEST_F(BorderFormTest, TheHoleFollowsItsSliderWhileThatIsDragged) {
+    Add("a.gif", white);
+    Open([](BorderForm& dialog) {
+        dialog.Check1.SetValue(true);
+        dialog.HScroll1.UserDrags(4);  // and doesn't let it go
+        EXPECT_EQ(dialog.Label3.Caption, "Hole position (Bottom)");
+        const Image dragged = dialog.Pic.surface.Image();
+        dialog.HScroll1.SetValue(0);
+        EXPECT_NE(dialog.Pic.surface.Image(), dragged);
+        dialog.HScroll1.SetValue(4);
+        EXPECT_EQ(dialog.Pic.surface.Image(), dragged);
+    });
 }
 
 TEST_F(BorderFormTest, ListsRegularFilesAndNeverWaitsForAPipe) {
