@@ -68,9 +68,11 @@ void CurveDrawing::AddPoint(double x, double y) {
     }
     const int count = points_.PointCount();
     Label10.Caption = "Total Points : " + std::to_string(count);
-    // The first point is but marked, on whatever the picture shows. From the second one on there is a line.
+    // The first point is but marked, on whatever the picture shows and whatever the switches say, which are
+    // for drawing anew. From the second one on there is a line.
     if (count == 1) {
-        MarkPoint(count);
+        CirclePoint(count);
+        NumberPoint(count);
     } else {
         YenidenCIZ();
     }
@@ -106,8 +108,10 @@ void CurveDrawing::YenidenCIZ() {
     picture_->Cls();
     wiped_();
     if (ShowsPoints()) {
-        for (int number = 1; number <= points_.PointCount(); ++number)
-            MarkPoint(number);
+        for (int number = 1; number <= points_.PointCount(); ++number) {
+            if (!Check2.Value()) CirclePoint(number);
+            if (!Check3.Value()) NumberPoint(number);
+        }
     }
     picture_->DrawStyle = IsCurve() ? dottedLine : solidLine;
     if (ShowsJoiningLines()) DrawJoiningLines();
@@ -115,13 +119,15 @@ void CurveDrawing::YenidenCIZ() {
     DrawBezier();
 }
 
-/// The number stands to the lower right of the point: the circle leaves the cursor in its middle.
-void CurveDrawing::MarkPoint(int number) {
+void CurveDrawing::CirclePoint(int number) {
     constexpr double markRadius = 2;
     const auto point = static_cast<std::size_t>(number - 1);
-    const bool circled = !Check2.Value(), numbered = !Check3.Value();
-    if (circled) picture_->Circle(points_.PointX()[point], points_.PointY()[point], markRadius, red);
-    if (numbered) picture_->Print(std::to_string(number));
+    picture_->Circle(points_.PointX()[point], points_.PointY()[point], markRadius, red);
+}
+
+/// To the lower right of the point: its circle left the cursor in its middle.
+void CurveDrawing::NumberPoint(int number) {
+    picture_->Print(std::to_string(number));
 }
 
 void CurveDrawing::DrawJoiningLines() {

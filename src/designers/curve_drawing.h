@@ -47,7 +47,9 @@ private:
 
     void AddPoint(double x, double y);
     void YenidenCIZ();
-    void MarkPoint(int number);
+    // Points count from 1, as the user sees them.
+    void CirclePoint(int number);
+    void NumberPoint(int number);
     void DrawJoiningLines();
     void DrawBezier();
     bool IsCurve() const { return Option2.Value(); }

@@ -18,7 +18,8 @@ class CurveDrawingTest : public test::ArcWorld {
 protected:
     CurveDrawingTest() {
         Choose(3);
-        // Numbers would lie on the lines that are to be seen here.
+        // Numbers would lie on the lines that are to be seen here. The first point alone has its number all
+        // the same, until there is a second one.
         panel.Check3.SetValue(true);
     }
     void Set(const std::vector<Place>& places) {
@@ -70,8 +71,23 @@ TEST_F(CurveDrawingTest, OnePointIsAMarkAndNothingElse) {
     Set({{100, 120}});
     Surface expected = Blank();
     expected.Circle(100, 120, 2, red);
+    expected.Print("1");
     EXPECT_EQ(Seen(), expected.Image());
     EXPECT_EQ(panel.Label10.Caption, "Total Points : 1");
+}
+
+// The switches are for drawing anew, which begins with the second point.
+TEST_F(CurveDrawingTest, APressMarksTheFirstPointWhateverTheSwitchesSay) {
+    panel.Check2.SetValue(true);
+    Set({{100, 120}});
+    Surface marked = Blank();
+    marked.Circle(100, 120, 2, red);
+    marked.Print("1");
+    EXPECT_EQ(Seen(), marked.Image());
+    Set({{300, 120}});
+    Surface expected = Blank();
+    DrawSlowCurve(expected, {{100, 120}, {300, 120}}, withLines);
+    EXPECT_EQ(Seen(), expected.Image());
 }
 
 // A first point doesn't take away what other modes drew; the second one does.
@@ -263,6 +279,7 @@ TEST_F(CurveDrawingTest, PressesCountByWholePixelsDownwards) {
     Click(100.9F, -0.1F);
     Surface expected = Blank();
     expected.Circle(100, -1, 2, red);
+    expected.Print("1");
     EXPECT_EQ(Seen(), expected.Image());
 }
 
