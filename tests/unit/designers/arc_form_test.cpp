@@ -88,6 +88,13 @@ TEST_F(ArcFormTest, TheSliderLosesALetterOfItsName) {
     EXPECT_EQ(fresh.Label3.Caption, "Line With (1)");
 }
 
+TEST_F(ArcFormTest, ThePenFollowsItsSliderWhileThatIsDragged) {
+    Choose(3);
+    form.HScroll1.UserDrags(6);  // and doesn't let it go
+    EXPECT_EQ(form.Label3.Caption, "Line With (6)");
+    EXPECT_EQ(Picture().DrawWidth, 6);
+}
+
 TEST_F(ArcFormTest, ResetTakesTheCanvasAsItIsNow) {
     form.Segments.HScroll2[0].SetValue(1);
     form.Segments.HScroll2[1].SetValue(2);

@@ -12,7 +12,7 @@ namespace coinlet::test {
 class ArcWorld : public testing::Test, protected World {
 protected:
     ArcWorld() {
-        form.Form_Load();
+        platform.ShowMain(form);
         form.HScroll1.SetValue(1);
     }
 

@@ -90,6 +90,18 @@ TEST_F(PolygonDrawingTest, ColourIsMixedWithTheSliders) {
     EXPECT_EQ(At(200, 200), RGB(10, 20, 30));
 }
 
+TEST_F(PolygonDrawingTest, TheColourFollowsASliderWhileThatIsDragged) {
+    panel.ColorScroll[0].UserDrags(10);  // none is let go
+    EXPECT_EQ(panel.Label16.BackColor, RGB(10, 255, 0));
+    panel.ColorScroll[1].UserDrags(20);
+    EXPECT_EQ(panel.Label16.BackColor, RGB(10, 20, 0));
+    panel.ColorScroll[2].UserDrags(30);
+    EXPECT_EQ(panel.Label16.BackColor, RGB(10, 20, 30));
+    EXPECT_EQ(panel.ColLabel[0].Caption, "10");
+    EXPECT_EQ(panel.ColLabel[1].Caption, "20");
+    EXPECT_EQ(panel.ColLabel[2].Caption, "30");
+}
+
 // Events are served between the number and the colour: what comes meanwhile counts.
 TEST_F(PolygonDrawingTest, EventsAreServedBetweenTheNumberAndTheColour) {
     std::string captionThen;

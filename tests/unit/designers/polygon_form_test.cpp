@@ -54,6 +54,17 @@ TEST_F(PolygonFormTest, DrawsOnceForEachChange) {
     });
 }
 
+TEST_F(PolygonFormTest, ThePolygonFollowsItsSlidersWhileTheyAreDragged) {
+    Open([&](PolygonForm& dialog) {
+        dialog.HScroll1.UserDrags(14);  // none is let go
+        EXPECT_EQ(dialog.Label14.Caption, "4");
+        EXPECT_EQ(dialog.Picture1.surface.Image(), Polygon({10, 0, wholeTurn}, 280, 280));
+        dialog.hsbRotate.UserDrags(25);
+        EXPECT_EQ(dialog.txtInitialSide.Text(), "25°");
+        EXPECT_EQ(dialog.Picture1.surface.Image(), Polygon({10, 25, wholeTurn}, 280, 280));
+    });
+}
+
 TEST_F(PolygonFormTest, TheRotationGoesBackWithoutADrawingOfItsOwn) {
     Open([&](PolygonForm& dialog) {
         const Surface& picture = dialog.Picture1.surface;

@@ -33,6 +33,18 @@ TEST_F(SegmentDrawingTest, TheCircleStartsInTheMiddleWhateverTheSlidersSay) {
     EXPECT_EQ(form.Segments.HScroll2[2].Value(), 333);
 }
 
+TEST_F(SegmentDrawingTest, TheCircleFollowsASliderWhileThatIsDragged) {
+    form.Segments.HScroll2[0].UserDrags(10);  // none is let go
+    ExpectLayer(10, 150, 200);
+    form.Segments.HScroll2[1].UserDrags(20);
+    ExpectLayer(10, 20, 200);
+    form.Segments.HScroll2[2].UserDrags(333);
+    ExpectLayer(10, 20, 333);
+    EXPECT_EQ(form.Segments.ScrolLabel[0].Caption, "Left (10)");
+    EXPECT_EQ(form.Segments.ScrolLabel[1].Caption, "Top (20)");
+    EXPECT_EQ(form.Segments.ScrolLabel[2].Caption, "Radius (333)");
+}
+
 TEST_F(SegmentDrawingTest, SlidersHaveTheirRanges) {
     for (int i = 0; i < 3; ++i) {
         const ScrollBar& bar = form.Segments.HScroll2[i];
