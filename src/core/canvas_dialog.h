@@ -23,8 +23,6 @@ struct Context;
 //   takes no copy for undo, nor does its end.
 // - `CancelKnop` and Escape: the dialog unloads, and the hint is the same. The canvas stays.
 // - The close box: the dialog unloads. Canvas and hint stay.
-//
-// `CloseDialog` is what `CancelKnop` does, in every dialog with a way out of that name.
 
 /// The column of controls beside the copy, in pixels; it ends a margin before the dialog's right border.
 constexpr int canvasDialogColumn = dialogMargin + canvasSide + dialogMargin;

@@ -50,7 +50,7 @@ void ArcDrawing::Finish() {
     ArcValues[endAngle] = AngleOfPointer();
     DrawArc();
     ArcStage[arcFinished] = true;
-    PictureWiped();  // The result covers the preview.
+    PictureWiped();  // The result covers the preview, unless the pen has been made thinner since.
 }
 
 void ArcDrawing::Move(int, float x, float y) {

@@ -1,12 +1,14 @@
 #include "designers/atan3.h"
 
+#include "base/angles.h"
+
 #include <cmath>
 
 namespace coinlet {
 
 namespace {
 
-constexpr double pi = 3.14159265358979, threeQuarters = 4.712388980384685, fullTurn = 6.28318530717958;
+constexpr double threeQuarters = 4.712388980384685, fullTurn = 6.28318530717958;
 
 }  // namespace
 

@@ -13,7 +13,9 @@ double fact(int N);
 /// The binomial coefficient of 0 <= K <= N; finite for N up to 170.
 double C(int N, int K);
 
-/// The Bernstein weight of control point I, from 0 to N, of a curve of degree N at the parameter T.
+/// The Bernstein weight of control point I, from 0 to N, of a curve of degree N at the parameter T. This is
+/// the rule in its plain form, which tests compare with: `BezierSampler` finds its binomials once a degree,
+/// not once a weight.
 double B(int I, int N, double T);
 
 /// A point of a curve, in pixels and not yet rounded.

@@ -23,13 +23,13 @@ namespace {
 
 constexpr int centre = canvasSide / 2;
 /// Not pi to the last digit, on purpose: the places of the letters depend on it.
-constexpr double pi = 3.14159625;
+constexpr double nearlyPi = 3.14159625;
 constexpr double halfTurn = 180, quarterTurn = 90;
 
 constexpr NumberList distances{0, 10, 1, 2}, radii{100, 200, 5, 185}, sizes{20, 120, 2, 30};
 
 double Radians(double degrees) {
-    return degrees / halfTurn * pi;
+    return degrees / halfTurn * nearlyPi;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "designers/polygon_figure.h"
 
+#include "base/angles.h"
 #include "base/numbers.h"
 #include "surface/surface.h"
 
@@ -10,7 +11,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr double pi = 3.14159265358979;
 constexpr double degreesARadian = 57.2957795130823;
 constexpr double radiansADegree = pi / 180;
 

@@ -1,5 +1,6 @@
 #include "designers/regular_polygon.h"
 
+#include "base/angles.h"
 #include "surface/surface.h"
 
 #include <algorithm>
@@ -9,10 +10,9 @@ namespace coinlet {
 
 namespace {
 
-constexpr double pi = 3.14159265358979;
 /// Stands for the slope of an upright line: steep, but finite.
 constexpr float uprightSlope = 301.59289474461985F;
-constexpr int mostSides = 32767;
+constexpr int mostDrawnSides = 32767;
 
 }  // namespace
 
@@ -35,7 +35,7 @@ TurnedPoint RPoint(float theta, PlanePoint centre, PlanePoint point, float aspec
 
 void DrawPolygon(Surface& target, float rotate, float aspect, PlanePoint centre, float size, int sides,
                  Colour colour) {
-    const int count = std::min(sides, mostSides);
+    const int count = std::min(sides, mostDrawnSides);
     const PlanePoint start{centre.x - size, centre.y};
     PlanePoint first, before;
     float theta = rotate;

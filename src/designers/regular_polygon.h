@@ -21,6 +21,8 @@ struct TurnedPoint {
 /// Turns `point` around `centre` by `theta` radians, clockwise on the screen, on an ellipse whose height
 /// divided by its width is `aspect` (1 is a circle); the radius is that of the longer axis. A point on the
 /// centre stays there.
+///
+/// This is the rule for every aspect. What is drawn so far is round, and asks for the place alone.
 TurnedPoint RPoint(float theta, PlanePoint centre, PlanePoint point, float aspect);
 
 /// Draws the outline of a regular polygon. Its corners lie at the distance `size` from the centre; the first

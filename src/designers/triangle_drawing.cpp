@@ -11,15 +11,16 @@ namespace {
 using Points = DraggedTriangle::Points;
 using Outline = DraggedTriangle::Outline;
 
+// The first point stays where the press was. It is the corner with the right angle, or the left end of the
+// base; the pointer sets how far the third one lies beside it, and how far the second one above or below.
+void Follow(Points& points, PlanePoint pointer) {
+    points[2].x = pointer.x;
+    points[1].y = pointer.y;
+}
+
 Outline RightAngled(const Points& points) {
     const auto& [a, b, c] = points;
     return {{{b, c}, {c, a}, {a, b}}};
-}
-
-// The right angle is at A, which stays.
-void FollowWithLegs(Points& points, PlanePoint pointer) {
-    points[2].x = pointer.x;
-    points[1].y = pointer.y;
 }
 
 PlanePoint Apex(const Points& points) {
@@ -37,19 +38,14 @@ Outline IsoscelesFromApex(const Points& points) {
     return {{{apex, right}, {apex, left}, {left, right}}};
 }
 
-void FollowWithApex(Points& points, PlanePoint pointer) {
-    points[2].x = pointer.x;
-    points[1].y = pointer.y;
-}
-
 }  // namespace
 
 TriangleDrawing::TriangleDrawing(Form& form, Surface& picture)
     : Frame2(form, "Frame2"),
       Check1(Frame2, "Check1", 0, 2),
       picture_(&picture),
-      RightTriangle{RightAngled, RightAngled, FollowWithLegs},
-      IsoTriangle{Isosceles, IsoscelesFromApex, FollowWithApex} {
+      RightTriangle{RightAngled, RightAngled},
+      IsoTriangle{Isosceles, IsoscelesFromApex} {
     Check1.Bind(&CheckBox::Click, [this](int index) { Check1_Click(index); });
 }
 
@@ -80,7 +76,7 @@ void TriangleDrawing::Move(int button, float x, float y) {
     DraggedTriangle* const triangle = Current();
     if (!triangle || button != leftButton) return;
     if (triangle->shown) Draw(triangle->preview(triangle->points), invertPen);
-    triangle->follow(triangle->points, {x, y});
+    Follow(triangle->points, {x, y});
     Draw(triangle->preview(triangle->points), invertPen);
     triangle->shown = true;
 }

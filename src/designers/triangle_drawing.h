@@ -18,7 +18,6 @@ struct DraggedTriangle {
 
     Outline (*outline)(const Points&);  ///< What stays.
     Outline (*preview)(const Points&);  ///< What is drawn while the pointer moves.
-    void (*follow)(Points&, PlanePoint pointer);
     Points points{};
     bool shown = false;  ///< The preview is on the picture.
 };

@@ -1,5 +1,6 @@
 #include "surface/rotation.h"
 
+#include "base/angles.h"
 #include "base/numbers.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr double pi = 3.14159265358979;
 
 /// RoundHalfEven for numbers far below 2^51, as an addition that compilers turn into wide code: so far from 0
 /// doubles are whole numbers, and sums are rounded to them.

@@ -76,7 +76,7 @@ TEST(PolygonTexts, WholeDegreesHaveTheSignAlone) {
     EXPECT_EQ(WholeDegrees(359), "359°");
 }
 
-class PolygonDrawing : public testing::Test {
+class PolygonFigureDrawing : public testing::Test {
 protected:
     Image Drawn(const PolygonSweep& sweep, double radius, int width = 400, int height = 400,
                 int penWidth = 1) const {
@@ -128,7 +128,7 @@ protected:
     test::BlockFonts fonts_;
 };
 
-TEST_F(PolygonDrawing, IsAllCornersWithTheirEdgesAndSpokes) {
+TEST_F(PolygonFigureDrawing, IsAllCornersWithTheirEdgesAndSpokes) {
     struct Case {
         PolygonSweep sweep;
         int corners;  ///< The first one counts again at the end of the turn.
@@ -149,7 +149,7 @@ TEST_F(PolygonDrawing, IsAllCornersWithTheirEdgesAndSpokes) {
     }
 }
 
-TEST_F(PolygonDrawing, LooksTheSameWhateverTheRadius) {
+TEST_F(PolygonFigureDrawing, LooksTheSameWhateverTheRadius) {
     for (const int sides : {3, 7, 10, 64}) {
         const PolygonSweep sweep{sides, 20, wholeTurn};
         const Image usual = Drawn(sweep, 0.5);
@@ -158,7 +158,7 @@ TEST_F(PolygonDrawing, LooksTheSameWhateverTheRadius) {
     }
 }
 
-TEST_F(PolygonDrawing, TheFirstCornerIsStraightToTheRightAndTheCornersGoUp) {
+TEST_F(PolygonFigureDrawing, TheFirstCornerIsStraightToTheRightAndTheCornersGoUp) {
     const Image quarter = Drawn({4, 0, wholeTurn}, 0.5);
     EXPECT_TRUE(IsBlackNear(quarter, 398, 200));
     const Image turned = Drawn({3, 90, wholeTurn}, 0.5);
@@ -174,7 +174,7 @@ TEST_F(PolygonDrawing, TheFirstCornerIsStraightToTheRightAndTheCornersGoUp) {
 
 // Of which polygons the sum of steps ends beyond the turn was worked out with the single-precision numbers of
 // another language.
-TEST_F(PolygonDrawing, TheClosingEdgeIsMissingWhereTheSumOfSinglesEndsBeyondTheTurn) {
+TEST_F(PolygonFigureDrawing, TheClosingEdgeIsMissingWhereTheSumOfSinglesEndsBeyondTheTurn) {
     for (const int sides : {13, 17, 22, 26, 27, 28, 31, 37, 38, 39})
         EXPECT_FALSE(Closes(sides, 0)) << sides;
     for (const int sides : {3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 15, 16, 18, 19, 20, 21, 23, 24, 25, 29, 30})
@@ -185,7 +185,7 @@ TEST_F(PolygonDrawing, TheClosingEdgeIsMissingWhereTheSumOfSinglesEndsBeyondTheT
         EXPECT_TRUE(Closes(sides, 359)) << sides;
 }
 
-TEST_F(PolygonDrawing, TheLastSpokeOfAHalfTurnIsMissingWhereTheSumEndsBeyondIt) {
+TEST_F(PolygonFigureDrawing, TheLastSpokeOfAHalfTurnIsMissingWhereTheSumEndsBeyondIt) {
     const auto hasLastSpoke = [&](int sides) {
         return IsBlackNear(Drawn({sides, 0, halfTurn}, 0.5), 60, 200);
     };
@@ -195,7 +195,7 @@ TEST_F(PolygonDrawing, TheLastSpokeOfAHalfTurnIsMissingWhereTheSumEndsBeyondIt) 
         EXPECT_TRUE(hasLastSpoke(sides)) << sides;
 }
 
-TEST_F(PolygonDrawing, OfTheMostSidesLooksLikeAFilledDisc) {
+TEST_F(PolygonFigureDrawing, OfTheMostSidesLooksLikeAFilledDisc) {
     const Image disc = Drawn({mostSides, 0, wholeTurn}, 0.5);
     int inside = 0, filled = 0;
     for (int y = 0; y < 400; ++y) {
@@ -214,7 +214,7 @@ TEST_F(PolygonDrawing, OfTheMostSidesLooksLikeAFilledDisc) {
     EXPECT_GT(filled, inside / 3);
 }
 
-TEST_F(PolygonDrawing, WipesBeforeItDraws) {
+TEST_F(PolygonFigureDrawing, WipesBeforeItDraws) {
     Surface surface(fonts_, 40, 40);
     surface.Line(0, 0, 39, 39, RGB(255, 0, 0), Box::Filled);
     DrawPolygonFigure(surface, {4, 0, wholeTurn}, 0.5);
@@ -223,7 +223,7 @@ TEST_F(PolygonDrawing, WipesBeforeItDraws) {
     EXPECT_EQ(surface.ScaleHeight(), -1);
 }
 
-TEST_F(PolygonDrawing, OfNoCircleIsNothing) {
+TEST_F(PolygonFigureDrawing, OfNoCircleIsNothing) {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double radius : {0.0, -0.0, infinity, -infinity, 1.7e308, std::nan("")}) {
         Surface surface(fonts_, 40, 40);
@@ -234,7 +234,7 @@ TEST_F(PolygonDrawing, OfNoCircleIsNothing) {
     }
 }
 
-TEST_F(PolygonDrawing, TakesRadiiAndTurnsOfAnySize) {
+TEST_F(PolygonFigureDrawing, TakesRadiiAndTurnsOfAnySize) {
     for (const double radius : {-0.5, 1e-320, 1e-30, 1e38, 8e307}) {
         for (const int rotation : {-32768, -360, 0, 359, 32767}) {
             for (const int sides : {fewestSides, 7, mostSides})
