@@ -43,10 +43,6 @@ const Surface& VistaButton::Face() const {
     return face_;
 }
 
-bool VistaButton::IsCutPixel(int x, int y) const {
-    return (x == 0 || x == PixelWidth() - 1) && (y == 0 || y == PixelHeight() - 1);
-}
-
 void VistaButton::SetCaption(const std::string& caption) {
     look_.caption = caption;
     Redraw();

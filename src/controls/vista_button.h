@@ -50,6 +50,10 @@ public:
     void SetHeight(double height) override;
 
     ButtonState State() const { return state_; }
+    /// All that its pixels depend on beside state and size, as it was when a drawing was last due.
+    const ButtonLook& Look() const { return look_; }
+    /// The fonts that its caption is measured and drawn in: those that are installed.
+    const FontEngine& LetterFonts() const { return face_.Fonts(); }
     /// What the button looks like now; drawn when somebody looks and something has changed since.
     const Surface& Face() const;
     /// Grows with every drawing that is due; equal values mean an unchanged face.
@@ -72,9 +76,6 @@ public:
 
     void VisitProperties(PropertyVisitor& visitor) override;
     void VisitEvents(EventVisitor& visitor) override;
-
-    /// The four corners, which are no part of the button: the parent's background shows there.
-    bool IsCutPixel(int x, int y) const;
 
 private:
     /// Stores the state; true if it is another one, for which alone the button is drawn anew.

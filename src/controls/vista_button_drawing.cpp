@@ -2,7 +2,6 @@
 
 #include "base/numbers.h"
 #include "controls/fine_button.h"
-#include "controls/form.h"
 #include "surface/device.h"
 #include "surface/fine_picture.h"
 #include "surface/finer_edition.h"
@@ -368,31 +367,11 @@ bool HasBody(const ButtonLook& look, ButtonState state) {
     return !look.noBackground || state == ButtonState::Hover || state == ButtonState::Pressed;
 }
 
-/// The look of a button as everybody can see it.
-ButtonLook LookOf(const VistaButton& button) {
-    ButtonLook look;
-    look.caption = button.Caption();
-    look.foreColor = button.ForeColor();
-    look.font = button.Font();
-    if (const Image& picture = button.Picture(); !picture.Empty()) {
-        look.strip = std::make_unique<Surface>(button.OwnerForm().Fonts(), picture.Width(), picture.Height());
-        look.strip->SetPicture(picture);
-    }
-    look.pictures = button.Pictures();
-    look.useMaskColor = button.UseMaskColor();
-    look.maskColor = button.MaskColor();
-    look.noBackground = button.NoBackground();
-    look.backColor = button.BackColor();
-    look.pictureOffset = button.PictureOffset();
-    look.enabled = button.Enabled();
-    look.mouseDown = button.State() == ButtonState::Pressed;
-    return look;
-}
-
 enum class Letters { Drawn, LeftOut };
 
-void Draw(const Face& face, ButtonState state, const ButtonLook& look, Letters letters,
-          const Image& finerStrip = {}) {
+/// `fonts` tell how much room the caption takes, drawn or not.
+void Draw(const Face& face, const FontEngine& fonts, ButtonState state, const ButtonLook& look,
+          Letters letters, const Image& finerStrip = {}) {
     Surface& pixels = face.Pixels();
     static_cast<FontProperties&>(pixels) = look.font;
     pixels.SetBackColor(look.backColor);
@@ -405,7 +384,7 @@ void Draw(const Face& face, ButtonState state, const ButtonLook& look, Letters l
         if (state == ButtonState::Focused) DrawFocusGlow(face);
     }
     // Picture and caption lie on the body and under the frame.
-    const Inside inside = LayOut(pixels.Fonts(), face.Width(), face.Height(), look);
+    const Inside inside = LayOut(fonts, face.Width(), face.Height(), look);
     DrawPicture(face, look, inside.picture, finerStrip);
     if (letters == Letters::Drawn) DrawCaption(pixels, look, inside);
     if (hasBody) DrawFrame(face, column);
@@ -414,18 +393,18 @@ void Draw(const Face& face, ButtonState state, const ButtonLook& look, Letters l
 }  // namespace
 
 void DrawButton(Surface& face, ButtonState state, const ButtonLook& look) {
-    Draw(Face(face, face.PixelWidth(), face.PixelHeight()), state, look, Letters::Drawn);
+    Draw(Face(face, face.PixelWidth(), face.PixelHeight()), face.Fonts(), state, look, Letters::Drawn);
 }
 
 void DrawFineButton(Surface& face, const VistaButton& button) {
     const Face blocks(face, button.PixelWidth(), button.PixelHeight());
     const Image finer = blocks.IsPlain() ? Image() : FinerEditionOf(button.Picture());
-    Draw(blocks, button.State(), LookOf(button), Letters::LeftOut, finer);
+    Draw(blocks, button.LetterFonts(), button.State(), button.Look(), Letters::LeftOut, finer);
 }
 
 ButtonCaption CaptionOf(const VistaButton& button) {
-    const ButtonLook look = LookOf(button);
-    const FontEngine& fonts = button.OwnerForm().Fonts();
+    const ButtonLook& look = button.Look();
+    const FontEngine& fonts = button.LetterFonts();
     const Inside inside = LayOut(fonts, button.PixelWidth(), button.PixelHeight(), look);
     const TextLayout layout =
         LayOutText(fonts, look.font.CurrentFont(), look.caption, inside.text.right - inside.text.left);

@@ -183,7 +183,6 @@ constexpr std::array<ToolButton, toolButtonCount> toolButtons{{
 constexpr int buttonsInAColumn = 7;
 /// Twips. The right one has the long captions.
 constexpr std::array<double, 2> columnWidths{1050, 1170};
-constexpr int toolIconFrames = 3;
 
 struct SliderLook {
     const SliderGroup& group;

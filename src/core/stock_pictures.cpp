@@ -13,7 +13,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr int iconSide = 14, fineness = 6, framesAStrip = 3, tagSide = 100;
+constexpr int iconSide = 14, fineness = 6, tagSide = 100;
 
 Image Cut(const Image& sheet, int left, int top, int width, int height) {
     Bitmap bitmap(width, height);
@@ -27,7 +27,7 @@ std::array<Image, toolButtonCount> CutIcons(const Image& sheet, int side) {
     std::array<Image, toolButtonCount> strips;
     int top = 0;
     for (Image& strip : strips) {
-        strip = Cut(sheet, 0, top, framesAStrip * side, side);
+        strip = Cut(sheet, 0, top, toolIconFrames * side, side);
         top += side;
     }
     return strips;

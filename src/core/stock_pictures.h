@@ -4,9 +4,11 @@
 
 namespace coinlet {
 
-/// The picture of a tool button, `Main.Knop(index)`: three frames of 14 by 14 pixels side by side, normal,
-/// disabled and pressed, with the buttons' usual mask colour, RGB(0,255,0), around the drawing. The empty
-/// picture for an index outside 0 to 15.
+/// The frames in the strip of a tool icon: normal, disabled and pressed.
+constexpr int toolIconFrames = 3;
+/// The picture of a tool button, `Main.Knop(index)`: these frames side by side, 14 by 14 pixels each, with
+/// the buttons' usual mask colour, RGB(0,255,0), around the drawing. The empty picture for an index outside 0
+/// to 15.
 Image ToolIconStrip(int index);
 /// Its finer edition: six times as large and without half-tones; each pixel is of the mask colour or isn't.
 Image FineToolIconStrip(int index);

@@ -61,7 +61,7 @@ void PlaceChanges(ClipartForm& form) {
     PlaceButtonRow(form.BWKnop, form.Label2, "All colors except Black",
                    {column, firstTop, columnWidth, width, buttonHeight}, 2);
     form.HorKnop.SetCaption("");
-    form.HorKnop.LoadPictures(3);
+    form.HorKnop.LoadPictures(toolIconFrames);
     form.HorKnop.SetPicture(ToolIconStrip(flipMenuTool));
     PlaceButtonRow(form.HorKnop, form.Label7, "Mirror",
                    {column, secondTop, columnWidth, width, buttonHeight});

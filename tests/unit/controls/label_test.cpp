@@ -2,6 +2,7 @@
 
 #include "controls/label.h"
 
+#include "controls/fine_button.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
 #include "controls/text_lines.h"
@@ -71,6 +72,25 @@ TEST_F(LabelTest, AButtonHasTheLettersOfCaptions) {
             ink += face.Point(x, y) == black ? 1 : 0;
     // One block of 3 by 7.
     EXPECT_EQ(ink, 21);
+}
+
+TEST_F(LabelTest, AButtonOnTheScreenLeavesRoomForTheLettersOfCaptions) {
+    VistaButton button(form, "Knop");
+    button.Move(0, 0, 600, 450);
+    button.SetCaption("a");
+    FontProperties font;
+    font.FontSize = 8;
+    button.SetFont(font);
+    EXPECT_EQ(CaptionOf(button).lineHeight, 8);
+    button.SetPictures(1);
+    button.SetPicture(Image(Bitmap(10, 10, ToPixel(white))));
+    Surface face(fonts, 40, 30);
+    DrawFineButton(face, button);
+    // The picture begins at (40 - 4 - 10 - 5) / 2.
+    EXPECT_NE(face.Point(9, 15), white);
+    EXPECT_EQ(face.Point(10, 15), white);
+    EXPECT_EQ(face.Point(19, 15), white);
+    EXPECT_NE(face.Point(20, 15), white);
 }
 
 TEST_F(LabelTest, AFieldIsWrappedInTheLettersOfCaptions) {

@@ -1,6 +1,7 @@
 // The whole face of the button in each state, against a slow drawing of the rules on a plain grid of colours.
 
 #include "button_form.h"
+#include "controls/fine_button.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -228,15 +229,15 @@ INSTANTIATE_TEST_SUITE_P(States, FaceTest, testing::ValuesIn(allStates));
 TEST(Face, TheFourCornersAreCut) {
     test::TestServices services;
     test::ButtonForm form(services.ForForms());
-    int cut = 0;
-    for (int y = 0; y < 24; ++y)
-        for (int x = 0; x < 70; ++x)
-            cut += form.OkKnop.IsCutPixel(x, y) ? 1 : 0;
-    EXPECT_EQ(cut, 4);
-    EXPECT_TRUE(form.OkKnop.IsCutPixel(0, 0));
-    EXPECT_TRUE(form.OkKnop.IsCutPixel(69, 0));
-    EXPECT_TRUE(form.OkKnop.IsCutPixel(0, 23));
-    EXPECT_TRUE(form.OkKnop.IsCutPixel(69, 23));
+    const PixelRect uncut = UncutPart(form.OkKnop.Face(), form.OkKnop);
+    std::vector<std::pair<int, int>> cut;
+    for (int y = 0; y < 24; ++y) {
+        for (int x = 0; x < 70; ++x) {
+            if ((x < uncut.left || x >= uncut.right) && (y < uncut.top || y >= uncut.bottom))
+                cut.emplace_back(x, y);
+        }
+    }
+    EXPECT_EQ(cut, (std::vector<std::pair<int, int>>{{0, 0}, {69, 0}, {0, 23}, {69, 23}}));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -35,17 +36,59 @@ struct FineButton : testing::Test {
     VistaButton& button = form.OkKnop;
 };
 
-struct FineButtonInState : FineButton, testing::WithParamInterface<ButtonState> {};
-INSTANTIATE_TEST_SUITE_P(All, FineButtonInState,
-                         testing::Values(ButtonState::Normal, ButtonState::Hover, ButtonState::Pressed,
-                                         ButtonState::Focused, ButtonState::Disabled));
+/// What was done to the button.
+struct Situation {
+    const char* name;
+    void (*enter)(test::ButtonForm& form);
+};
+void PrintTo(const Situation& situation, std::ostream* out) {
+    *out << situation.name;
+}
 
-TEST_P(FineButtonInState, PixelByPixelIsTheButtonItself) {
-    form.Enter(GetParam());
-    Bitmap strip(20, 9, ToPixel(red));
-    for (int y = 0; y < 9; ++y)
-        strip.Row(y)[y] = ToPixel(mask);
-    button.SetPicture(Image(std::move(strip)));
+const Situation situations[] = {
+    {"nothing", [](test::ButtonForm& form) { form.Enter(ButtonState::Normal); }},
+    {"pointed at", [](test::ButtonForm& form) { form.Enter(ButtonState::Hover); }},
+    {"held", [](test::ButtonForm& form) { form.Enter(ButtonState::Pressed); }},
+    {"focused", [](test::ButtonForm& form) { form.Enter(ButtonState::Focused); }},
+    {"disabled", [](test::ButtonForm& form) { form.Enter(ButtonState::Disabled); }},
+    {"held with the pointer drawn off it",
+     [](test::ButtonForm& form) {
+         form.OkKnop.PointerPressed(1, 0, 5, 5);
+         form.OkKnop.PointerMoved(1, 0, 200, 5);
+     }},
+    {"held and left by the focus",
+     [](test::ButtonForm& form) {
+         form.OkKnop.PointerPressed(1, 0, 5, 5);
+         form.Text1.SetFocus();
+     }},
+    {"disabled while it is held",
+     [](test::ButtonForm& form) {
+         form.OkKnop.PointerPressed(1, 0, 5, 5);
+         form.OkKnop.SetEnabled(false);
+     }},
+};
+
+struct FineButtonIn : FineButton, testing::WithParamInterface<Situation> {
+    /// Three frames of 8 by 9 that differ in their colours, with a line through each that shows the body.
+    FineButtonIn() {
+        constexpr int frame = 8, height = 9;
+        const std::vector<Colour> colours{red, RGB(0, 0, 250), RGB(250, 250, 0)};
+        Bitmap strip(static_cast<int>(colours.size()) * frame, height);
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < strip.Width(); ++x) {
+                strip.Row(y)[x] =
+                    ToPixel(x % frame == y ? mask : colours.at(static_cast<std::size_t>(x / frame)));
+            }
+        }
+        button.LoadPictures(3);
+        button.SetPicture(Image(std::move(strip)));
+        button.SetPictureOffset(3);
+    }
+};
+INSTANTIATE_TEST_SUITE_P(All, FineButtonIn, testing::ValuesIn(situations));
+
+TEST_P(FineButtonIn, PixelByPixelIsTheButtonItself) {
+    GetParam().enter(form);
     // Asked for nothing where the screen is no finer.
     HasFinerEdition(button.Picture(), [] {
         ADD_FAILURE();
@@ -122,9 +165,10 @@ TEST_P(Scaled, BothSidesAreMirrorImages) {
     const int width = PixelsFor(70), height = PixelsFor(24);
     const Image face = FaceOn(width, height);
     // The lower press marks are at the left alone.
-    for (int y = 0; y < height / 2; ++y)
+    for (int y = 0; y < height / 2; ++y) {
         for (int x = 0; x < width / 2; ++x)
             EXPECT_EQ(face.At(x, y), face.At(width - 1 - x, y)) << x << ", " << y;
+    }
 }
 
 TEST_P(Scaled, CornersAreCutByAPixelOfTheButton) {
@@ -180,6 +224,29 @@ TEST_F(FinePictureOfButton, IsAsFineAsTheScreen) {
     EXPECT_EQ(face.At(24, 27), red);
     EXPECT_EQ(face.At(25, 28), RGB(150, 50, 100));
     EXPECT_EQ(face.At(26, 29), RGB(50, 100, 200));
+}
+
+// 20 by 20 with a picture of 2 by 2, which stands from (9, 9) on and is moved by 4.
+TEST_F(FinePictureOfButton, IsThatOfAPressWhileTheButtonIsHeld) {
+    button.LoadPictures(3);
+    button.SetPicture(Strip({"    ##", "    ##"}, 1));
+    HasFinerEdition(button.Picture(), [] { return Strip({"    ##", "    ##"}, 6); });
+    button.SetPictureOffset(4);
+    for (const int times : {1, 2, 3}) {
+        const auto isShown = [&] {
+            const Image face = FaceOn(20 * times, 20 * times);
+            return face.At(13 * times, 13 * times) == red && face.At(15 * times - 1, 15 * times - 1) == red &&
+                   face.At(13 * times - 1, 13 * times) != red && face.At(13 * times, 15 * times) != red;
+        };
+        EXPECT_FALSE(isShown()) << times;
+        button.PointerPressed(1, 0, 5, 5);
+        EXPECT_TRUE(isShown()) << times;
+        button.PointerMoved(1, 0, 200, 5);
+        EXPECT_EQ(button.State(), ButtonState::Hover);
+        EXPECT_TRUE(isShown()) << times;
+        button.PointerReleased(1, 0, 200, 5);
+        EXPECT_FALSE(isShown()) << times;
+    }
 }
 
 TEST_F(FinePictureOfButton, WithoutAFineOneItsPixelsAreBlocks) {

@@ -168,6 +168,31 @@ TEST_F(PictureTest, TheOffsetMovesThePictureOnPressOnly) {
     EXPECT_EQ(Where(red), (PixelRect{18, 10, 28, 20}));
 }
 
+// The colours of a button's frame when hovered and disabled.
+constexpr Colour hoverFrame = RGB(232, 245, 252), disabledFrame = RGB(173, 178, 181);
+
+TEST_F(PictureTest, AHeldButtonThatThePointerIsDrawnOffKeepsThePictureOfThePress) {
+    button.LoadPictures(3);
+    button.SetPicture(Strip({red, blue, yellow}, 10, 10));
+    button.SetPictureOffset(2);
+    button.PointerPressed(1, 0, 5, 5);
+    button.PointerMoved(1, 0, 200, 5);
+    EXPECT_EQ(At(30, 0), hoverFrame);
+    EXPECT_EQ(Where(yellow), (PixelRect{27, 12, 37, 22}));
+    button.PointerReleased(1, 0, 200, 5);
+    EXPECT_EQ(Where(red), (PixelRect{25, 10, 35, 20}));
+}
+
+TEST_F(PictureTest, AButtonDisabledWhileItIsHeldKeepsTheOffset) {
+    button.LoadPictures(3);
+    button.SetPicture(Strip({red, blue, yellow}, 10, 10));
+    button.SetPictureOffset(2);
+    button.PointerPressed(1, 0, 5, 5);
+    button.SetEnabled(false);
+    EXPECT_EQ(At(30, 0), disabledFrame);
+    EXPECT_EQ(Where(blue), (PixelRect{27, 12, 37, 22}));
+}
+
 TEST_F(PictureTest, AnOffsetOutOfTheButtonShowsNoPicture) {
     button.SetPicture(Strip({red, blue}, 10, 10));
     form.Enter(ButtonState::Pressed);

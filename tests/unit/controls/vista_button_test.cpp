@@ -5,6 +5,7 @@
 #include "button_form.h"
 #include "event_log.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace coinlet {
@@ -355,8 +356,32 @@ TEST_F(ButtonTest, AClickHandlerMayHideTheButtonOrUnloadTheForm) {
 }
 
 TEST_F(ButtonTest, TheFaceIsDrawnAsItWasWhenTheStateChanged) {
+    constexpr Colour released = RGB(250, 0, 0), held = RGB(0, 0, 250);
+    Bitmap strip(9, 3, ToPixel(released));
+    for (int y = 0; y < 3; ++y)
+        std::fill_n(strip.Row(y) + 6, 3, ToPixel(held));
+    button.SetCaption("");
+    button.LoadPictures(3);
+    button.SetPicture(Image(std::move(strip)));
+    const auto inTheMiddle = [&] { return button.Face().Point(35, 11); };
+
     // A move outside while held shows the hover look with the picture of a press; letting go doesn't change
     // that look until the state does.
+    button.PointerPressed(1, 0, 5, 5);
+    button.PointerMoved(1, 0, 80, 5);
+    EXPECT_EQ(button.State(), Hover);
+    EXPECT_EQ(inTheMiddle(), held);
+    const auto drawn = button.LookRevision();
+    button.PointerReleased(1, 0, 5, 5);
+    EXPECT_EQ(button.State(), Hover);
+    EXPECT_EQ(button.LookRevision(), drawn);
+    EXPECT_EQ(inTheMiddle(), held);
+    form.Text1.SetFocus();
+    EXPECT_EQ(button.State(), Normal);
+    EXPECT_EQ(inTheMiddle(), released);
+}
+
+TEST_F(ButtonTest, APressOfAHeldButtonDrawsNothing) {
     button.PointerPressed(1, 0, 5, 5);
     const auto pressed = button.LookRevision();
     button.PointerPressed(2, 0, 5, 5);
