@@ -12,10 +12,10 @@ run_packages+=("${display_fonts[@]}")
 package_packages=(dpkg-dev)
 test_packages=("${package_packages[@]}" lintian appstream desktop-file-utils
     libgtest-dev libbenchmark-dev libxcb-xfixes0-dev libxcb-xtest0-dev libsm-dev xvfb xauth x11-xserver-utils xdotool
-    dbus-daemon at-spi2-core clang-format clang-tidy)
+    dbus-daemon at-spi2-core poppler-utils clang-format clang-tidy)
 fuzz_packages=("${test_packages[@]}" clang libclang-rt-14-dev llvm)
 assets_packages=(python3 python3-pil python3-numpy python3-cairo python3-fonttools librsvg2-bin fonts-symbola
-    poppler-utils weasyprint faketime)
+    weasyprint faketime)
 
 packages=("${run_packages[@]}")
 case "${1:-run}" in

@@ -23,6 +23,8 @@ public:
     };
     struct Text {
         double x = 0, y = 0;
+        FontProperties font;
+        Colour colour = black;
         std::string text;
     };
     struct Sheet {
@@ -36,8 +38,9 @@ public:
 
     void SetOrientation(PageOrientation orientation) override { orientation_ = orientation; }
     void FeedPage() override { Page(); }
-    void Print(double x, double y, const FontProperties&, Colour, std::string_view text) override {
-        Page().texts.push_back({x, y, std::string(text)});
+    void Print(double x, double y, const FontProperties& font, Colour colour,
+               std::string_view text) override {
+        Page().texts.push_back({x, y, font, colour, std::string(text)});
     }
     void PaintPicture(const Image& image, const Rectangle& to) override {
         Page().pictures.push_back({image, to});
@@ -131,6 +134,38 @@ TEST_F(PrintJobs, InfoTextRunsOffTheSheet) {
     ASSERT_EQ(texts.size(), 42U);
     EXPECT_EQ(texts.back().x, 10200);
     EXPECT_EQ(texts.back().y, 8700 + 39 * 210);
+}
+
+TEST_F(PrintJobs, LettersAreThoseOfTheirKind) {
+    const auto expect = [](const Sheets::Text& text, float size, bool bold, Colour colour) {
+        SCOPED_TRACE(text.text);
+        EXPECT_EQ(text.font.FontName, "Arial");
+        EXPECT_EQ(text.font.FontSize, size);
+        EXPECT_EQ(text.font.FontBold, bold);
+        EXPECT_FALSE(text.font.FontItalic);
+        EXPECT_EQ(text.colour, colour);
+    };
+    SetRows({"row"});
+    PrintDesign(there, 1, true);
+    StoreDesigns(1);
+    PrintAllDesigns(there, form.File1, form.Picture2.surface);
+    StorePicture("Cliparts/a.art", black);
+    platform.answers = {Answer::Yes};
+    PrintAllCliparts(there, form.File1, form.Picture2.surface);
+    ASSERT_EQ(paper.sheets.size(), 3U);
+
+    const auto& design = paper.sheets[0].texts;
+    ASSERT_EQ(design.size(), 3U);
+    expect(design[0], 10, true, RGB(90, 0, 0));
+    expect(design[1], 10, true, RGB(90, 0, 0));
+    expect(design[2], 9, true, RGB(0, 80, 0));
+    const auto& designs = paper.sheets[1].texts;
+    ASSERT_EQ(designs.size(), 2U);
+    expect(designs[0], 10, true, RGB(90, 0, 0));
+    expect(designs[1], 7, false, black);
+    const auto& cliparts = paper.sheets[2].texts;
+    ASSERT_EQ(cliparts.size(), 1U);
+    expect(cliparts[0], 7, false, black);
 }
 
 TEST_F(PrintJobs, DesignsStandInFiveColumns) {
