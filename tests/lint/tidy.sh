@@ -35,7 +35,7 @@ check() {
     shift
     # What it has no command for, it passes.
     if [ $# -gt 1 ] && grep -qF "\"$text\"" "$texts/compile_commands.json" &&
-        tidy -p "$texts" --extra-arg="-I$(dirname "$1")" "$text" >/dev/null; then
+        tidy -p "$texts" "$text" >/dev/null; then
         for source in "$@"; do touch "$(stamp_of "$source")"; done
         return
     fi
@@ -52,7 +52,7 @@ done >"$texts/unread"
 
 # lists: a line for each text, of its sources; those of most first, so that no processor is left alone with them.
 while read -r folder; do
-    awk -v most="${TIDY_MOST:-20}" -f cmake/joined_sources.awk $headers $(find tests/support "$folder" -name '*.h') \
+    awk -v most=20 -f cmake/joined_sources.awk $headers $(find tests/support "$folder" -name '*.h') \
         $(grep "^$folder/[^/]*$" "$texts/unread") |
         awk '$1 == 0 { print 1, $2; next } { sources[$1] = sources[$1] " " $2; ++count[$1] }
              END { for (i in sources) print count[i] sources[i] }'
