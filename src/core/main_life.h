@@ -4,7 +4,8 @@ namespace coinlet {
 
 struct Context;
 
-/// The life of the main window and of the design in it: activation, the clock, a new design, undo, leaving.
+/// The life of the main window and of the design in it: activation, the clock, the cross lines, a new design,
+/// undo, leaving by the menu or the window's close box.
 class MainLife {
 public:
     explicit MainLife(Context& context);

@@ -31,7 +31,9 @@ public:
 
 class StillClock : public Clock {
 public:
-    DateTime Now() const override { return {}; }
+    DateTime Now() const override { return now; }
+
+    DateTime now;
 };
 
 class PlainDesktop : public Desktop {
