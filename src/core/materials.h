@@ -1,5 +1,7 @@
 #pragma once
 
+#include "surface/colour.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -11,6 +13,8 @@ struct Material {
     std::string_view name;
     std::int16_t red, green, blue;
     int holeColumn;  ///< Where its cell starts in the picture of holes, in pixels.
+
+    constexpr Colour Shade() const { return RGB(red, green, blue); }
 };
 
 constexpr std::array<Material, 4> materials{{

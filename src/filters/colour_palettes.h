@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/materials.h"
 #include "filters/colour_replacement.h"
 
 #include <array>
@@ -29,6 +30,13 @@ constexpr PaletteColours mixed{RGB(255, 255, 0), RGB(0, 255, 255), RGB(255, 0, 2
 
 }  // namespace palette_colours
 
+/// What is black becomes the metal.
+constexpr ColourPalette MetalPalette(const Material& metal) {
+    return {metal.name,
+            palette_colours::plain,
+            {palette_colours::red, palette_colours::green, palette_colours::blue, metal.Shade(), white}};
+}
+
 constexpr std::array<ColourPalette, 11> colourPalettes{{
     {"Current Colors", palette_colours::plainDarkGreen, palette_colours::plainDarkGreen},
     {"Example1", palette_colours::plainDarkGreen, palette_colours::plainDarkGreen},
@@ -44,15 +52,9 @@ constexpr std::array<ColourPalette, 11> colourPalettes{{
      {palette_colours::green, palette_colours::blue, palette_colours::red, white, black}},
     {"Example6", palette_colours::mixed, palette_colours::mixed},
     {"Example7", palette_colours::plain, {white, white, white, black, white}},
-    {"Shiny Copper",
-     palette_colours::plain,
-     {palette_colours::red, palette_colours::green, palette_colours::blue, RGB(228, 112, 30), white}},
-    {"Shiny Silver",
-     palette_colours::plain,
-     {palette_colours::red, palette_colours::green, palette_colours::blue, RGB(128, 128, 132), white}},
-    {"Shiny Gold",
-     palette_colours::plain,
-     {palette_colours::red, palette_colours::green, palette_colours::blue, RGB(240, 173, 0), white}},
+    MetalPalette(materials[1]),
+    MetalPalette(materials[2]),
+    MetalPalette(materials[3]),
 }};
 
 }  // namespace coinlet

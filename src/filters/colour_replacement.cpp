@@ -1,5 +1,6 @@
 #include "filters/colour_replacement.h"
 
+#include "core/materials.h"
 #include "filters/channels.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void PaletteTargets::Replace(std::span<Pixel> pixels, const PaletteColours& resu
 
 void ReplaceDarkPixels(std::span<Pixel> pixels, Metal metal) {
     // Copper is meant to come out as a strong red, unlike the box that stands for it.
-    constexpr std::array colours{RGB(228, 11, 30), RGB(128, 128, 132), RGB(240, 173, 0)};
+    constexpr std::array colours{RGB(228, 11, 30), materials[2].Shade(), materials[3].Shade()};
     constexpr Pixel darkBelow = 50;
     const Pixel ink = ToPixel(colours.at(static_cast<std::size_t>(metal)));
     for (Pixel& pixel : pixels) {
