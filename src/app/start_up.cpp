@@ -2,6 +2,8 @@
 
 #include "base/desktop.h"
 #include "base/files.h"
+#include "base/font.h"
+#include "base/program.h"
 #include "colour/pms_table.h"
 #include "controls/number_list.h"
 #include "core/about.h"
@@ -58,11 +60,11 @@ void FillTextPanel(Context& context) {
     MainForm& main = context.main;
     for (const std::string& family : context.services.fonts.Families())
         main.Combo2.AddItem(family);
-    main.Combo2.SetText("Arial");
+    main.Combo2.SetText(std::string(standardFontName));
     FillWithNumbers(main.Combo3, letterSizes);
-    main.Text1.SetText("Coinlet Designer");
+    main.Text1.SetText(std::string(programTitle));
     main.Label17.Caption = "Draw Text";
-    main.InfoLabel.Caption = "Maak uw keuze...";
+    main.InfoLabel.Caption = languages[0].greeting;
 }
 
 void ReadSettings(Context& context) {

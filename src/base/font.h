@@ -8,11 +8,17 @@
 
 namespace coinlet {
 
+/// The font of whatever names none.
+constexpr std::string_view standardFontName = "Arial";
+constexpr double standardFontSize = 8.25;  ///< Points.
+
+constexpr int pixelsPerInch = 96, pointsPerInch = 72;
+
 /// A font as a surface or a control asks for it. A name that the system lacks is given by the platform's
 /// substitute; nobody is told.
 struct FontSpec {
-    std::string name = "Arial";
-    double size = 8.25;  ///< Points; 96/72 pixels a point. Sizes not above 0 (and NaN) count as 8.25.
+    std::string name{standardFontName};
+    double size = standardFontSize;  ///< Points. Sizes not above 0 (and NaN) count as the standard one.
     bool bold = false;
     bool italic = false;
     bool underline = false;

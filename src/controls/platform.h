@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/program.h"
 #include "controls/form.h"
 
 #include <string>
@@ -18,8 +19,6 @@ class ProgramEnded {};
 enum class MessageButtons { Ok, YesNo };
 enum class MessageIcon { None, Stop, Question, Warning, Information };
 enum class Answer { Ok, Cancel, Yes, No };
-
-constexpr std::string_view programTitle = "Coinlet Designer";
 
 /// A message box or a question. Escape in a yes/no box is No.
 struct Message {

@@ -32,11 +32,10 @@ void HelpMenu::HelpHelp_Click() {
 
 void HelpMenu::HelpTaal_Click(int index) {
     MainForm& main = context_.main;
-    const bool dutch = index == 1;
-    const std::string language = dutch ? "Nederlands" : "English";
-    LoadLanguage(context_, language);
-    main.InfoLabel.Caption = dutch ? "Informatie..." : "Information...";
-    context_.session.LanguageName = language;
+    const Language& language = languages.at(static_cast<std::size_t>(index - main.HelpTaal.First()));
+    LoadLanguage(context_, std::string(language.name));
+    main.InfoLabel.Caption = language.chosen;
+    context_.session.LanguageName = language.name;
     ShowLanguageInTitle(context_);
 }
 

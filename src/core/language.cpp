@@ -1,10 +1,13 @@
 #include "core/language.h"
 
 #include "base/files.h"
+#include "base/program.h"
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/row_file.h"
+
+#include <algorithm>
 
 namespace coinlet {
 
@@ -31,8 +34,6 @@ const std::string* LineOf(const Context& context, std::string_view key) {
 
 void LoadLanguage(Context& context, const std::string& languageName) {
     MainForm& main = context.main;
-    main.HelpTaal[1].Checked = false;
-    main.HelpTaal[2].Checked = false;
     main.InfoList.Clear();
 
     const std::string fileName = languageName + ".txt";
@@ -41,9 +42,11 @@ void LoadLanguage(Context& context, const std::string& languageName) {
         AddRowsOfFile(main.InfoList, path);
     }
 
-    const bool dutch = languageName == "Nederlands";
-    main.HelpTaal[dutch ? 1 : 2].Checked = true;
-    main.InfoLabel.Caption = dutch ? "Maak uw keuze..." : "Make your choice...";
+    const auto named = std::ranges::find(languages, languageName, &Language::name);
+    const auto shown = named != languages.end() ? named : languages.end() - 1;
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        main.HelpTaal[main.HelpTaal.First() + static_cast<int>(i)].Checked = &languages[i] == &*shown;
+    main.InfoLabel.Caption = shown->greeting;
 }
 
 std::string LookupInfoText(Context& context, std::string_view key) {
@@ -63,7 +66,7 @@ void ShowHint(Context& context, std::string_view key) {
 }
 
 void ShowLanguageInTitle(Context& context) {
-    context.main.Caption = "Coinlet Designer (" + context.session.LanguageName + ")";
+    context.main.Caption = std::string(programTitle) + " (" + context.session.LanguageName + ")";
 }
 
 }  // namespace coinlet

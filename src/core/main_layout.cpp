@@ -1,5 +1,6 @@
 #include "core/main_layout.h"
 
+#include "base/program.h"
 #include "controls/house_colours.h"
 #include "core/main_form.h"
 #include "core/side_panel.h"
@@ -333,7 +334,7 @@ void WidenCorner(MainForm& main) {
 void LayOutMain(MainForm& main) {
     main.Width = 16470;
     main.Height = 10020;
-    main.Caption = "Coinlet Designer";
+    main.Caption = programTitle;
     LayOutStrip(main);
     LayOutBrowser(main);
     LayOutCanvas(main);

@@ -1,6 +1,7 @@
 #include "core/main_life.h"
 
 #include "base/clock.h"
+#include "base/program.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -46,7 +47,7 @@ void MainLife::Form_Unload(bool& cancel) {
         const std::string question = LookupInfoText(context_, key::changesNotSaved) + "\r\n" +
                                      LookupInfoText(context_, key::confirmLeaving);
         const Answer answer = platform.ShowMessage({.prompt = question,
-                                                    .title = " Close Coinlet Designer",
+                                                    .title = " Close " + std::string(programTitle),
                                                     .buttons = MessageButtons::YesNo,
                                                     .icon = MessageIcon::Question,
                                                     .standard = Answer::Yes});

@@ -1,5 +1,6 @@
 #include "core/main_menus.h"
 
+#include "core/language.h"
 #include "core/main_form.h"
 #include "core/tool_codes.h"
 
@@ -11,7 +12,6 @@ namespace coinlet {
 namespace {
 
 // In the order of their indexes, from the first of the array on.
-constexpr std::array<std::string_view, 2> languageCaptions{"Dutch", "English"};
 constexpr std::array<std::string_view, 2> screenCaptions{"Resolution", "Change Resolution"};
 constexpr std::array<std::string_view, shapeCount> shapeCaptions{"Rectangle",      "Rounded Rectangle",
                                                                  "Ellipse",        "Triangle",
@@ -36,7 +36,8 @@ void Caption(ControlArray<MenuItem>& entries, const std::array<std::string_view,
 }  // namespace
 
 void CaptionMainMenus(MainForm& main) {
-    Caption(main.HelpTaal, languageCaptions);
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        main.HelpTaal[main.HelpTaal.First() + static_cast<int>(i)].Caption = languages[i].caption;
     Caption(main.HelpScreen, screenCaptions);
     Caption(main.Vormen, shapeCaptions);
     Caption(main.FlipPic, flipCaptions);

@@ -4,6 +4,7 @@
 #include "controls/house_colours.h"
 #include "controls/property.h"
 #include "core/design_revision.h"
+#include "core/language.h"
 #include "core/materials.h"
 #include "core/tool_codes.h"
 #include "core/tool_sliders.h"
@@ -56,7 +57,7 @@ struct Session {
     std::string DesignFile;
     /// The folder that the image browser lists.
     std::string ImageFolder;
-    std::string LanguageName = "Nederlands";
+    std::string LanguageName{languages[0].name};
     std::string MaterialName = std::string(materials[0].name);
     std::int16_t MaterialRed = 0, MaterialGreen = 0, MaterialBlue = 0;
     /// The fill colour of the present pick. Red and green keep the text they came from, a number's decimal

@@ -1,6 +1,8 @@
 #include "designers/circel_text.h"
 
+#include "base/font.h"
 #include "base/numbers.h"
+#include "base/program.h"
 #include "base/text.h"
 #include "controls/number_list.h"
 #include "core/canvas_dialog.h"
@@ -47,14 +49,14 @@ CircelText::CircelText(Context& context)
 }
 
 void CircelText::Form_Load() {
-    Text1.SetText("Coinlet Designer");
+    Text1.SetText(std::string(programTitle));
     Label8.Caption = LookupInfoText(context_, key::curvedTextHelp);
     FillWithNumbers(Combo1, distances);
     FillWithNumbers(Combo2, radii);
     FillWithNumbers(Combo3, sizes);
     for (const std::string& family : context_.services.fonts.Families())
         Combo4.AddItem(family);
-    Combo4.SetText("Arial");
+    Combo4.SetText(std::string(standardFontName));
     Label9.BackColor = context_.main.ColorLabel.BackColor;
     CopyCanvas(context_, Pic.surface);
     Text1.SetFocus();

@@ -9,9 +9,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr int pointsPerInch = 72;
-constexpr int boldWeight = 700, plainWeight = 400;
-constexpr std::uint8_t smoothQuality = 4;
 constexpr int unitsPerDegree = 10;
 
 bool FitsEscapement(int rotation) {

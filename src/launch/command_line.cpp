@@ -1,5 +1,7 @@
 #include "launch/command_line.h"
 
+#include "base/program.h"
+
 #include <algorithm>
 
 namespace coinlet {
@@ -34,7 +36,7 @@ std::variant<CommandLine, Notice> ReadCommandLine(std::span<const std::string_vi
         return std::ranges::find(options, option) != options.end();
     };
     if (asks("--help")) return Notice{std::string(help), 0};
-    if (asks("--version")) return Notice{"Coinlet Designer " COINLET_VERSION "\n", 0};
+    if (asks("--version")) return Notice{std::string(programTitle) + " " COINLET_VERSION "\n", 0};
 
     CommandLine line;
     for (std::size_t i = 0; i < arguments.size(); ++i) {

@@ -33,8 +33,8 @@ double PlainAngle(double angle) {
 }
 
 int PixelSize(double points) {
-    constexpr double pixelsAPoint = 96.0 / 72.0, most = 4096;
-    return static_cast<int>(std::lround(std::clamp(points * pixelsAPoint, 1.0, most)));
+    constexpr double most = 4096;
+    return static_cast<int>(std::lround(std::clamp(points * pixelsPerInch / pointsPerInch, 1.0, most)));
 }
 
 /// Full hinting puts every advance on a whole number of pixels, so that a text is as wide as its letters are

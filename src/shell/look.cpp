@@ -93,9 +93,10 @@ QPalette MenuPalette() {
 }  // namespace
 
 QFont ToQFont(const FontProperties& font) {
-    const double points = font.FontSize > 0 ? std::min(static_cast<double>(font.FontSize), 1000.0) : 8.25;
+    const double points =
+        font.FontSize > 0 ? std::min(static_cast<double>(font.FontSize), 1000.0) : standardFontSize;
     QFont result(ToQString(font.FontName));
-    result.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 96 / 72))));
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(points * pixelsPerInch / pointsPerInch))));
     // Whole-pixel advances, as the program measures its texts.
     result.setHintingPreference(QFont::PreferFullHinting);
     result.setBold(font.FontBold);

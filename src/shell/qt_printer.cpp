@@ -1,6 +1,7 @@
 #include "shell/qt_printer.h"
 
 #include "base/files.h"
+#include "base/program.h"
 #include "shell/look.h"
 #include "shell/qt_image.h"
 #include "shell/qt_text.h"
@@ -25,7 +26,6 @@ namespace {
 
 constexpr std::string_view fileName = "Coinlet.pdf";
 constexpr std::string_view filePrinter = "PDF";
-const QString documentName = QStringLiteral("Coinlet Designer");
 constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
 constexpr double lineWidth = 10;  // Twips: half a point.
@@ -123,7 +123,7 @@ SystemPrinters ToolkitPrinters() {
             .open = [](const std::string& name) -> std::unique_ptr<QPagedPaintDevice> {
                 auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
                 printer->setPrinterName(ToQString(name));
-                printer->setDocName(documentName);
+                printer->setDocName(ToQString(programTitle));
                 printer->setFullPage(true);
                 return printer;
             }};
@@ -236,8 +236,8 @@ void QtPrinter::PrintToFile(const Job& job) const {
     file.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&file);
-        writer.setTitle(documentName);
-        writer.setCreator(documentName);
+        writer.setTitle(ToQString(programTitle));
+        writer.setCreator(ToQString(programTitle));
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins({});
         if (!PrintSheets(job.sheets, writer)) return;

@@ -1,5 +1,6 @@
 #include "shell/shell.h"
 
+#include "base/program.h"
 #include "shell/ending_signals.h"
 #include "shell/look.h"
 #include "shell/qt_clipboard.h"
@@ -40,7 +41,7 @@ public:
 ToolkitApplication* MakeApplication(int& argc, char** argv, bool hasScreen) {
     if (!hasScreen) qputenv("QT_QPA_PLATFORM", "offscreen");
     PrepareToolkit();
-    QCoreApplication::setApplicationName(QStringLiteral("Coinlet Designer"));
+    QCoreApplication::setApplicationName(ToQString(programTitle));
     // Desktops find the icon and the name of a window by it; it is the name of the installed desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("coinlet-designer"));
     auto* application = new ToolkitApplication(argc, argv);

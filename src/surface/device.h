@@ -112,16 +112,20 @@ int DrawTextA(DeviceContext hDC, std::string_view text, RECT& rectangle, unsigne
 /// Sets the colour of device text, which is the surface's `ForeColor`. Returns the former one.
 Colour SetTextColor(DeviceContext hDC, Colour colour);
 
+// What `lfWeight` and `lfQuality` of a logical font say.
+constexpr std::int32_t plainWeight = 400, boldWeight = 700;
+constexpr std::uint8_t smoothQuality = 4;  ///< Smooth edges.
+
 /// A logical font. Only the fields that this program fills; what a font is called is UTF-8.
 struct LOGFONT {
     std::int32_t lfHeight = 0;  ///< Negative: height of the letters in pixels.
     std::int32_t lfWidth = 0;
     std::int32_t lfEscapement = 0;  ///< Tenths of a degree, counter-clockwise.
     std::int32_t lfOrientation = 0;
-    std::int32_t lfWeight = 400;  ///< 700 is bold.
+    std::int32_t lfWeight = plainWeight;  ///< From `boldWeight` on it is bold.
     std::uint8_t lfItalic = 0, lfUnderline = 0, lfStrikeOut = 0, lfCharSet = 0;
     std::uint8_t lfOutPrecision = 0, lfClipPrecision = 0;
-    std::uint8_t lfQuality = 0;  ///< 4: smooth edges.
+    std::uint8_t lfQuality = 0;
     std::uint8_t lfPitchAndFamily = 0;
     std::string lfFaceName;  ///< At most 32 characters.
 };

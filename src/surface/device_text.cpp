@@ -16,16 +16,12 @@
 namespace coinlet {
 namespace {
 
-constexpr int dotsPerInch = 96;
-constexpr double pointsPerInch = 72;
 constexpr std::size_t longestFaceName = 32;
-constexpr int boldWeight = 700;
-constexpr int smoothQuality = 4;
 
-// The letters' height in pixels is their size; 96 dots an inch make it points.
+// The letters' height in pixels is their size.
 FontSpec ToFontSpec(const LOGFONT& font) {
     return {font.lfFaceName,
-            std::abs(static_cast<double>(font.lfHeight)) * pointsPerInch / dotsPerInch,
+            std::abs(static_cast<double>(font.lfHeight)) * pointsPerInch / pixelsPerInch,
             font.lfWeight >= boldWeight,
             font.lfItalic != 0,
             font.lfUnderline != 0,
@@ -97,7 +93,7 @@ void TextOutA(DeviceContext hDC, int x, int y, std::string_view text) {
 }
 
 int GetDeviceCaps(DeviceContext, int index) {
-    return index == LOGPIXELSY ? dotsPerInch : 0;
+    return index == LOGPIXELSY ? pixelsPerInch : 0;
 }
 
 int MulDiv(int number, int numerator, int denominator) {

@@ -8,8 +8,8 @@ namespace coinlet {
 
 /// The font of whatever prints: surfaces, labels, text boxes. What is set is what is read back.
 struct FontProperties {
-    std::string FontName = "Arial";
-    float FontSize = 8.25F;
+    std::string FontName{standardFontName};
+    float FontSize{standardFontSize};
     bool FontBold = false;
     bool FontItalic = false;
     bool FontUnderline = false;
