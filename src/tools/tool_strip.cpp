@@ -144,6 +144,8 @@ void ToolStrip::Knop_Click(int index) {
     main.HScroll5.SetValue(canvasLeft);
     main.Pic.SetLeft(canvasLeft);
     main.Pic.SetWidth(canvasTwips);
+    // Sliding the canvas back serves events, which may have shown it again.
+    (main.*canvasSlider.caption).Visible = false;
 
     const auto place = static_cast<std::size_t>(index);
     const ToolRow& row = toolRows.at(place);
