@@ -47,8 +47,8 @@ TEST_F(AboutTest, CreditsStandAtTheFootInYellow) {
         main.LabelPic.surface.Cls();
         const auto& lines = Lines();
         ASSERT_EQ(lines.size(), static_cast<std::size_t>(credits + (hasFile ? 1 : 0)));
-        const std::vector<std::string> beginnings{"Designer.....: ", "Website.....: ", "E-mail........: ",
-                                                  "Translator...: "};
+        const std::vector<std::string> beginnings{
+            "Designer.....: ", "Website.....: ", "E-mail........: ", "Translator...: "};
         for (int i = 0; i < credits; ++i) {
             const PrintedLine& line = lines[lines.size() - credits + static_cast<std::size_t>(i)];
             const std::string& beginning = beginnings[static_cast<std::size_t>(i)];
