@@ -76,8 +76,7 @@ Collection ReadCollection(const fs::path& file) {
     if (IsMissing(file)) return {};
     const auto bytes = ReadFile(file, largestCollection);
     if (!bytes) return {.numbers = {}, .readable = false};
-    const std::string_view text(reinterpret_cast<const char*>(bytes->data()), bytes->size());
-    return {.numbers = ParseCollection(FromCodePage(text)), .readable = true};
+    return {.numbers = ParseCollection(FromCodePage(AsText(*bytes))), .readable = true};
 }
 
 void WriteCollection(const fs::path& file, const std::vector<std::string>& numbers, FileCalls& calls) {

@@ -33,8 +33,7 @@ void PrintAboutText(Context& context) {
     const fs::path file = Beneath(context.services.applicationFolder, "\\Data\\About.inf");
     if (const auto bytes = ReadFile(file, largestText)) {
         float y = firstLine;
-        for (const std::string& line :
-             Lines(FromCodePage({reinterpret_cast<const char*>(bytes->data()), bytes->size()}))) {
+        for (const std::string& line : Lines(FromCodePage(AsText(*bytes)))) {
             PrintLine(board, y, line);
             y += lineHeight;
         }

@@ -11,8 +11,7 @@ void AddRows(ListBox& list, std::string_view text) {
 }
 
 void AddRowsOfFile(ListBox& list, const fs::path& path) {
-    if (const auto bytes = ReadFile(path, largestRowText))
-        AddRows(list, {reinterpret_cast<const char*>(bytes->data()), bytes->size()});
+    if (const auto bytes = ReadFile(path, largestRowText)) AddRows(list, AsText(*bytes));
 }
 
 }  // namespace coinlet

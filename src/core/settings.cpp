@@ -19,8 +19,7 @@ constexpr std::size_t largestSettings = std::size_t{1} << 20;
 std::optional<std::string> ReadLanguageSetting(const fs::path& applicationFolder) {
     const auto bytes = ReadFile(Beneath(applicationFolder, settingsFile), largestSettings);
     if (!bytes) return {};
-    const std::vector<std::string> lines =
-        Lines(FromCodePage({reinterpret_cast<const char*>(bytes->data()), bytes->size()}));
+    const std::vector<std::string> lines = Lines(FromCodePage(AsText(*bytes)));
     if (lines.size() <= languageLine) return {};
     const std::string& line = lines[languageLine];
     return line.substr(0, line.find(','));

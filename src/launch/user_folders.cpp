@@ -51,8 +51,7 @@ void MakePictureFolder(const Environment& environment) {
     constexpr std::size_t largestUserDirs = 1 << 20;
     const auto settings = BaseFolder(environment, "XDG_CONFIG_HOME", ".config");
     const auto userDirs = ReadFile(settings / "user-dirs.dirs", largestUserDirs);
-    if (userDirs && NamesPictureFolder({reinterpret_cast<const char*>(userDirs->data()), userDirs->size()}))
-        return;
+    if (userDirs && NamesPictureFolder(AsText(*userDirs))) return;
     std::error_code failed;
     std::filesystem::create_directory(home / "Pictures", failed);
 }

@@ -61,7 +61,7 @@ void ReadInfoTextOf(const Context& context, const fs::path& picture, const ReadC
     if (!file) return;
     const auto start = ReadStart(*file, largestRowText, read);
     if (!start) return;
-    std::string_view text(reinterpret_cast<const char*>(start->bytes.data()), start->bytes.size());
+    std::string_view text = AsText(start->bytes);
     // A row that is cut off was never read; npos + 1 is 0, no row at all.
     if (!start->isWhole) text = text.substr(0, text.find_last_of(lineEnd) + 1);
     for (int item = 0; item < headerItems; ++item)
