@@ -2,6 +2,7 @@
 
 #include "base/program.h"
 #include "controls/house_colours.h"
+#include "controls/placing.h"
 #include "core/main_form.h"
 #include "core/side_panel.h"
 #include "core/slider_groups.h"
@@ -29,46 +30,41 @@ constexpr double Twips(int pixels) {
     return pixels * twipsPerPixel;
 }
 
-/// Places a control by pixels on its frame.
-void Place(Control& control, int left, int top, int width, int height) {
-    control.Move(Twips(left), Twips(top), Twips(width), Twips(height));
-}
-
 void LayOutStrip(MainForm& main) {
-    Place(main.MenuPic, 0, 0, 1098, 28);
+    PlaceByPixels(main.MenuPic, 0, 0, 1098, 28);
     main.MenuPic.Border = false;
     main.MenuPic.BackColor = fieldColour;
     for (Label* label : {&main.Label2, &main.Label19, &main.KlokLabel}) {
         label->ForeColor = fieldTextColour;
         label->FontSize = 9;
     }
-    Place(main.Label2, 12, 6, 560, 16);
-    Place(main.Label19, 584, 6, 200, 16);
+    PlaceByPixels(main.Label2, 12, 6, 560, 16);
+    PlaceByPixels(main.Label19, 584, 6, 200, 16);
     main.Label19.ForeColor = accentColour;
     main.Label19.Alignment = Alignment::Center;
     main.Label19.Visible = false;
-    Place(main.KlokLabel, 906, 6, 180, 16);
+    PlaceByPixels(main.KlokLabel, 906, 6, 180, 16);
     main.KlokLabel.Alignment = Alignment::Right;
 }
 
 void LayOutBrowser(MainForm& main) {
-    Place(main.Frame1, 4, 32, 196, 548);
-    Place(main.ImgKnop, 9, 12, 115, 24);
-    Place(main.Bar, 9, 16, 115, 15);
+    PlaceByPixels(main.Frame1, 4, 32, 196, 548);
+    PlaceByPixels(main.ImgKnop, 9, 12, 115, 24);
+    PlaceByPixels(main.Bar, 9, 16, 115, 15);
     main.Bar.Visible = false;
-    Place(main.MapKnop, 128, 12, 59, 24);
-    Place(main.List1, 9, 44, 178, 280);
+    PlaceByPixels(main.MapKnop, 128, 12, 59, 24);
+    PlaceByPixels(main.List1, 9, 44, 178, 280);
     main.List1.ForeColor = fileListTextColour;
     main.List1.BackColor = fileListColour;
     main.File1.Visible = false;
-    Place(main.Label8, 9, 332, 178, 16);
+    PlaceByPixels(main.Label8, 9, 332, 178, 16);
     main.Pic2.Move(135, 5355, Twips(previewSide), Twips(previewSide));
 
-    Place(main.Frame3, 4, 584, 196, 80);
-    Place(main.HorKnop, 9, 10, 58, 28);
-    Place(main.VerKnop, 69, 10, 58, 28);
-    Place(main.RotatieKnop, 129, 10, 58, 28);
-    Place(main.OkKnop, 9, 44, 178, 28);
+    PlaceByPixels(main.Frame3, 4, 584, 196, 80);
+    PlaceByPixels(main.HorKnop, 9, 10, 58, 28);
+    PlaceByPixels(main.VerKnop, 69, 10, 58, 28);
+    PlaceByPixels(main.RotatieKnop, 129, 10, 58, 28);
+    PlaceByPixels(main.OkKnop, 9, 44, 178, 28);
 
     main.ImgKnop.SetCaption("Images");
     main.MapKnop.SetCaption("Folder");
@@ -84,7 +80,7 @@ void LayOutBrowser(MainForm& main) {
 }
 
 void LayOutCanvas(MainForm& main) {
-    Place(main.Frame2, 204, 32, 720, 548);
+    PlaceByPixels(main.Frame2, 204, 32, 720, 548);
     main.LabelPic.surface.SetScaleMode(twipScale);
     main.LabelPic.Move(75, 180, 10650, 7935);
     main.LabelPic.surface.SetBackColor(boardColour);
@@ -211,26 +207,26 @@ void LayOutSlider(MainForm& main, const SliderLook& look) {
     caption.Caption = group.text(look.range.standard);
     const bool framed = group.panel != nullptr;
     const int left = framed ? 16 : 10, width = framed ? 138 : 150;
-    Place(caption, left, look.top, width, 14);
-    Place(bar, left, look.top + 18, width, 16);
+    PlaceByPixels(caption, left, look.top, width, 14);
+    PlaceByPixels(bar, left, look.top + 18, width, 16);
     if (!framed) return;
     Label& panel = main.*group.panel;
-    Place(panel, 10, look.top - 6, 150, group.tick != nullptr ? 70 : 48);
+    PlaceByPixels(panel, 10, look.top - 6, 150, group.tick != nullptr ? 70 : 48);
     panel.Transparent = false;
     panel.BackColor = sliderPanelColour;
     if (group.tick == nullptr) return;
     CheckBox& tick = main.*group.tick;
-    Place(tick, left, look.top + 40, width, 18);
+    PlaceByPixels(tick, left, look.top + 40, width, 18);
     tick.BackColor = sliderPanelColour;
 }
 
 void LayOutTools(MainForm& main) {
-    Place(main.Frame5, 928, 32, 166, 36);
-    Place(main.CoorLabel, 10, 10, 146, 16);
+    PlaceByPixels(main.Frame5, 928, 32, 166, 36);
+    PlaceByPixels(main.CoorLabel, 10, 10, 146, 16);
     main.CoorLabel.Alignment = Alignment::Center;
     main.CoorLabel.Caption = "X : 0 / Y : 0";
 
-    Place(main.Frame4, 928, 72, 166, 508);
+    PlaceByPixels(main.Frame4, 928, 72, 166, 508);
     for (int i = 0; i <= main.Knop.Last(); ++i) {
         VistaButton& button = main.Knop[i];
         const ToolButton& look = toolButtons[static_cast<std::size_t>(i)];
@@ -253,12 +249,12 @@ void LayOutTools(MainForm& main) {
     main.ToolShape.Visible = false;
 
     main.Label6.Caption = "Fillcolor";
-    Place(main.Label6, 10, 276, 150, 14);
+    PlaceByPixels(main.Label6, 10, 276, 150, 14);
     main.ColorLabel.Transparent = false;
     main.ColorLabel.Border = true;
     main.ColorLabel.BackColor = accentColour;
     main.ColorLabel.ToolTipText = " Click to change Colors ";
-    Place(main.ColorLabel, 10, 292, 150, 24);
+    PlaceByPixels(main.ColorLabel, 10, 292, 150, 24);
     main.ColorLabel.LetKeysPress();
 
     for (const SliderLook& look : sliderLooks)
@@ -269,7 +265,7 @@ void LayOutTools(MainForm& main) {
 }
 
 void LayOutTextPanel(MainForm& main) {
-    Place(main.Frame6, 928, 72, 166, 508);
+    PlaceByPixels(main.Frame6, 928, 72, 166, 508);
     main.Frame6.Visible = false;
     struct Row {
         Control* control;
@@ -284,7 +280,7 @@ void LayOutTextPanel(MainForm& main) {
         Row{&main.ExitKnop, 468, 28},
     };
     for (const Row& row : rows)
-        Place(*row.control, 10, row.top, 146, row.height);
+        PlaceByPixels(*row.control, 10, row.top, 146, row.height);
 
     main.Label13.Caption = "Text";
     main.Label14.Caption = "Letterfont";
@@ -300,10 +296,10 @@ void LayOutTextPanel(MainForm& main) {
 }
 
 void LayOutFoot(MainForm& main) {
-    Place(main.Frame7, 204, 584, 890, 80);
-    Place(main.InfoLabel, 12, 12, 820, 56);
+    PlaceByPixels(main.Frame7, 204, 584, 890, 80);
+    PlaceByPixels(main.InfoLabel, 12, 12, 820, 56);
     main.InfoLabel.FontSize = 10;
-    Place(main.NummerLabel, 840, 32, 38, 16);
+    PlaceByPixels(main.NummerLabel, 840, 32, 38, 16);
     main.NummerLabel.Alignment = Alignment::Right;
     main.NummerLabel.ForeColor = RGB(90, 90, 70);
 }
