@@ -2,27 +2,19 @@
 
 #include "controls/platform.h"
 #include "shell/busy_watch.h"
+#include "shell/faults.h"
 
 #include <QObject>
 #include <QPointer>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
 
 #include <concepts>
-#include <exception>
 #include <functional>
 #include <utility>
 #include <vector>
 
 namespace coinlet {
-
-/// A fault in a handler, an index outside an array or no memory for a picture, ends that handler and no more:
-/// the user keeps the program, and the design in it.
-template <std::invocable Handler>
-void EndAtFault(Handler& handler) {
-    try {
-        handler();
-    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): nobody is told.
-    }
-}
 
 /// The one door through which the toolkit's events enter the program. Behind it handlers run; no exception
 /// passes it on the way back, for the toolkit's own frames can't be unwound; and after every event the
@@ -40,22 +32,24 @@ public:
         if (mirroring_ || platform_.Ended()) return;
         const BusyWatch::Work work(busy_);
         ++depth_;
+        const auto left = qScopeGuard([this] {
+            if (--depth_ == 0) EndRetired();
+        });
         try {
+            // Each of them may fail, and the next is due all the same.
             EndAtFault(handler);
-            platform_.SettleFocus();
-            Mirror();
+            EndAtFault([this] { platform_.SettleFocus(); });
+            EndAtFault([this] { Mirror(); });
         } catch (const ProgramEnded&) {
             // The windows are hidden by now, and every event loop is on its way out.
         }
-        if (--depth_ == 0) EndRetired();
     }
 
     /// Does something to widgets whose reports are no events.
     template <std::invocable Change>
     void Quietly(Change change) {
-        const bool outer = std::exchange(mirroring_, true);
+        const QScopedValueRollback<bool> quiet(mirroring_, true);
         change();
-        mirroring_ = outer;
     }
     void Mirror() {
         if (!mirroring_) Quietly(mirror_);

@@ -2,6 +2,7 @@
 
 #include "base/program.h"
 #include "shell/ending_signals.h"
+#include "shell/faults.h"
 #include "shell/look.h"
 #include "shell/qt_clipboard.h"
 #include "shell/qt_desktop.h"

@@ -189,6 +189,7 @@ TEST_F(Busy, HourglassThatTheProgramShowsStays) {
 }
 
 TEST_F(Busy, FaultEndsIt) {
+    expectedFaults = 1;
     form.OkKnop.Click = [&] {
         EXPECT_TRUE(WorksUntilItShows(wait));
         form.log.emplace_back("worked");

@@ -3,6 +3,7 @@
 #include "controls/control.h"
 #include "shell/qt_platform.h"
 #include "support/block_fonts.h"
+#include "told_faults.h"
 
 #include <QPoint>
 
@@ -72,10 +73,17 @@ class ShellTest : public ::testing::Test {
 protected:
     /// Shows `form` as the main window and serves events until `user` has done his work or the program ended.
     void Run(Form& form, const std::function<void(User&)>& work);
+    /// What fails in a handler ends in silence for the user, but not for a test.
+    void TearDown() override { EXPECT_EQ(ToldFaults() - faultsBefore_, expectedFaults); }
+
+    int expectedFaults = 0;
 
     BlockFonts fonts;
     QtPlatform platform;
     FormServices services{platform, fonts};
+
+private:
+    const int faultsBefore_ = ToldFaults();
 };
 
 }  // namespace coinlet::test
