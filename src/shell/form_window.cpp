@@ -155,6 +155,7 @@ void FormWindow::SyncElements() {
     for (ControlView* view : views_)
         view->GatherOutlines();
     menus_.SyncEntries();
+    timers_.SyncTimers();
 }
 
 void FormWindow::AddView(Control& control) {
@@ -277,6 +278,7 @@ void FormWindow::BringIntoSight(const ControlView& view, const QPoint& place) {
 
 void FormWindow::Detach() {
     hide();
+    // The form may be on its way out: views of controls that have gone must leave them alone.
     SyncElements();
     for (ControlView* view : views_)
         view->Detach();

@@ -34,8 +34,9 @@ public:
     void NameBy(const NameGiver* names) { names_ = names; }
     /// Shows the window: a dialog in the middle of the one behind it, but not beyond the screen.
     void Open();
-    /// Makes widgets for controls that have come, and lets go of those that have gone. What serves events
-    /// must call it first, for until then widgets may still know of controls that aren't there.
+    /// Makes widgets for controls that have come, and lets go of those that have gone; menus and timers
+    /// alike. What serves events must call it first, for until then widgets and clocks may still know of
+    /// elements that aren't there.
     void SyncElements();
     /// Makes the whole window equal to its form.
     void Mirror();

@@ -10,6 +10,15 @@
 
 namespace coinlet {
 
+namespace {
+
+/// 0 for a timer that stands still.
+int IntervalOf(const Timer& timer) {
+    return timer.Enabled ? std::max(0, timer.Interval) : 0;
+}
+
+}  // namespace
+
 struct TimerView::Clock {
     Timer* timer;
     EventGate& gate;
@@ -29,28 +38,28 @@ TimerView::TimerView(Form& form, EventGate& gate) : form_(&form), gate_(gate) {}
 
 TimerView::~TimerView() = default;
 
-void TimerView::Mirror() {
+void TimerView::SyncTimers() {
     const auto& timers = form_->Timers();
     const auto same = [](const std::unique_ptr<Clock>& clock, const Timer* timer) {
         return clock->timer == timer;
     };
-    if (!std::equal(clocks_.begin(), clocks_.end(), timers.begin(), timers.end(), same)) {
-        std::vector<std::unique_ptr<Clock>> clocks;
-        for (Timer* timer : timers) {
-            const auto known = std::find_if(clocks_.begin(), clocks_.end(), [&](const auto& clock) {
-                return clock && clock->timer == timer;
-            });
-            clocks.push_back(known == clocks_.end() ? std::make_unique<Clock>(timer, gate_)
-                                                    : std::move(*known));
-            if (known != clocks_.end()) continue;
-            const Clock* made = clocks.back().get();
-            made->ticker->setTimerType(Qt::PreciseTimer);
-            made->ticker->callOnTimeout([this, made] { Tick(*made); });
-        }
-        clocks_ = std::move(clocks);
+    if (std::equal(clocks_.begin(), clocks_.end(), timers.begin(), timers.end(), same)) return;
+    std::vector<std::unique_ptr<Clock>> clocks;
+    for (Timer* timer : timers) {
+        const auto known = std::find_if(clocks_.begin(), clocks_.end(),
+                                        [&](const auto& clock) { return clock && clock->timer == timer; });
+        clocks.push_back(known == clocks_.end() ? std::make_unique<Clock>(timer, gate_) : std::move(*known));
+        if (known != clocks_.end()) continue;
+        const Clock* made = clocks.back().get();
+        made->ticker->setTimerType(Qt::PreciseTimer);
+        made->ticker->callOnTimeout([this, made] { Tick(*made); });
     }
+    clocks_ = std::move(clocks);
+}
+
+void TimerView::Mirror() {
     for (auto& clock : clocks_) {
-        const int interval = clock->timer->Enabled ? std::max(0, clock->timer->Interval) : 0;
+        const int interval = IntervalOf(*clock->timer);
         if (interval == clock->interval) continue;
         clock->interval = interval;
         if (interval > 0) {
@@ -66,7 +75,9 @@ void TimerView::Detach() {
     clocks_.clear();
 }
 
+/// A clock runs on until it is mirrored that its timer stands still.
 void TimerView::Tick(const Clock& clock) {
+    if (IntervalOf(*clock.timer) == 0) return;
     gate_.Enter([timer = clock.timer] { timer->Tick(); });
 }
 

@@ -17,7 +17,11 @@ public:
     TimerView(Form& form, EventGate& gate);
     ~TimerView();
 
-    /// Starts and stops clocks so that they run as the form's timers say.
+    /// Makes clocks for timers that have come, which stand still at first, and ends those of timers that have
+    /// gone.
+    void SyncTimers();
+    /// Starts and stops clocks so that they run as the form's timers say, which must be those that were there
+    /// at the last SyncTimers.
     void Mirror();
     void Detach();
 

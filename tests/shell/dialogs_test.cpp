@@ -13,6 +13,9 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <chrono>
+#include <optional>
+#include <thread>
 
 namespace coinlet::test {
 namespace {
@@ -347,6 +350,37 @@ TEST_F(Windows, TimersTickWhileTheyRun) {
         EXPECT_TRUE(user.Sees([&] { return others >= 3; }));
         EXPECT_EQ(form.Count("Tick"), ticks);
         user.Has([&] { other.Enabled = false, platform.Mirror(); });
+    });
+}
+
+// Between two frames the windows aren't mirrored, but a handler has changed its timers by then.
+TEST_F(Windows, TimersThatAreGoneOrStandStillTickNoMoreWhileAHandlerGoesOn) {
+    int ticks = 0, late = 0;
+    form.OkKnop.Click = [&] {
+        for (int i = 0; i < 40; ++i) {
+            std::optional<Timer> brief;
+            brief.emplace(form, "Brief");
+            brief->Interval = 1;
+            brief->Tick = [&] { ++ticks; };
+            platform.Mirror();
+            platform.DoEvents();
+            std::this_thread::sleep_for(std::chrono::milliseconds(3));
+            ticks = 0;
+            if (i % 2 == 0) {
+                brief.reset();
+            } else {
+                brief->Enabled = false;
+            }
+            platform.DoEvents();
+            platform.DoEvents();
+            late += ticks;
+        }
+        form.log.emplace_back("worked");
+    };
+    Run(form, [&](User& user) {
+        user.Click(form.OkKnop, 40, 14);
+        EXPECT_TRUE(user.Sees([&] { return form.Count("worked") == 1; }));
+        EXPECT_EQ(late, 0);
     });
 }
 
