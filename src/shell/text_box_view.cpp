@@ -146,7 +146,7 @@ public:
         widget.setFrameShape(QFrame::Box);
         widget.setFrameShadow(QFrame::Plain);
         Watch(*widget.viewport());
-        connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Edited(lines_.toPlainText()); });
+        connect(&widget, &QPlainTextEdit::textChanged, this, [this] { Edited(Written()); });
     }
 
 protected:
@@ -156,13 +156,21 @@ protected:
         const int cursor = lines_.textCursor().position();
         lines_.setPlainText(text);
         QTextCursor place = lines_.textCursor();
-        place.setPosition(std::min(cursor, static_cast<int>(lines_.toPlainText().size())));
+        place.setPosition(std::min(cursor, lines_.document()->characterCount() - 1));
         lines_.setTextCursor(place);
     }
     void ShowLocked(bool locked) override { lines_.setReadOnly(locked); }
     bool EditsReturn() const override { return true; }
 
 private:
+    /// The text as it was written. The toolkit's own plain text has blanks in place of those that keep words
+    /// together on a line.
+    QString Written() const {
+        QString text = lines_.document()->toRawText();
+        for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+            text.replace(end, QLatin1Char('\n'));
+        return text;
+    }
     std::vector<std::string> WrapAsTheProgram(std::string_view text) const {
         if (!Shown()) return {std::string(text)};
         const TextBox& box = model();

@@ -203,6 +203,32 @@ TEST_F(Controls, TypingChangesTheTextLetterByLetter) {
     });
 }
 
+TEST_F(Controls, BlanksThatKeepWordsTogetherStay) {
+    const std::string blank = "\xC2\xA0", lineEnd = "\xE2\x80\xA8", paragraphEnd = "\xE2\x80\xA9";
+    Run(form, [&](User& user) {
+        user.Has([&] { form.Text2.SetText("10" + blank + "mm\r\n20" + blank + "mm"); });
+        user.Click(form.Text2, 60, 50);
+        user.Key("ctrl+End");
+        user.Type("!");
+        EXPECT_TRUE(
+            user.Sees([&] { return form.Text2.Text() == "10" + blank + "mm\r\n20" + blank + "mm!"; }));
+        const auto pastes = [&](const std::string& text) {
+            user.Has([&] { QGuiApplication::clipboard()->setText(QString::fromStdString(text)); });
+            user.Key("ctrl+a");
+            user.Key("ctrl+v");
+        };
+        for (const Control* field : {&form.Text1, &form.Text2}) {
+            const auto& box = dynamic_cast<const TextBox&>(*field);
+            user.Click(box, 60, 11);
+            pastes("30" + blank + "mm");
+            EXPECT_TRUE(user.Sees([&] { return box.Text() == "30" + blank + "mm"; })) << box.Name();
+        }
+        pastes("a" + lineEnd + "b" + paragraphEnd + "c\nd\r\ne");
+        EXPECT_TRUE(user.Sees([&] { return form.Text2.Text() == "a\r\nb\r\nc\r\nd\r\ne"; }))
+            << form.Text2.Text();
+    });
+}
+
 /// The lines that a widget of several lines shows, with their line ends as in a control's text.
 std::vector<std::string> ShownLines(const QPlainTextEdit& widget) {
     std::vector<std::string> lines;
