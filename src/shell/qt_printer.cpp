@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/program.h"
 #include "shell/look.h"
+#include "shell/packed_picture.h"
 #include "shell/qt_image.h"
 #include "shell/qt_text.h"
 
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <deque>
 #include <string_view>
 #include <utility>
@@ -33,33 +33,6 @@ constexpr double lineWidth = 10;  // Twips: half a point.
 QPageLayout::Orientation ToQt(PageOrientation orientation) {
     return orientation == PageOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
-
-/// A picture of a job that waits for its end. All designs of a large store together would take more memory
-/// than a small machine has; packed, a design is a tenth of its size.
-class PackedPicture {
-public:
-    explicit PackedPicture(const Image& image) {
-        const QImage plain = ToQImage(image);
-        size_ = plain.size();
-        format_ = plain.format();
-        bytes_ = qCompress(plain.constBits(), plain.sizeInBytes(), quickly);
-    }
-
-    QImage Unpacked() const {
-        const QByteArray plain = qUncompress(bytes_);
-        QImage image(size_, format_);
-        if (!image.isNull() && image.sizeInBytes() == plain.size())
-            std::memcpy(image.bits(), plain.constData(), static_cast<std::size_t>(plain.size()));
-        return image;
-    }
-
-private:
-    static constexpr int quickly = 1;
-
-    QSize size_;
-    QImage::Format format_;
-    QByteArray bytes_;
-};
 
 /// The most recent of what was made for something: what comes again soon isn't made again.
 template <class Key, class Made>
@@ -193,11 +166,11 @@ void QtPrinter::Print(double x, double y, const FontProperties& font, Colour col
 void QtPrinter::PaintPicture(const Image& image, const Rectangle& to) {
     if (image.Empty()) return;
     FeedPage();
-    const Picture picture =
-        job_->packed.Get(image, [&image] { return std::make_shared<const PackedPicture>(image); });
+    const Picture picture = job_->packed.Get(
+        image, [&image] { return std::make_shared<const PackedPicture>(Pack(ToQImage(image))); });
     job_->sheets.back().drawings.emplace_back([picture, to](QPainter& page, PrintedPictures& pictures) {
         page.drawImage(QRectF(to.x, to.y, to.width, to.height),
-                       pictures.Get(picture, [&picture] { return picture->Unpacked(); }));
+                       pictures.Get(picture, [&picture] { return Unpack(*picture); }));
     });
 }
 
