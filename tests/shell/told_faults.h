@@ -2,7 +2,7 @@
 
 namespace coinlet::test {
 
-/// How many faults the program has told of so far.
+/// How many faults there were so far of which the program gave notice.
 int ToldFaults();
 
 }  // namespace coinlet::test

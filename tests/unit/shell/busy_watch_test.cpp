@@ -4,7 +4,9 @@
 
 #include <atomic>
 #include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -15,6 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = WorkTime::Clock;
 using Windows = BusySign::Windows;
+namespace fs = std::filesystem;
 
 /// A sign that writes down what becomes of it: "+" and the windows, "-".
 class BusyWatchTest : public ::testing::Test {
@@ -195,8 +198,9 @@ TEST_F(BusyWatchTest, WindowThatComesBeforeTheSignIsAmongThoseThatShowIt) {
     open = {1, 2, 3};
     watch.WindowsChanged();
     const bool inTime = IsEarly(begin);
-    while (Log().empty())
+    while (Log().empty() && Clock::now() < begin + 20s)
         std::this_thread::sleep_for(1ms);
+    EXPECT_NE(Log(), "");
     if (inTime) {
         EXPECT_TRUE(Shows("+123"));
     }
@@ -209,15 +213,29 @@ TEST_F(BusyWatchTest, MayEndAmidstTheWorkOfItsThread) {
                          .show = [&](const Windows&) { ++shown; },
                          .takeOff = [&] { --shown; }});
         { const BusyWatch::Work work(brief); }
+        // What is over can't be shown any more.
+        EXPECT_EQ(shown, 0);
         if (i % 2 == 0) std::this_thread::sleep_for(1ms);
+        EXPECT_EQ(shown, 0);
     }
 }
 
-TEST(BusyWatchWithoutASign, TellsNobody) {
-    BusyWatch watch({});
-    const BusyWatch::Work work(watch);
-    const BusyWatch::Pause pause(watch);
-    watch.WindowsChanged();
+TEST(BusyWatchWithoutASign, TellsNobodyAndNeedsNoThread) {
+    const fs::path threads = "/proc/self/task";
+    const auto count = [&] { return std::distance(fs::directory_iterator(threads), {}); };
+    if (!fs::exists(threads)) GTEST_SKIP() << "no /proc here";
+    const auto before = count();
+    int asked = 0, told = 0;
+    BusyWatch watch({.windows = [&] { return ++asked, Windows(); }, .show = {}, .takeOff = [&] { ++told; }});
+    EXPECT_EQ(count(), before);
+    {
+        const BusyWatch::Work work(watch);
+        std::this_thread::sleep_for(400ms);
+        const BusyWatch::Pause pause(watch);
+        watch.WindowsChanged();
+    }
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(told, 0);
 }
 
 std::atomic<bool> signalCame;
