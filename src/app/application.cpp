@@ -64,6 +64,7 @@ struct Application::House {
             recovery.PutBackLostWork();
         };
         gestures.strokeFinished = [this] { recovery.StrokeFinished(); };
+        life.leavesUnasked = [this] { recovery.KeepForNextStart(); };
     }
 
     Services services;

@@ -55,6 +55,8 @@ void MainLife::Form_Unload(bool& cancel) {
             cancel = true;
             return;
         }
+    } else if (leavesUnasked) {
+        leavesUnasked();
     }
     // A folder that can't be written keeps nobody in the program; the language is then the old one next time.
     static_cast<void>(

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace coinlet {
 
 struct Context;
@@ -9,6 +11,10 @@ struct Context;
 class MainLife {
 public:
     explicit MainLife(Context& context);
+
+    /// Runs before the end of a user who leaves without having been asked. `DesignChanged` alone decides
+    /// whether he is, and it knows nothing of a save that failed, say: what isn't stored mustn't be lost.
+    std::function<void()> leavesUnasked;
 
 private:
     void Form_Activate();

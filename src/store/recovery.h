@@ -13,8 +13,8 @@ struct Context;
 /// work that isn't in the store, a snapshot of it, just what a save would write, is kept outside the
 /// application folder: written when the user pauses for a second, and at the latest with the first stroke
 /// that is finished ten seconds after the last one. It goes when the design is saved, made new or replaced by
-/// another, and when the user leaves the program, who was asked about unsaved work. The next start puts what
-/// it finds into the store.
+/// another, and when the user leaves the program and, asked about it, gives the work up. Who leaves without
+/// having been asked keeps it. The next start puts what it finds into the store.
 class Recovery {
 public:
     /// Snapshots are kept in `folder`; with an empty one there are none.
@@ -29,8 +29,8 @@ public:
     /// Writes the snapshot as the design is at this moment, if it holds unsaved work: for an end that may be
     /// near, such as that of the user's session.
     void WriteNow();
-    /// The same for an end that the user didn't choose here, and that comes now: the snapshot is left to the
-    /// next start.
+    /// The same for an end that comes now and gives the user no say in what becomes of his work: the snapshot
+    /// is left to the next start. Without this call it goes with the object.
     void KeepForNextStart();
 
 private:

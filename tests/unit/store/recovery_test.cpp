@@ -132,13 +132,27 @@ TEST_F(RecoveryTest, SaveThatFailsOrAnExportDoesNotEndIt) {
     }
 }
 
-TEST_F(RecoveryTest, WhoLeavesWasAsked) {
+TEST_F(RecoveryTest, SnapshotGoesWithItsProgramUnlessItIsKept) {
+    Draw();
+    for (const bool isKept : {false, true}) {
+        PassSeconds(2);
+        ASSERT_TRUE(HasSnapshot());
+        if (isKept) recovery->KeepForNextStart();
+        recovery.reset();
+        EXPECT_EQ(HasSnapshot(), isKept);
+        StartAgain();
+        EXPECT_EQ(Designs().size(), isKept ? 1U : 0U);
+    }
+}
+
+TEST_F(RecoveryTest, NothingIsKeptOfAStoredDesign) {
     Draw();
     PassSeconds(2);
-    recovery.reset();
+    ASSERT_TRUE(HasSnapshot());
+    Save("BMP");
+    // Before the program has looked again.
+    Lose();
     EXPECT_FALSE(HasSnapshot());
-    StartAgain();
-    EXPECT_TRUE(Designs().empty());
 }
 
 TEST_F(RecoveryTest, LostWorkIsADesignOfItsOwnAtTheNextStart) {
