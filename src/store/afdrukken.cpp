@@ -10,6 +10,8 @@
 #include "store/print_jobs.h"
 #include "surface/printer.h"
 
+#include <string>
+
 namespace coinlet {
 
 namespace {
@@ -73,8 +75,9 @@ void Afdrukken::Option1_Click(int index) {
 void Afdrukken::PrintKnop_Click() {
     // While a job serves events, nobody starts another one into it.
     PrintKnop.SetEnabled(false);
+    const std::string hint = context_.main.InfoLabel.Caption;
     RunJob();
-    CloseDialog(context_, *this);
+    CloseDialogAfterWork(context_, *this, hint);
 }
 
 double Afdrukken::Copies() const {

@@ -71,16 +71,19 @@ void SaveForm::Form_Load() {
     const Image sidePanel = context_.main.InfoPic.surface.Image();
     for (PictureBox* composing : {&Orgineel, &BmpPic})
         ComposePicture(canvas, sidePanel, composing->surface);
+    composed_ = RevisionOf(context_.main);
     Text1.SetFocus();
 }
 
 void SaveForm::SaveKnop_Click() {
     if (TrimBlanks(Text1.Text()).empty()) return;
     if (!(Exports() ? ExportJpeg() : SaveDesign())) return;
+    const std::string hint = context_.main.InfoLabel.Caption;
     ShowProgress();
     context_.services.platform.Screen.MousePointer = toolPointer;
-    context_.session.DesignChanged = false;
-    CloseDialog(context_, *this);
+    // Who closes the dialog while the bar runs can draw on: that isn't stored.
+    if (RevisionOf(context_.main) == composed_) context_.session.DesignChanged = false;
+    CloseDialogAfterWork(context_, *this, hint);
 }
 
 bool SaveForm::ExportJpeg() {
@@ -109,11 +112,12 @@ bool SaveForm::SaveDesign() {
     context_.session.DesignFile = target ? target->string() : DesignFile(folder, name, designPicture);
     if (!target) return true;
     if (!MayWrite(*target)) return false;
-    // A user who isn't told of a failure finds the older design untouched, and his work at the next start.
+    // A user who isn't told of a failure finds the older design untouched, and his work at the next start
+    // unless he is asked about it when he leaves and gives it up.
     bool isStored = !SavePicture(BmpPic.surface.Image(), *target);
     if (context_.main.List2.ListCount() > 0) isStored = !WriteDesignInfoText(context_, name) && isStored;
     if (isStored) {
-        context_.session.StoredDesign = RevisionOf(context_.main);
+        context_.session.StoredDesign = composed_;
         context_.main.Label2.ToolTipText = target->string();
     }
     return true;

@@ -6,6 +6,7 @@
 #include "controls/picture_box.h"
 #include "controls/text_box.h"
 #include "controls/vista_button.h"
+#include "core/design_revision.h"
 
 #include <filesystem>
 
@@ -45,6 +46,7 @@ private:
     bool WithSidePanel() const { return Check1.Value(); }
 
     Context& context_;
+    DesignRevision composed_;  ///< The design that the composed picture shows.
 };
 
 }  // namespace coinlet
