@@ -80,6 +80,19 @@ TEST(SaveForm, StoresTheComposedPicture) {
     EXPECT_EQ(world.StoredFiles(), 1);
 }
 
+TEST(SaveForm, BarLiesExactlyOnTheName) {
+    DesignWorld world;
+    world.Open("BMP", [](const SaveForm& dialog) {
+        EXPECT_EQ(dialog.Bar.Left(), dialog.Text1.Left());
+        EXPECT_EQ(dialog.Bar.Top(), dialog.Text1.Top());
+        for (const auto& [width, height] : {std::pair{dialog.Bar.Width(), dialog.Bar.Height()},
+                                            std::pair{dialog.Text1.Width(), dialog.Text1.Height()}}) {
+            EXPECT_EQ(width, 299 * 15);
+            EXPECT_EQ(height, 20 * 15);
+        }
+    });
+}
+
 TEST(SaveForm, StoresTheDesignAsItWasWhenTheDialogOpened) {
     DesignWorld world;
     world.Open("BMP", [&](SaveForm& dialog) {
@@ -88,6 +101,9 @@ TEST(SaveForm, StoresTheDesignAsItWasWhenTheDialogOpened) {
         dialog.SaveKnop.PointerClicked();
     });
     EXPECT_EQ(world.Load("app/Ontwerpen/coin.pat").At(7, 9), inCanvas);
+    // The change isn't stored, and counts as such.
+    EXPECT_TRUE(world.session.DesignChanged);
+    EXPECT_NE(world.session.StoredDesign, RevisionOf(world.main));
 }
 
 TEST(SaveForm, WritesAnInfoTextOnlyIfThereAreRows) {
