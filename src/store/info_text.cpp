@@ -46,15 +46,7 @@ std::error_code WriteDesignInfoText(const Context& context, std::string_view nam
     return ReplaceFile(InfoTextPath(*picture), InfoTextFile(context.main.List2), calls);
 }
 
-void ReadDesignInfoText(const Context& context, std::string_view name, const ReadCall& read) {
-    if (const auto picture = DesignPicture(context.services.applicationFolder, name)) {
-        ReadInfoTextOf(context, *picture, read);
-    } else {
-        context.main.List2.Clear();
-    }
-}
-
-void ReadInfoTextOf(const Context& context, const fs::path& picture, const ReadCall& read) {
+void ReadDesignInfoText(const Context& context, const fs::path& picture, const ReadCall& read) {
     ListBox& rows = context.main.List2;
     rows.Clear();
     const auto file = FindInfoText(picture);

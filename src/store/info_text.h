@@ -17,12 +17,10 @@ Bytes InfoTextFile(const ListBox& rows);
 std::error_code WriteDesignInfoText(const Context& context, std::string_view name,
                                     FileCalls& calls = SystemFileCalls());
 
-/// Fills `Main.List2` from the info text of the design `name`, without its blank rows. A design without one
-/// has no rows. After an error in the middle those that were read so far stay, and so do those at the
-/// beginning of a text that is longer than largestRowText.
-void ReadDesignInfoText(const Context& context, std::string_view name, const ReadCall& read = ReadBySystem);
-
-/// The same for the design with this picture.
-void ReadInfoTextOf(const Context& context, const fs::path& picture, const ReadCall& read = ReadBySystem);
+/// Fills `Main.List2` from the info text of a design, without its blank rows. The design is told by its
+/// picture: a name alone may stand for two, in capitals and not, and the one that the program begins with may
+/// lie outside the store. Without an info text there are no rows. After an error in the middle those that
+/// were read so far stay, and so do those at the beginning of a text that is longer than largestRowText.
+void ReadDesignInfoText(const Context& context, const fs::path& picture, const ReadCall& read = ReadBySystem);
 
 }  // namespace coinlet

@@ -36,16 +36,17 @@ void OpenFile::Form_Load() {
     List1.SetFocus();
 }
 
-fs::path OpenFile::ChosenFile() const {
+std::optional<fs::path> OpenFile::ChosenFile() const {
     const int row = List1.ListIndex();
-    // Without a choice the name is empty.
-    if (row < 0) return DesignFile(context_.services.applicationFolder, {}, designPicture);
+    if (row < 0) return std::nullopt;
     return files_.at(static_cast<std::size_t>(row));
 }
 
 void OpenFile::List1_Click() {
     DelKnop.SetEnabled(true);
-    if (const auto picture = LoadPicture(ChosenFile(), context_.services.codecs))
+    const auto file = ChosenFile();
+    if (!file) return;
+    if (const auto picture = LoadPicture(*file, context_.services.codecs))
         BackPic.surface.SetPicture(*picture);
     // A little more than the canvas: the squeeze and the strip beside it are how previews look.
     const Rectangle shown{0, 0, BackPic.surface.ScaleWidth() - sidePanelWidth, BackPic.surface.ScaleHeight()};
@@ -55,13 +56,13 @@ void OpenFile::List1_Click() {
 
 void OpenFile::OpenChosen() {
     const std::string name = List1.Text();
-    const fs::path file = ChosenFile();
-    context_.session.DesignFile = file.string();
-    // A file called ".pat" isn't meant.
-    if (List1.ListIndex() < 0) return;
-    const auto picture = LoadPicture(file, context_.services.codecs);
+    const auto file = ChosenFile();
+    context_.session.DesignFile =
+        file ? file->string() : DesignFile(context_.services.applicationFolder, name, designPicture);
+    if (!file) return;
+    const auto picture = LoadPicture(*file, context_.services.codecs);
     if (!picture) return;
-    ShowDesign(context_, name, file, *picture, BackPic.surface.Image());
+    ShowDesign(context_, name, *file, *picture, BackPic.surface.Image());
 }
 
 void OpenFile::OkKnop_Click() {
@@ -71,11 +72,11 @@ void OpenFile::OkKnop_Click() {
 }
 
 void OpenFile::DelKnop_Click() {
-    // Without a choice, or on the row of a file called ".pat", there is no name.
     const std::string name = List1.Text();
-    if (name.empty()) return;
+    const auto file = ChosenFile();
+    // The row of a file called ".pat" is as good as none.
+    if (!file || name.empty()) return;
     const int row = List1.ListIndex();
-    const fs::path file = ChosenFile();
     // The question is Dutch in every language.
     const Answer answer =
         context_.services.platform.ShowMessage({.prompt = "Wilt u het ontwerp '" + name + "' verwijderen?",
@@ -85,8 +86,8 @@ void OpenFile::DelKnop_Click() {
                                                 .standard = Answer::No});
     if (answer != Answer::Yes) return;
     // A file that can't be deleted, or is gone already, is passed over: the row goes all the same.
-    const auto text = FindInfoText(file);
-    static_cast<void>(DeleteFile(file));
+    const auto text = FindInfoText(*file);
+    static_cast<void>(DeleteFile(*file));
     List1.RemoveItem(row);
     files_.erase(files_.begin() + row);
     Image1.surface.Cls();

@@ -8,6 +8,7 @@
 #include "controls/picture_box.h"
 #include "controls/vista_button.h"
 
+#include <optional>
 #include <vector>
 
 namespace coinlet {
@@ -36,8 +37,8 @@ public:
     void DelKnop_Click();
 
 private:
-    /// The file of the chosen row.
-    fs::path ChosenFile() const;
+    /// The file of the chosen row. Its name may be empty, of a file called ".pat".
+    std::optional<fs::path> ChosenFile() const;
     /// Puts the chosen design on the canvas, or leaves the present one if it can't be read.
     void OpenChosen();
 

@@ -23,7 +23,7 @@ void ShowDesign(Context& context, const std::string& name, const fs::path& file,
     session.DesignChanged = false;
     ShowHint(context, key::ready);
     TakeSidePanel(composed, main.InfoPic.surface);
-    ReadInfoTextOf(context, file);
+    ReadDesignInfoText(context, file);
     session.StoredDesign = RevisionOf(main);
 }
 

@@ -24,7 +24,7 @@ class InfoText {
 public:
     Outcome Read(File file) {
         world_.Write("Ontwerpen/design.txt", file);
-        ReadDesignInfoText(world_.context, "design");
+        ReadBack("design");
         std::string wrong = FaultOfRows(world_.main.List2, SlowRows(WithoutHeading(AsText(file))));
         const bool isRead = world_.main.List2.ListCount() > 0;
         if (wrong.empty()) wrong = FaultOfCopy();
@@ -33,20 +33,22 @@ public:
     }
 
 private:
+    void ReadBack(const std::string& name) {
+        ReadDesignInfoText(world_.context, world_.folder / "app/Ontwerpen" / (name + ".pat"));
+    }
+
     std::string FaultOfCopy() {
         const std::vector<std::string> rows = world_.Rows();
         fs::remove(world_.folder / "app/Ontwerpen/copy.txt");
         if (WriteDesignInfoText(world_.context, "copy")) return "it can't be written";
-        ReadDesignInfoText(world_.context, "copy");
+        ReadBack("copy");
         return world_.Rows() == rows ? "" : "written and read again, it has other rows";
     }
 
     std::string FaultOfNoDesign() {
         if (!WriteDesignInfoText(world_.context, "a/b")) return "it is written under a name of no design";
-        ReadDesignInfoText(world_.context, "missing");
-        if (world_.main.List2.ListCount() > 0) return "a design without one has rows";
-        ReadDesignInfoText(world_.context, "../design");
-        return world_.main.List2.ListCount() == 0 ? "" : "a name of no design has rows";
+        ReadBack("missing");
+        return world_.main.List2.ListCount() == 0 ? "" : "a design without one has rows";
     }
 
     TextWorld world_;

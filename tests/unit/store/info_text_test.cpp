@@ -98,11 +98,15 @@ TEST_P(WriteDesignInfoTextFails, AndLeavesTheOldOneOrNone) {
     EXPECT_TRUE(world.platform.messages.empty());
 }
 
+void ReadInfoText(World& world, const std::string& name, const ReadCall& read = ReadBySystem) {
+    ReadDesignInfoText(world.context, world.folder / "app/Ontwerpen" / (name + ".pat"), read);
+}
+
 Rows Read(std::string_view content) {
     World world;
     world.SetRows({"of an earlier design"});
     world.Store("coin.txt", content);
-    ReadDesignInfoText(world.context, "coin");
+    ReadInfoText(world, "coin");
     return world.Rows();
 }
 
@@ -136,11 +140,10 @@ TEST(ReadDesignInfoText, FindsNoRowsWhereThereIsNoText) {
     EXPECT_EQ(Read("x"), Rows{});
     EXPECT_EQ(Read("x\r\n"), Rows{});
     EXPECT_EQ(Read(header), Rows{});
-    for (const std::string& name : {std::string("missing"), std::string("../coin"), std::string(300, 'n')}) {
+    for (const std::string& name : {std::string("missing"), std::string(300, 'n')}) {
         World world;
         world.SetRows({"of an earlier design"});
-        world.folder.Write("app/coin.txt", header + "not in the store\r\n");
-        ReadDesignInfoText(world.context, name);
+        ReadInfoText(world, name);
         EXPECT_EQ(world.Rows(), Rows{}) << name;
     }
 }
@@ -151,7 +154,7 @@ TEST(ReadDesignInfoText, KeepsTheRowsThatWereReadBeforeAnError) {
         world.SetRows({"of an earlier design"});
         world.Store("coin.txt", header + "one\r\ntwo\r\nthree\r\n");
         // A disk that gives so many bytes, in pieces, and then fails.
-        ReadDesignInfoText(world.context, "coin", [&](int file, void* data, std::size_t size) -> long {
+        ReadInfoText(world, "coin", [&](int file, void* data, std::size_t size) -> long {
             if (bytes == 0) {
                 errno = EIO;
                 return -1;
@@ -176,14 +179,14 @@ TEST(ReadDesignInfoText, KeepsTheBeginningOfAnEndlessText) {
     World world;
     world.Store("coin.txt", header + "first\r\n");
     fs::resize_file(world.folder / "app/Ontwerpen/coin.txt", std::uintmax_t{1} << 30);
-    ReadDesignInfoText(world.context, "coin");
+    ReadInfoText(world, "coin");
     EXPECT_EQ(world.Rows(), Rows{"first"});
 }
 
 TEST(ReadDesignInfoText, PassesOverAFolderOfThatName) {
     World world;
     fs::create_directory(world.folder / "app/Ontwerpen/coin.txt");
-    ReadDesignInfoText(world.context, "coin");
+    ReadInfoText(world, "coin");
     EXPECT_EQ(world.Rows(), Rows{});
 }
 
@@ -191,7 +194,7 @@ TEST(DesignInfoText, ComesBackWithoutItsBlankRows) {
     World world;
     world.SetRows({"one", "", "  two", "    ", "three, and", ""});
     WriteDesignInfoText(world.context, "coin");
-    ReadDesignInfoText(world.context, "coin");
+    ReadInfoText(world, "coin");
     EXPECT_EQ(world.Rows(), (Rows{"one", "  two", "three, and"}));
 }
 

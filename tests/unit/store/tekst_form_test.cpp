@@ -33,6 +33,10 @@ void ConfirmUnchanged(World& world) {
         world, [](TekstForm&) {}, &TekstForm::OkKnop);
 }
 
+void ReadBack(World& world) {
+    ReadDesignInfoText(world.context, world.folder / "app/Ontwerpen/coin.pat");
+}
+
 TEST(TekstForm, MakesTwoEmptyRowsOfAnEmptyText) {
     World world;
     Confirm(world, "");
@@ -40,7 +44,7 @@ TEST(TekstForm, MakesTwoEmptyRowsOfAnEmptyText) {
     WriteDesignInfoText(world.context, "coin");
     EXPECT_EQ(world.Stored("coin.txt"),
               "Ivo Kestrell Software 2014\r\n--------------------------\r\n\r\n\r\n");
-    ReadDesignInfoText(world.context, "coin");
+    ReadBack(world);
     EXPECT_EQ(world.Rows(), Rows{});
 }
 
@@ -58,7 +62,7 @@ TEST(TekstForm, AddsTwoMoreEachTimeItIsConfirmedUnchanged) {
     ConfirmUnchanged(world);
     EXPECT_EQ(world.Rows(), (Rows{"one", "two", "", "", "", ""}));
     WriteDesignInfoText(world.context, "coin");
-    ReadDesignInfoText(world.context, "coin");
+    ReadBack(world);
     EXPECT_EQ(world.Rows(), (Rows{"one", "two"}));
 }
 
@@ -69,7 +73,7 @@ TEST(TekstForm, MakesARowOfEachDisplayedLine) {
     Confirm(world, long1 + " " + long2 + "\r\nend");
     EXPECT_EQ(world.Rows(), (Rows{long1 + " ", long2, "end", ""}));
     WriteDesignInfoText(world.context, "coin");
-    ReadDesignInfoText(world.context, "coin");
+    ReadBack(world);
     EXPECT_EQ(world.Rows(), (Rows{long1 + " ", long2, "end"}));
     Edit(
         world,
