@@ -15,6 +15,7 @@
 #include "core/rulers.h"
 #include "core/settings.h"
 #include "core/side_panel.h"
+#include "store/design_files.h"
 #include "tools/image_browser.h"
 
 #include <string>
@@ -28,7 +29,7 @@ constexpr NumberList letterSizes{8, 150, 2, 20};
 /// In the folders that the program writes files into.
 void RemoveFilesOfKilledPrograms(Context& context) {
     const fs::path& folder = context.services.applicationFolder;
-    for (const fs::path& each : {folder, Beneath(folder, "\\Ontwerpen"), Beneath(folder, "\\Collection"),
+    for (const fs::path& each : {folder, Beneath(folder, designFolder), Beneath(folder, "\\Collection"),
                                  context.services.desktop.PictureFolder()})
         RemoveStrays(each);
 }
