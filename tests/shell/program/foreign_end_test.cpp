@@ -1,5 +1,6 @@
 // Ends that the user didn't choose in the program: signals, the loss of the screen, the end of the session.
-// Nothing is asked, the settings are written, and what isn't stored comes back with the next start.
+// Nothing is asked, the settings are written, and what isn't stored comes back with the next start. So it
+// does when the user leaves and isn't asked.
 
 #include "base/files.h"
 #include "session_manager.h"
@@ -110,6 +111,23 @@ TEST_F(ProgramForeignEnd, NohupMeansIt) {
     Send(SIGHUP);
     Draw(250);
     EXPECT_TRUE(Runs());
+}
+
+TEST_F(ProgramForeignEnd, SoIsTheLeavingOfAUserWhoIsNotAsked) {
+    Start();
+    const OpenWindow menu = OpenMenu(form.Filters);
+    Choose(menu, form.Filter[5]);
+    ASSERT_TRUE(Comes([&] { return ColourAt(PlaceOf(form.Pic, 10, 10)) == ink; }));
+    CloseBox();
+    EXPECT_TRUE(EndsWell());
+    EXPECT_TRUE(HoldsSnapshot());
+    const auto design = RecoveredAfterTheNextStart();
+    ASSERT_TRUE(design);
+    EXPECT_EQ(design->At(0, 0), black);
+    // That one was only looked at.
+    CloseBox();
+    EXPECT_TRUE(EndsWell());
+    EXPECT_FALSE(HoldsSnapshot());
 }
 
 TEST_F(ProgramForeignEnd, WithoutUnsavedWorkNothingIsLeftBehind) {
