@@ -1,6 +1,5 @@
 // Leaving the program: who is asked, and who is taken care of because he isn't.
 #include "core/main_life.h"
-
 #include "support/world.h"
 
 #include <gtest/gtest.h>
