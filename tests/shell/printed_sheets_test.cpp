@@ -72,9 +72,10 @@ private:
 /// The left half green, the right half blue.
 Image TwoHalves() {
     Bitmap bitmap(20, 10);
-    for (int y = 0; y < 10; ++y)
+    for (int y = 0; y < 10; ++y) {
         for (int x = 0; x < 20; ++x)
             bitmap.Row(y)[x] = ToPixel(x < 10 ? green : blue);
+    }
     return Image(std::move(bitmap));
 }
 
