@@ -8,9 +8,10 @@ namespace {
 
 QImage Chequered() {
     QImage picture(37, 20, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height(); ++y)
+    for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x)
             picture.setPixel(x, y, (x + y) % 2 == 0 ? 0xFF123456U : 0xFFFFFFFFU);
+    }
     return picture;
 }
 

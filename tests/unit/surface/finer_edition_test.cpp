@@ -19,10 +19,10 @@ Image RedOne() {
 }
 
 TEST(FinerEdition, BelongsToThePictureAndItsCopies) {
-    const Image picture = Plain(3, black), copy = picture;
+    const Image picture = Plain(3, black);
     HasFinerEdition(picture, RedOne);
     EXPECT_EQ(FinerEditionOf(picture), RedOne());
-    EXPECT_EQ(FinerEditionOf(copy), RedOne());
+    EXPECT_EQ(FinerEditionOf(Image(picture)), RedOne());
     EXPECT_TRUE(FinerEditionOf(Plain(3, black)).Empty());
     HasFinerEdition({}, RedOne);
     EXPECT_TRUE(FinerEditionOf({}).Empty());
