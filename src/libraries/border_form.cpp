@@ -69,8 +69,8 @@ BorderForm::BorderForm(Context& context)
 }
 
 void BorderForm::Form_Load() {
-    File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
     File1.SetPattern("*.gif");
+    File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         List1.AddItem(File1.List(i));
     // Chosen like any other, the first border is shown.
