@@ -27,7 +27,8 @@ inline std::span<const std::uint8_t> AsBytes(std::string_view text) {
 }
 
 /// The calls to the operating system that replacing a file is made of. The program uses SystemFileCalls();
-/// a test hands in its own to make each step fail in turn. Every call returns what the system call of its
+/// a test hands in its own to make each of these steps fail in turn. What only looks at the file that stands
+/// there, or gives the new one its rights, goes past them. Every call returns what the system call of its
 /// name does: -1 (or a short count) is a failure, with errno set.
 class FileCalls {
 public:

@@ -96,7 +96,8 @@ protected:
     /// Serves events until `dialog` is unloaded or the program has ended.
     virtual void RunModal(Form& dialog) = 0;
     /// Shows a form in front; takes it off again. They come in pairs: a form that never was shown isn't
-    /// taken off. When FormUnloaded comes the form may be half destroyed: its address alone counts.
+    /// taken off. When FormUnloaded comes the form may be half destroyed: its address counts, and the lists
+    /// of those of its controls, menus and timers that are still there.
     virtual void FormLoaded(Form& form) = 0;
     virtual void FormUnloaded(Form& form) = 0;
     /// Pops up a menu at a control, or at the pointer if that is nullptr, and returns at once.

@@ -12,8 +12,8 @@ struct SliderGroup {
     ScrollBar MainForm::*bar;
     Label MainForm::*caption;        ///< Stands over the bar.
     std::string (*text)(int value);  ///< What the caption reads while the bar is at that value.
-    Label MainForm::*panel =
-        nullptr;  ///< What shows that the slider belongs to one tool; none for the pen's.
+    /// What shows that the slider belongs to one tool; none for the pen's.
+    Label MainForm::*panel = nullptr;
     CheckBox MainForm::*tick = nullptr;
 };
 

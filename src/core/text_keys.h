@@ -3,8 +3,8 @@
 #include <string_view>
 
 /// The keys of the language tables, by what their texts are for. `LookupInfoText` and `ShowHint` take them.
-/// A key that the code looks up stands here,
-/// or in name_keys.h if it is a name or a note for assistive tools, and nowhere else.
+/// A key that the code looks up stands here, or in
+/// name_keys.h if it is a name for assistive tools, and nowhere else.
 namespace coinlet::key {
 
 // Hints at the foot of the main window.
