@@ -20,7 +20,7 @@ std::string_view WithoutHeading(std::string_view text) {
     return text;
 }
 
-class InfoText {
+class InfoTextOfDesign {
 public:
     Outcome Read(File file) {
         world_.Write("Ontwerpen/design.txt", file);
@@ -63,7 +63,7 @@ Reader InfoTextReader() {
         {TextFile(
              "Ivo Kestrell Software 2014\r\n--------------------------\r\nFirst line.\r\n\r\nLast \xE9\r\n"),
          TextFile("a,b,c\n d \re")},
-        [text = std::make_shared<InfoText>()](File file) { return text->Read(file); },
+        [text = std::make_shared<InfoTextOfDesign>()](File file) { return text->Read(file); },
         slow};
 }
 
