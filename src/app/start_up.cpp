@@ -4,6 +4,7 @@
 #include "base/files.h"
 #include "base/font.h"
 #include "base/program.h"
+#include "base/program_folders.h"
 #include "colour/pms_table.h"
 #include "controls/number_list.h"
 #include "core/about.h"
@@ -29,8 +30,9 @@ constexpr NumberList letterSizes{8, 150, 2, 20};
 /// In the folders that the program writes files into.
 void RemoveFilesOfKilledPrograms(Context& context) {
     const fs::path& folder = context.services.applicationFolder;
-    for (const fs::path& each : {folder, Beneath(folder, designFolder), Beneath(folder, "\\Collection"),
-                                 context.services.desktop.PictureFolder()})
+    for (const fs::path& each :
+         {folder, folder / program_folder::designs, folder / program_folder::collection,
+          context.services.desktop.PictureFolder()})
         RemoveStrays(each);
 }
 

@@ -119,16 +119,4 @@ bool IsFileName(std::string_view name) {
            name.find_first_of(forbidden) == std::string_view::npos;
 }
 
-fs::path Beneath(const fs::path& folder, std::string_view literal) {
-    // Part by part, each a name without separators: an absolute part would replace the folder.
-    fs::path path = folder;
-    while (!literal.empty()) {
-        const auto end = literal.find_first_of("\\/");
-        const auto part = literal.substr(0, end);
-        if (!part.empty()) path /= part;
-        literal.remove_prefix(end == std::string_view::npos ? literal.size() : end + 1);
-    }
-    return path;
-}
-
 }  // namespace coinlet

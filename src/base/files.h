@@ -83,13 +83,9 @@ bool FileExists(const fs::path& path);
 [[nodiscard]] std::error_code DeleteFile(const fs::path& path);
 
 /// A name that the user typed or a file held may hold anything; only a plain name leads to a file. Whatever
-/// is made into a path asks here first. False for names with a separator, "/" or the one of literals, or a
-/// zero byte, for the empty name and for "." and "..".
+/// is made into a path asks here first. False for names with a slash, a backslash (the separator where many
+/// stores come from) or a zero byte, for the empty name and for "." and "..".
 bool IsFileName(std::string_view name);
-
-/// The path of a literal such as "\\Data\\English.txt" beneath `folder`; backslashes stand for the separator.
-/// Doubled separators count as one.
-fs::path Beneath(const fs::path& folder, std::string_view literal);
 
 /// The names of the regular files of `folder` that match one of the patterns of `patterns` ("*.bmp;*.jpg"),
 /// without regard to case, sorted by name without regard to case. A folder that can't be read gives no names.

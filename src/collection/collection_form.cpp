@@ -1,6 +1,7 @@
 #include "collection/collection_form.h"
 
 #include "base/files.h"
+#include "base/program_folders.h"
 #include "base/text.h"
 #include "collection/collection_file.h"
 #include "collection/collection_form_layout.h"
@@ -17,13 +18,17 @@ namespace coinlet {
 
 namespace {
 
+fs::path CatalogueFolder(const Context& context) {
+    return context.services.applicationFolder / program_folder::collection;
+}
+
 fs::path CatalogueFile(const Context& context) {
-    return Beneath(context.services.applicationFolder, "\\Collection\\Collection.col");
+    return CatalogueFolder(context) / "Collection.col";
 }
 
 /// The picture of a number, in whatever case its name is written; nothing if there is none.
 std::optional<fs::path> PictureFile(const Context& context, const std::string& number) {
-    return FindFile(Beneath(context.services.applicationFolder, "\\Collection"), number + ".jpg");
+    return FindFile(CatalogueFolder(context), number + ".jpg");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "colour/glitter_form.h"
 
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "colour/glitter_form_layout.h"
 #include "core/context.h"
 #include "core/dialog.h"
@@ -18,7 +19,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::string_view chartFile = "\\Data\\Glitter.bak";
+constexpr std::string_view chartFile = "Glitter.bak";
 
 /// A place or a length in whole pixels; out of range it is the nearest there is.
 std::int16_t Pixels(double value) {
@@ -53,7 +54,7 @@ GlitterForm::GlitterForm(Context& context)
 void GlitterForm::Form_Load() {
     Label1.Caption = LookupInfoText(context_, key::glitterHelp);
     VScroll.SetFocus();
-    const fs::path file = Beneath(context_.services.applicationFolder, chartFile);
+    const fs::path file = context_.services.applicationFolder / program_folder::data / chartFile;
     const auto chart = LoadPicture(file, context_.services.codecs);
     if (!chart) return;
     SlidePic.surface.SetPicture(*chart);

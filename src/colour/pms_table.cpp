@@ -1,6 +1,7 @@
 #include "colour/pms_table.h"
 
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "core/context.h"
 #include "core/main_form.h"
 #include "core/row_file.h"
@@ -12,14 +13,14 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::string_view tableFile = "\\Data\\PMS-Colors.txt";
+constexpr std::string_view tableFile = "PMS-Colors.txt";
 
 }  // namespace
 
 void LoadPmsColors(Context& context) {
     ListBox& table = context.main.PMSlist;
     table.Clear();
-    AddRowsOfFile(table, Beneath(context.services.applicationFolder, tableFile));
+    AddRowsOfFile(table, context.services.applicationFolder / program_folder::data / tableFile);
 }
 
 std::optional<PmsFields> SplitPmsLine(std::string_view line) {

@@ -22,15 +22,6 @@ std::string AsText(const PropertyValue& value) {
     return std::get<std::string>(value);
 }
 
-std::int64_t RoundIntoRange(double value, std::int64_t lowest, std::int64_t highest) {
-    if (std::isnan(value)) value = 0;
-    const double nearest = std::nearbyint(value);
-    // Compared before it is converted: what lies beyond the range of the type has no whole number there.
-    if (nearest <= static_cast<double>(lowest)) return lowest;
-    if (nearest >= static_cast<double>(highest)) return highest;
-    return static_cast<std::int64_t>(nearest);
-}
-
 void VisitColour(PropertyVisitor& visitor, std::string_view name, int& field) {
     VisitProperty(
         visitor, name, PropertyKind::Colour, [&field] { return field; },

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/numbers.h"
 #include "surface/font_properties.h"
 
 #include <algorithm>
 #include <cmath>
 #include <concepts>
-#include <cstdint>
 #include <functional>
 #include <limits>
 #include <string>
@@ -60,9 +60,6 @@ bool AsFlag(const PropertyValue& value);
 double AsNumber(const PropertyValue& value);
 std::string AsText(const PropertyValue& value);
 
-/// `value` rounded, a half going to the even neighbour, and brought into the range; NaN gives 0.
-std::int64_t RoundIntoRange(double value, std::int64_t lowest, std::int64_t highest);
-
 /// Back to the type of a field; a number that doesn't fit it is brought to its nearest value.
 template <class T>
 T FromPropertyValue(const PropertyValue& value) {
@@ -73,9 +70,9 @@ T FromPropertyValue(const PropertyValue& value) {
         const double number = AsNumber(value);
         return static_cast<T>(std::isnan(number) ? 0 : std::clamp(number, -highest, highest));
     } else if constexpr (std::integral<T>) {
-        static_assert(sizeof(T) <= sizeof(std::int32_t));
-        return static_cast<T>(
-            RoundIntoRange(AsNumber(value), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+        constexpr T lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();
+        static_assert(std::in_range<int>(lowest) && std::in_range<int>(highest));
+        return static_cast<T>(std::clamp<int>(RoundHalfEven(AsNumber(value)), lowest, highest));
     } else {
         return AsText(value);
     }

@@ -1,6 +1,7 @@
 #include "core/about.h"
 
 #include "base/files.h"
+#include "base/program_folders.h"
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
@@ -30,7 +31,7 @@ void PrintLine(PictureBox& board, float y, const std::string& text) {
 void PrintAboutText(Context& context) {
     PictureBox& board = context.main.LabelPic;
     board.surface.ForeColor = textColour;
-    const fs::path file = Beneath(context.services.applicationFolder, "\\Data\\About.inf");
+    const fs::path file = context.services.applicationFolder / program_folder::data / "About.inf";
     if (const auto bytes = ReadFile(file, largestText)) {
         float y = firstLine;
         for (const std::string& line : Lines(FromCodePage(AsText(*bytes)))) {

@@ -4,8 +4,8 @@
 
 namespace coinlet {
 
-/// The cliparts that the user has: sheets in a folder of the application folder, with names of a pattern.
-constexpr std::string_view clipartFolder = "\\Cliparts", clipartSheetPattern = "*.art";
+/// The names of the sheets that the user's cliparts stand on.
+constexpr std::string_view clipartSheetPattern = "*.art";
 
 /// How many cliparts a sheet has, side by side.
 constexpr int clipartsASheet = 5;

@@ -2,6 +2,7 @@
 
 #include "base/desktop.h"
 #include "base/files.h"
+#include "base/program_folders.h"
 #include "core/context.h"
 #include "core/language.h"
 #include "core/main_form.h"
@@ -16,7 +17,7 @@ HelpMenu::HelpMenu(Context& context) : context_(context) {
     MainForm& main = context.main;
     Desktop& desktop = context.services.desktop;
     main.HelpHelp.Click = [this] { HelpHelp_Click(); };
-    main.HelpColorCodes.Click = [this] { OpenDocument("\\Help\\PMS-Colors.htm"); };
+    main.HelpColorCodes.Click = [this] { OpenDocument("PMS-Colors.htm"); };
     main.HelpInfo.Click = [&desktop] { desktop.OpenDocument(std::string(web::site)); };
     main.HelpMeerSoftware.Click = [&desktop] { desktop.OpenDocument(std::string(web::moreSoftware)); };
     main.HelpDownloads.Click = [&desktop] { desktop.OpenDocument(std::string(web::moreCliparts)); };
@@ -27,7 +28,7 @@ HelpMenu::HelpMenu(Context& context) : context_(context) {
 void HelpMenu::HelpHelp_Click() {
     // The language's name may come from a settings file that somebody else wrote.
     const std::string fileName = context_.session.LanguageName + ".pdf";
-    if (IsFileName(fileName)) OpenDocument("\\Help\\" + fileName);
+    if (IsFileName(fileName)) OpenDocument(fileName);
 }
 
 void HelpMenu::HelpTaal_Click(int index) {
@@ -41,7 +42,7 @@ void HelpMenu::HelpTaal_Click(int index) {
 
 void HelpMenu::HelpScreen_Click(int index) {
     if (index != 1) {
-        OpenDocument("\\Help\\Beeldscherm.pdf");
+        OpenDocument("Beeldscherm.pdf");
         return;
     }
     const ScreenState& screen = context_.services.platform.Screen;
@@ -54,8 +55,9 @@ void HelpMenu::HelpScreen_Click(int index) {
     context_.services.platform.ShowMessage({.prompt = text, .title = " Screeninfo"});
 }
 
-void HelpMenu::OpenDocument(std::string_view literal) {
-    context_.services.desktop.OpenDocument(Beneath(context_.services.applicationFolder, literal).string());
+void HelpMenu::OpenDocument(std::string_view fileName) {
+    const Services& services = context_.services;
+    services.desktop.OpenDocument((services.applicationFolder / program_folder::help / fileName).string());
 }
 
 }  // namespace coinlet

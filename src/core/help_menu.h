@@ -15,7 +15,7 @@ private:
     void HelpHelp_Click();
     void HelpTaal_Click(int index);
     void HelpScreen_Click(int index);
-    void OpenDocument(std::string_view literal);
+    void OpenDocument(std::string_view fileName);
 
     Context& context_;
 };

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/program.h"
+#include "base/program_folders.h"
 #include "base/text.h"
 #include "core/context.h"
 #include "core/main_form.h"
@@ -38,8 +39,7 @@ void LoadLanguage(Context& context, const std::string& languageName) {
 
     const std::string fileName = languageName + ".txt";
     if (IsFileName(fileName)) {
-        const fs::path path = Beneath(context.services.applicationFolder, "\\Data") / fileName;
-        AddRowsOfFile(main.InfoList, path);
+        AddRowsOfFile(main.InfoList, context.services.applicationFolder / program_folder::data / fileName);
     }
 
     const auto named = std::ranges::find(languages, languageName, &Language::name);

@@ -17,11 +17,12 @@ struct Material {
     constexpr Colour Shade() const { return RGB(red, green, blue); }
 };
 
-constexpr std::array<Material, 4> materials{{
-    {"Black Nickel", 0, 0, 0, 0},
-    {"Shiny Copper", 228, 112, 30, 100},
-    {"Shiny Silver", 128, 128, 132, 200},
-    {"Shiny Gold", 240, 173, 0, 300},
-}};
+constexpr Material blackNickel{"Black Nickel", 0, 0, 0, 0};
+constexpr Material shinyCopper{"Shiny Copper", 228, 112, 30, 100};
+constexpr Material shinySilver{"Shiny Silver", 128, 128, 132, 200};
+constexpr Material shinyGold{"Shiny Gold", 240, 173, 0, 300};
+
+/// In the order of the dialogs.
+constexpr std::array<Material, 4> materials{blackNickel, shinyCopper, shinySilver, shinyGold};
 
 }  // namespace coinlet

@@ -58,7 +58,7 @@ struct Session {
     /// The folder that the image browser lists.
     std::string ImageFolder;
     std::string LanguageName{languages[0].name};
-    std::string MaterialName = std::string(materials[0].name);
+    std::string MaterialName{blackNickel.name};
     std::int16_t MaterialRed = 0, MaterialGreen = 0, MaterialBlue = 0;
     /// The fill colour of the present pick. Red and green keep the text they came from, a number's decimal
     /// form or a field of the colour table, since the table is searched by that text.

@@ -8,7 +8,7 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::string_view settingsFile = "\\Coinlet.ini";
+constexpr std::string_view settingsFile = "Coinlet.ini";
 constexpr std::string_view banner = "Ivo Kestrell Software ® 2014";
 constexpr std::string_view rule = "----------------------------";
 constexpr std::size_t languageLine = 2;
@@ -17,7 +17,7 @@ constexpr std::size_t largestSettings = std::size_t{1} << 20;
 }  // namespace
 
 std::optional<std::string> ReadLanguageSetting(const fs::path& applicationFolder) {
-    const auto bytes = ReadFile(Beneath(applicationFolder, settingsFile), largestSettings);
+    const auto bytes = ReadFile(applicationFolder / settingsFile, largestSettings);
     if (!bytes) return {};
     const std::vector<std::string> lines = Lines(FromCodePage(AsText(*bytes)));
     if (lines.size() <= languageLine) return {};
@@ -30,7 +30,7 @@ std::error_code WriteLanguageSetting(const fs::path& applicationFolder, const st
     std::string text;
     for (const std::string_view line : {banner, rule, std::string_view(languageName)})
         text.append(line).append("\r\n");
-    return ReplaceFile(Beneath(applicationFolder, settingsFile), AsBytes(ToCodePage(text)), calls);
+    return ReplaceFile(applicationFolder / settingsFile, AsBytes(ToCodePage(text)), calls);
 }
 
 }  // namespace coinlet

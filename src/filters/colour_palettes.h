@@ -52,9 +52,9 @@ constexpr std::array<ColourPalette, 11> colourPalettes{{
      {palette_colours::green, palette_colours::blue, palette_colours::red, white, black}},
     {"Example6", palette_colours::mixed, palette_colours::mixed},
     {"Example7", palette_colours::plain, {white, white, white, black, white}},
-    MetalPalette(materials[1]),
-    MetalPalette(materials[2]),
-    MetalPalette(materials[3]),
+    MetalPalette(shinyCopper),
+    MetalPalette(shinySilver),
+    MetalPalette(shinyGold),
 }};
 
 }  // namespace coinlet

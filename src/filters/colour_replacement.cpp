@@ -46,7 +46,7 @@ void PaletteTargets::Replace(std::span<Pixel> pixels, const PaletteColours& resu
 
 void ReplaceDarkPixels(std::span<Pixel> pixels, Metal metal) {
     // Copper is meant to come out as a strong red, unlike the box that stands for it.
-    constexpr std::array colours{RGB(228, 11, 30), materials[2].Shade(), materials[3].Shade()};
+    constexpr std::array colours{RGB(228, 11, 30), shinySilver.Shade(), shinyGold.Shade()};
     constexpr Pixel darkBelow = 50;
     const Pixel ink = ToPixel(colours.at(static_cast<std::size_t>(metal)));
     for (Pixel& pixel : pixels) {

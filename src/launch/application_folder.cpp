@@ -1,6 +1,7 @@
 #include "launch/application_folder.h"
 
 #include "base/file_reading.h"
+#include "base/program_folders.h"
 #include "base/text.h"
 
 #include <unistd.h>
@@ -17,10 +18,9 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::string_view folderOfTexts = "Data";
-constexpr std::array<std::string_view, 6> readFolders{"Borders", "Cliparts", folderOfTexts,
-                                                      "Fonts",   "Help",     "Images"};
-constexpr std::array<std::string_view, 2> changedFolders{"Ontwerpen", "Collection"};
+constexpr std::array readFolders{program_folder::borders, program_folder::cliparts, program_folder::data,
+                                 program_folder::fonts,   program_folder::help,     program_folder::images};
+constexpr std::array changedFolders{program_folder::designs, program_folder::collection};
 constexpr std::string_view handedOutList = ".handed-out";
 constexpr std::string_view ownFolder = "coinlet-designer";
 
@@ -32,7 +32,7 @@ bool MakeFolder(const fs::path& folder) {
 
 bool HoldsDeliveredData(const fs::path& folder) {
     std::error_code error;
-    return fs::is_directory(folder / folderOfTexts, error);
+    return fs::is_directory(folder / program_folder::data, error);
 }
 
 /// All names in a folder, whatever they stand for.
@@ -48,9 +48,9 @@ std::set<std::string> Names(const fs::path& folder) {
 /// A folder that came here whole has files where one that was filled has links.
 bool WasCarriedHere(const fs::path& folder, const fs::path& delivered) {
     bool holdsFiles = false;
-    for (const std::string& name : Names(delivered / folderOfTexts)) {
+    for (const std::string& name : Names(delivered / program_folder::data)) {
         std::error_code error;
-        const fs::file_status status = fs::symlink_status(folder / folderOfTexts / name, error);
+        const fs::file_status status = fs::symlink_status(folder / program_folder::data / name, error);
         if (fs::is_symlink(status)) return false;
         holdsFiles = holdsFiles || fs::is_regular_file(status);
     }

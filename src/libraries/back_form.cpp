@@ -1,6 +1,7 @@
 #include "libraries/back_form.h"
 
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
@@ -25,8 +26,8 @@ constexpr Rectangle oneBack{0, 0, backSide, backSide};
 constexpr CellRow backRow{backsARow, backSide, backSide, 2};
 
 fs::path FileOf(const Context& context, int collection, const std::string& extension) {
-    return Beneath(context.services.applicationFolder,
-                   "\\Data\\Back-" + std::to_string(collection) + extension);
+    return context.services.applicationFolder / program_folder::data /
+           ("Back-" + std::to_string(collection) + extension);
 }
 
 }  // namespace

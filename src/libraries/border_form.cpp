@@ -1,5 +1,6 @@
 #include "libraries/border_form.h"
 
+#include "base/program_folders.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/main_form.h"
@@ -18,8 +19,6 @@
 namespace coinlet {
 
 namespace {
-
-constexpr std::string_view libraryFolder = "\\Borders";
 
 constexpr int tagSide = 100, holeSide = 100;  // pixels
 constexpr Rectangle fullSize{0, 0, borderSide, borderSide};
@@ -70,7 +69,7 @@ BorderForm::BorderForm(Context& context)
 
 void BorderForm::Form_Load() {
     File1.SetPattern("*.gif");
-    File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
+    File1.SetPath((context_.services.applicationFolder / program_folder::borders).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         List1.AddItem(File1.List(i));
     // Chosen like any other, the first border is shown.
@@ -99,7 +98,7 @@ int BorderForm::HoleColumn() const {
 }
 
 void BorderForm::List1_Click() {
-    const fs::path folder = Beneath(context_.services.applicationFolder, libraryFolder);
+    const fs::path folder = context_.services.applicationFolder / program_folder::borders;
     // A file that is no picture leaves the former border.
     if (const auto strip = LoadPicture(folder / List1.Text(), context_.services.codecs))
         BackPic.surface.SetPicture(*strip);

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "controls/hourglass.h"
 #include "core/clipart_library.h"
 #include "core/context.h"
@@ -51,7 +52,7 @@ ClipartForm::ClipartForm(Context& context)
 void ClipartForm::Form_Load() {
     Label6.Caption = LookupInfoText(context_, key::clipartHelp);
     File1.SetPattern(std::string(clipartSheetPattern));
-    File1.SetPath(Beneath(context_.services.applicationFolder, clipartFolder).string());
+    File1.SetPath((context_.services.applicationFolder / program_folder::cliparts).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         Combo1.AddItem(File1.List(i));
     Combo1.SetFocus();

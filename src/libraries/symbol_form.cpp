@@ -3,6 +3,7 @@
 #include "base/file_name.h"
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "controls/hourglass.h"
 #include "core/context.h"
 #include "core/dialog.h"
@@ -18,7 +19,6 @@ namespace coinlet {
 
 namespace {
 
-constexpr std::string_view libraryFolder = "\\Fonts";
 constexpr std::string_view extension = ".ttf";
 
 }  // namespace
@@ -39,7 +39,7 @@ SymbolForm::SymbolForm(Context& context)
 
 void SymbolForm::Form_Load() {
     File1.SetPattern("*" + std::string(extension));
-    File1.SetPath(Beneath(context_.services.applicationFolder, libraryFolder).string());
+    File1.SetPath((context_.services.applicationFolder / program_folder::fonts).string());
     for (int i = 0; i < File1.ListCount(); ++i)
         Combo1.AddItem(WithoutExtension(File1.List(i)));
     Combo1.SetListIndex(0);

@@ -1,9 +1,11 @@
 #include "store/design_files.h"
 
+#include "base/program_folders.h"
+
 namespace coinlet {
 
 std::string DesignFile(const fs::path& applicationFolder, std::string_view name, std::string_view extension) {
-    std::string file = (Beneath(applicationFolder, designFolder) / "").string();
+    std::string file = (applicationFolder / program_folder::designs / "").string();
     return file.append(name).append(extension);
 }
 

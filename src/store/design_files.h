@@ -10,7 +10,6 @@ namespace coinlet {
 
 // A design is two files of one name in the folder of designs, which lies in the application folder: its
 // picture, and if it has one its info text.
-constexpr std::string_view designFolder = "\\Ontwerpen";
 constexpr std::string_view designPicture = ".pat";
 constexpr std::string_view designInfoText = ".txt";
 

@@ -1,6 +1,7 @@
 #include "store/open_file.h"
 
 #include "base/files.h"
+#include "base/program_folders.h"
 #include "core/context.h"
 #include "core/dialog.h"
 #include "core/language.h"
@@ -28,7 +29,7 @@ OpenFile::OpenFile(Context& context) : Form(context.services.ForForms(), "OpenFi
 void OpenFile::Form_Load() {
     Label2.Caption = LookupInfoText(context_, key::openFileHelp);
     File1.SetPattern("*" + std::string(designPicture));
-    File1.SetPath(Beneath(context_.services.applicationFolder, designFolder).string());
+    File1.SetPath((context_.services.applicationFolder / program_folder::designs).string());
     for (int i = 0; i < File1.ListCount(); ++i) {
         List1.AddItem(WithoutExtension(File1.List(i)));
         files_.push_back(fs::path(File1.Path()) / File1.List(i));

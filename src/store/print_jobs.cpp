@@ -2,6 +2,7 @@
 
 #include "base/clock.h"
 #include "base/files.h"
+#include "base/program_folders.h"
 #include "controls/file_boxes.h"
 #include "core/clipart_library.h"
 #include "core/context.h"
@@ -100,7 +101,7 @@ void PrintPictures(const Context& context, const SheetLayout& sheets, const File
 void ListFolder(FileListBox& files, const Context& context, std::string_view folder,
                 std::string_view pattern) {
     files.SetPattern(std::string(pattern));
-    files.SetPath(Beneath(context.services.applicationFolder, folder).string());
+    files.SetPath((context.services.applicationFolder / folder).string());
 }
 
 bool UserWantsPages(Platform& platform, int files) {
@@ -137,7 +138,7 @@ void PrintDesign(const Context& context, double copies, bool withInfoText) {
 
 void PrintAllDesigns(const Context& context, FileListBox& files, Surface& picture) {
     Printer& printer = context.services.printer;
-    ListFolder(files, context, designFolder, "*" + std::string(designPicture));
+    ListFolder(files, context, program_folder::designs, "*" + std::string(designPicture));
     const PrintJob job(context.services, PageOrientation::Portrait);
     printer.Print(sheetLeft, 600, headerFont, headerColour,
                   Header(context.services.clock, std::to_string(files.ListCount()) + " Designs"));
@@ -147,7 +148,7 @@ void PrintAllDesigns(const Context& context, FileListBox& files, Surface& pictur
 void PrintAllCliparts(const Context& context, FileListBox& files, Surface& picture) {
     constexpr double boxHeight = 1260;
     Printer& printer = context.services.printer;
-    ListFolder(files, context, clipartFolder, clipartSheetPattern);
+    ListFolder(files, context, program_folder::cliparts, clipartSheetPattern);
     if (!UserWantsPages(context.services.platform, files.ListCount())) return;
     const PrintJob job(context.services, PageOrientation::Portrait);
     printer.FeedPage();  // A library without a sheet is an empty page.

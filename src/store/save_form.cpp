@@ -30,7 +30,7 @@ constexpr Colour barColour = RGB(0, 240, 0);
 class ScratchBitmap {
 public:
     ScratchBitmap(const fs::path& folder, const Image& image)
-        : path_(Beneath(folder, "\\mydummy.bmp")), bytes_(EncodeBmp(image).value_or(Bytes())) {
+        : path_(folder / "mydummy.bmp"), bytes_(EncodeBmp(image).value_or(Bytes())) {
         written_ = !bytes_.empty() && !ReplaceFile(path_, bytes_, SystemFileCalls(), Links::Replaced);
     }
     ScratchBitmap(const ScratchBitmap&) = delete;

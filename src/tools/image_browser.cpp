@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/program_folders.h"
 #include "base/text.h"
 #include "controls/hourglass.h"
 #include "core/context.h"
@@ -24,7 +25,7 @@ namespace {
 constexpr std::string_view stockPattern = "*.bmp;*.jpg;*.gif", anyFoldersPattern = "*.jpg;*.gif;*.bmp";
 
 fs::path StockFolder(const Context& context) {
-    return Beneath(context.services.applicationFolder, "\\Images");
+    return context.services.applicationFolder / program_folder::images;
 }
 
 /// Fills the list with the pictures of the session's image folder that match `pattern`.

@@ -112,11 +112,9 @@ private:
         if (found && LowerCase(found->filename().string()) != LowerCase(name)) return "another file is found";
         if (found && !FileExists(*found)) return "a file is found that isn't there";
         const std::string bare = WithoutExtension(name);
-        if (bare.size() + 4 != std::max<std::size_t>(4, name.size()) || !name.starts_with(bare))
-            return "another extension";
-        // Whatever a literal holds, ".." aside, it lies beneath the folder.
-        const std::string beneath = Beneath(Store(), name).string();
-        return beneath.starts_with(Store().string()) ? "" : "a literal leaves its folder";
+        const bool isBare =
+            bare.size() + 4 == std::max<std::size_t>(4, name.size()) && name.starts_with(bare);
+        return isBare ? "" : "another extension";
     }
 
     std::string FaultOfDesign(const std::string& name) const {

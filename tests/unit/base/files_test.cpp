@@ -209,21 +209,5 @@ TEST(IsFileName, RefusesWhatLeadsElsewhere) {
     EXPECT_FALSE(IsFileName(std::string_view("\0", 1)));
 }
 
-TEST(Beneath, TurnsBackslashesIntoSeparators) {
-    EXPECT_EQ(Beneath("/app", "\\Data\\English.txt"), fs::path("/app/Data/English.txt"));
-    EXPECT_EQ(Beneath("/app", "Coinlet.ini"), fs::path("/app/Coinlet.ini"));
-    EXPECT_EQ(Beneath("/app", "\\Images\\"), fs::path("/app/Images"));
-    EXPECT_EQ(Beneath("/app", ""), fs::path("/app"));
-}
-
-TEST(Beneath, CountsDoubledSeparatorsAsOne) {
-    EXPECT_EQ(Beneath("/app", "\\\\Borders\\\\\\a.gif"), fs::path("/app/Borders/a.gif"));
-}
-
-TEST(Beneath, NeverLeavesTheFolderForAnAbsolutePath) {
-    EXPECT_EQ(Beneath("/app", "/etc/passwd"), fs::path("/app/etc/passwd"));
-    EXPECT_EQ(Beneath("/app", "\\//etc"), fs::path("/app/etc"));
-}
-
 }  // namespace
 }  // namespace coinlet

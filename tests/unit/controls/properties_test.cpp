@@ -35,16 +35,15 @@ struct Properties : PropertyVisitor {
     std::vector<Property> all;
 };
 
-TEST(RoundIntoRange, TakesRangesBeyondInt) {
-    constexpr std::int64_t highest = std::numeric_limits<std::uint32_t>::max();
-    EXPECT_EQ(RoundIntoRange(3'000'000'000.5, 0, highest), 3'000'000'000);
-    EXPECT_EQ(RoundIntoRange(3'000'000'001.5, 0, highest), 3'000'000'002);
-    EXPECT_EQ(RoundIntoRange(5e9, 0, highest), highest);
-    EXPECT_EQ(RoundIntoRange(-1, 0, highest), 0);
-    EXPECT_EQ(RoundIntoRange(-2.5, -128, 127), -2);
-    EXPECT_EQ(RoundIntoRange(-1e300, -128, 127), -128);
-    EXPECT_EQ(RoundIntoRange(std::numeric_limits<double>::quiet_NaN(), -128, 127), 0);
-    EXPECT_EQ(RoundIntoRange(std::numeric_limits<double>::infinity(), -128, 127), 127);
+TEST(FromPropertyValue, RoundsAndBringsIntoTheRangeOfTheField) {
+    constexpr auto ToField = FromPropertyValue<std::int16_t>;
+    EXPECT_EQ(ToField(300.5), 300);
+    EXPECT_EQ(ToField(301.5), 302);
+    EXPECT_EQ(ToField(-2.5), -2);
+    EXPECT_EQ(ToField(32'767.5), 32'767);
+    EXPECT_EQ(ToField(-1e300), -32'768);
+    EXPECT_EQ(ToField(std::numeric_limits<double>::infinity()), 32'767);
+    EXPECT_EQ(ToField(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
 struct Events : EventVisitor {
