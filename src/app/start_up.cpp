@@ -16,7 +16,6 @@
 #include "core/rulers.h"
 #include "core/settings.h"
 #include "core/side_panel.h"
-#include "store/design_files.h"
 #include "tools/image_browser.h"
 
 #include <string>

@@ -38,9 +38,8 @@ void LoadLanguage(Context& context, const std::string& languageName) {
     main.InfoList.Clear();
 
     const std::string fileName = languageName + ".txt";
-    if (IsFileName(fileName)) {
+    if (IsFileName(fileName))
         AddRowsOfFile(main.InfoList, context.services.applicationFolder / program_folder::data / fileName);
-    }
 
     const auto named = std::ranges::find(languages, languageName, &Language::name);
     const auto shown = named != languages.end() ? named : languages.end() - 1;
